@@ -1,0 +1,233 @@
+#include "Placement.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace worldgen {
+
+namespace {
+
+constexpr int BorderGap = 36;     ///< the painted frame, and room for half a marker
+constexpr int MarkerSpacing = 16; ///< one pixel more than the widest marker
+constexpr int ZoneSpacing = 60;
+constexpr int MarkerHalf = 8;
+constexpr int NameHeight = 16;
+constexpr int MarkerReach = 120;
+constexpr int TriesPerRing = 48;
+
+SiteRole roleOf(ZoneKind kind) {
+    switch (kind) {
+    case ZoneKind::Outpost:
+        return SiteRole::Outpost;
+    case ZoneKind::Mission:
+        return SiteRole::Mission;
+    case ZoneKind::Town:
+        return SiteRole::Town;
+    case ZoneKind::Challenge:
+        return SiteRole::Challenge;
+    case ZoneKind::DungeonEntrance:
+        return SiteRole::DungeonEntrance;
+    case ZoneKind::Area:
+        break;
+    }
+    return SiteRole::Area;
+}
+
+QSize markerSize(const SourceZone& zone) {
+    const int set = zone.campaign == 4 ? 1 : std::clamp(zone.campaign, 1, 3);
+    switch (zone.kind) {
+    case ZoneKind::Area:
+        return zone.marker ? QSize(24, 29) : QSize(2, 0);
+    case ZoneKind::Outpost:
+        return set == 1 ? QSize(22, 24) : set == 2 ? QSize(35, 42) : QSize(38, 38);
+    case ZoneKind::Mission:
+        return set == 1 ? QSize(32, 47) : set == 2 ? QSize(45, 47) : QSize(64, 61);
+    case ZoneKind::Town:
+        return set == 1 ? QSize(32, 36) : set == 2 ? QSize(60, 51) : QSize(62, 61);
+    case ZoneKind::Challenge:
+        return set == 2 ? QSize(44, 51) : QSize(59, 68);
+    case ZoneKind::DungeonEntrance:
+        return QSize(29, 25);
+    }
+    return {};
+}
+
+bool liesIn(const SourceRegion& region, const SourceZone& zone) {
+    return zone.campaign == region.campaign && zone.region == region.number;
+}
+
+/// Places the markers of one region layer after layer.
+class RegionFiller {
+  public:
+    RegionFiller(const WorldSource& source, const SourceRegion& region, const PaintedRegion& painted,
+                 WorldPlaces& places)
+        : source_(source), region_(region), places_(places),
+          finder_(
+              region.size, [&painted](QPoint place) { return painted.land(place); },
+              quint64(region.seed) * 7919 + 17),
+          centre_(region.size.width() / 2, region.size.height() / 2) {}
+
+    void fillZones(const PaintedRegion& painted);
+    template <typename Records>
+    void fill(const Records& records, std::vector<QPoint>& places);
+
+  private:
+    QPoint place(QPoint near, int reach, int spacing);
+
+    const WorldSource& source_;
+    const SourceRegion& region_;
+    WorldPlaces& places_;
+    PlaceFinder finder_;
+    QPoint centre_;
+};
+
+QPoint RegionFiller::place(QPoint near, int reach, int spacing) {
+    for (int wanted = spacing; wanted > 0; wanted /= 2) {
+        if (const auto found = finder_.placeNear(near, reach, wanted)) {
+            return *found;
+        }
+    }
+    return near;
+}
+
+void RegionFiller::fillZones(const PaintedRegion& painted) {
+    std::size_t site = 0;
+    for (std::size_t i = 0; i < source_.zones.size(); ++i) {
+        const SourceZone& zone = source_.zones[i];
+        if (liesIn(region_, zone) && zone.painted) {
+            places_.zones[i] = painted.sites.at(site++);
+            finder_.block(zoneFootprint(zone, places_.zones[i]));
+        }
+    }
+    for (std::size_t i = 0; i < source_.zones.size(); ++i) {
+        const SourceZone& zone = source_.zones[i];
+        if (liesIn(region_, zone) && !zone.painted) {
+            places_.zones[i] =
+                place(centre_, std::max(region_.size.width(), region_.size.height()), ZoneSpacing);
+        }
+    }
+}
+
+template <typename Records>
+void RegionFiller::fill(const Records& records, std::vector<QPoint>& places) {
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const int zone = records[i].zone;
+        if (zone >= 0 && liesIn(region_, source_.zones[std::size_t(zone)])) {
+            places[i] = place(places_.zones[std::size_t(zone)], MarkerReach, MarkerSpacing);
+        }
+    }
+}
+
+} // namespace
+
+PlaceFinder::PlaceFinder(QSize picture, std::function<bool(QPoint)> land, quint64 seed)
+    : inner_(QRect(QPoint(0, 0), picture).adjusted(BorderGap, BorderGap, -BorderGap, -BorderGap)),
+      land_(std::move(land)), state_(seed) {
+}
+
+quint32 PlaceFinder::random() {
+    state_ += 0x9E3779B97F4A7C15ULL;
+    quint64 mixed = state_;
+    mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9ULL;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBULL;
+    return quint32(mixed >> 32);
+}
+
+bool PlaceFinder::isFree(QPoint place, int spacing) const {
+    const auto covers = [&](const QRect& area) { return area.contains(place); };
+    const auto tooNear = [&](QPoint other) {
+        const QPoint gap = other - place;
+        return gap.x() * gap.x() + gap.y() * gap.y() < spacing * spacing;
+    };
+    return inner_.contains(place) && std::none_of(blocked_.begin(), blocked_.end(), covers) &&
+           std::none_of(taken_.begin(), taken_.end(), tooNear) && land_(place);
+}
+
+/// Draws points from the square around the centre and keeps those inside the circle: whole numbers only, so
+/// that no machine rounds differently.
+std::optional<QPoint> PlaceFinder::tryRing(QPoint centre, int reach, int spacing) {
+    const quint32 side = quint32(2 * reach + 1);
+    for (int i = 0; i < TriesPerRing; ++i) {
+        const QPoint offset(int(random() % side) - reach, int(random() % side) - reach);
+        const bool inCircle = offset.x() * offset.x() + offset.y() * offset.y() <= reach * reach;
+        if (inCircle && isFree(centre + offset, spacing)) {
+            return centre + offset;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<QPoint> PlaceFinder::searchAll(QPoint centre, int spacing) const {
+    constexpr int Step = 5;
+    std::optional<QPoint> best;
+    for (int y = inner_.top(); y <= inner_.bottom(); y += Step) {
+        for (int x = inner_.left(); x <= inner_.right(); x += Step) {
+            const QPoint place(x, y);
+            const bool nearer =
+                !best || (place - centre).manhattanLength() < (*best - centre).manhattanLength();
+            if (nearer && isFree(place, spacing)) {
+                best = place;
+            }
+        }
+    }
+    return best;
+}
+
+std::optional<QPoint> PlaceFinder::placeNear(QPoint centre, int reach, int spacing) {
+    const int farthest = std::max(inner_.width(), inner_.height());
+    std::optional<QPoint> found;
+    for (int radius = reach; !found && radius < 2 * farthest; radius += radius / 2 + 1) {
+        found = tryRing(centre, radius, spacing);
+    }
+    if (!found) {
+        found = searchAll(centre, spacing);
+    }
+    if (found) {
+        taken_.push_back(*found);
+    }
+    return found;
+}
+
+WorldPlaces::WorldPlaces(const WorldSource& source)
+    : zones(source.zones.size()), bosses(source.bosses.size()), collectors(source.collectors.size()),
+      chests(source.chests.size()), petPlaces(source.petPlaces.size()) {
+}
+
+QRect zoneFootprint(const SourceZone& zone, QPoint place) {
+    constexpr int HalfLetter = 4;
+    const int nameHalf = HalfLetter * int(zone.name.size()) + MarkerHalf;
+    const QSize marker = markerSize(zone);
+    const int down = marker.height() / 2 + 1;
+    const bool nameOnly = zone.kind == ZoneKind::Area && !zone.marker;
+    const QRect name = nameOnly ? QRect(-nameHalf, -NameHeight / 2, 2 * nameHalf, NameHeight)
+                                : QRect(-nameHalf, down, 2 * nameHalf, NameHeight);
+    const QRect picture(-marker.width() / 2, -down, marker.width(), 2 * down);
+    constexpr int Clear = 12;
+    const QRect least(-20, -20, 40, 40);
+    return name.adjusted(0, -MarkerHalf, 0, MarkerHalf)
+        .united(picture.adjusted(-Clear, -Clear, Clear, Clear))
+        .united(least)
+        .translated(place);
+}
+
+RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
+    RegionRecipe recipe{region.seed, region.size, region.theme, region.campaign, region.name, {}};
+    for (const SourceZone& zone : source.zones) {
+        if (liesIn(region, zone) && zone.painted) {
+            recipe.sites.push_back({zone.name, roleOf(zone.kind), zone.nearTo});
+        }
+    }
+    return recipe;
+}
+
+void placeRegion(const WorldSource& source, const SourceRegion& region, const PaintedRegion& painted,
+                 WorldPlaces& places) {
+    RegionFiller filler(source, region, painted, places);
+    filler.fillZones(painted);
+    filler.fill(source.chests, places.chests);
+    filler.fill(source.collectors, places.collectors);
+    filler.fill(source.bosses, places.bosses);
+    filler.fill(source.petPlaces, places.petPlaces);
+}
+
+} // namespace worldgen

@@ -1,0 +1,214 @@
+#include "WorldBuilder.h"
+
+#include "Placement.h"
+#include "WorldFiles.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QSaveFile>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+#include <thread>
+
+namespace worldgen {
+
+namespace {
+
+constexpr int JpegQuality = 90;
+
+/// Runs `work(0)` .. `work(count - 1)` on all processors and returns when all are done.
+void inParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
+    std::atomic<std::size_t> next = 0;
+    std::vector<std::jthread> workers;
+    const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
+    for (std::size_t i = 0; i < std::min(count, processors); ++i) {
+        workers.emplace_back([&] {
+            for (std::size_t item = next++; item < count; item = next++) {
+                work(item);
+            }
+        });
+    }
+}
+
+class Builder {
+  public:
+    Builder(const WorldSource& source, const QString& worldFolder, const QString& outFolder)
+        : source_(source), worldFolder_(worldFolder), outFolder_(outFolder + u'/'), places_(source) {}
+
+    QStringList build();
+
+  private:
+    void makeFolders();
+    void copyData();
+    void paintRegions();
+    void paintSkills();
+    void paintPets();
+    void writeTables();
+    void save(const QString& name, const QByteArray& bytes);
+    void savePicture(const QString& name, const QImage& picture);
+    void reuse(const QString& name, const QString& original);
+    void problem(const QString& what);
+    QString folderOf(int campaign) const;
+
+    const WorldSource& source_;
+    QString worldFolder_;
+    QString outFolder_;
+    WorldPlaces places_;
+    std::mutex problemsLock_;
+    QStringList problems_;
+};
+
+void Builder::problem(const QString& what) {
+    const std::lock_guard lock(problemsLock_);
+    problems_.append(what);
+}
+
+QString Builder::folderOf(int campaign) const {
+    const auto found = std::find_if(source_.campaigns.begin(), source_.campaigns.end(),
+                                    [&](const SourceCampaign& known) { return known.number == campaign; });
+    return found == source_.campaigns.end() ? QString() : campaignFolder(*found) + u'/';
+}
+
+void Builder::save(const QString& name, const QByteArray& bytes) {
+    QSaveFile file(outFolder_ + name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()) {
+        file.cancelWriting();
+    }
+    if (!file.commit()) {
+        problem(file.fileName() + u": "_qs + file.errorString());
+    }
+}
+
+void Builder::savePicture(const QString& name, const QImage& picture) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "jpg");
+    writer.setQuality(JpegQuality);
+    if (!writer.write(picture)) {
+        problem(name + u": "_qs + writer.errorString());
+        return;
+    }
+    save(name, bytes);
+}
+
+void Builder::reuse(const QString& name, const QString& original) {
+    QFile picture(outFolder_ + original);
+    if (!picture.open(QIODevice::ReadOnly)) {
+        problem(picture.fileName() + u": "_qs + picture.errorString());
+        return;
+    }
+    save(name, picture.readAll());
+}
+
+void Builder::makeFolders() {
+    const QDir out(outFolder_);
+    out.mkpath(u"Data"_qs);
+    for (const SourceCampaign& campaign : source_.campaigns) {
+        out.mkpath(campaignFolder(campaign) + u"/imgElite"_qs);
+    }
+    out.mkpath(folderOf(0) + u"imgPets"_qs);
+}
+
+void Builder::copyData() {
+    const QDir data(worldFolder_ + u"/Data"_qs);
+    QDirIterator files(data.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString name = data.relativeFilePath(files.next());
+        QFile file(files.filePath());
+        if (name.compare(u"Options.txt", Qt::CaseInsensitive) == 0) {
+            continue;
+        }
+        if (!file.open(QIODevice::ReadOnly)) {
+            problem(file.fileName() + u": "_qs + file.errorString());
+            continue;
+        }
+        QDir(outFolder_).mkpath(QFileInfo(u"Data/"_qs + name).path());
+        save(u"Data/"_qs + name, file.readAll());
+    }
+}
+
+void Builder::paintRegions() {
+    inParallel(source_.regions.size(), [this](std::size_t i) {
+        const SourceRegion& region = source_.regions[i];
+        const PaintedRegion painted = paintRegion(recipeFor(source_, region));
+        placeRegion(source_, region, painted, places_);
+        savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_qs, painted.picture);
+    });
+}
+
+void Builder::paintSkills() {
+    inParallel(source_.skills.size(), [this](std::size_t i) {
+        const SourceSkill& skill = source_.skills[i];
+        const auto profession =
+            std::find_if(source_.professions.begin(), source_.professions.end(),
+                         [&](const SourceProfession& known) { return known.number == skill.profession; });
+        if (skill.pictureOf == 0) {
+            savePicture(folderOf(skill.campaign) + u"imgElite/"_qs + skillPicture(skill.id),
+                        paintSkillIcon(quint32(skill.id), profession->colour, skill.type));
+        }
+    });
+    for (const SourceSkill& skill : source_.skills) {
+        if (skill.pictureOf != 0) {
+            const QString folder = folderOf(skill.campaign) + u"imgElite/"_qs;
+            reuse(folder + skillPicture(skill.id), folder + skillPicture(skill.pictureOf));
+        }
+    }
+}
+
+void Builder::paintPets() {
+    const QString folder = folderOf(0) + u"imgPets/"_qs;
+    for (const SourcePet& pet : source_.pets) {
+        const QString name = folder + pet.idText + u".jpg"_qs;
+        if (pet.pictureOf.isEmpty()) {
+            savePicture(name, paintPet(pet.idText.toUInt(), pet.species));
+        } else {
+            reuse(name, folder + pet.pictureOf + u".jpg"_qs);
+        }
+    }
+}
+
+void Builder::writeTables() {
+    for (const SourceCampaign& campaign : source_.campaigns) {
+        for (const auto& [name, bytes] : campaignFiles(source_, places_, campaign, problems_)) {
+            save(campaignFolder(campaign) + u'/' + name, bytes);
+        }
+    }
+}
+
+QStringList Builder::build() {
+    makeFolders();
+    copyData();
+    paintRegions();
+    paintSkills();
+    paintPets();
+    writeTables();
+    return problems_;
+}
+
+} // namespace
+
+QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder) {
+    return Builder(source, worldFolder, outFolder).build();
+}
+
+QString noAttributeCaption(const QString& worldFolder) {
+    QFile file(worldFolder + u"/Data/Language.txt"_qs);
+    QString text;
+    if (file.open(QIODevice::ReadOnly)) {
+        text = QStringDecoder("windows-1252").decode(file.readAll());
+    }
+    for (const QString& line : text.split(u"\r\n"_qs)) {
+        if (line.startsWith(u"45\t")) {
+            return line.section(u'\t', 1, 1);
+        }
+    }
+    return u"No attribute"_qs;
+}
+
+} // namespace worldgen

@@ -1,0 +1,269 @@
+#include "WorldFiles.h"
+
+#include <QColor>
+#include <QStringEncoder>
+
+namespace worldgen {
+
+namespace {
+
+QString field(int number) {
+    return QString::number(number);
+}
+
+/// Collects the lines of one file.
+class Lines {
+  public:
+    void add(const QStringList& fields) { lines_.append(fields.join(u'\t')); }
+    void addLine(const QString& line) { lines_.append(line); }
+    bool isEmpty() const { return lines_.isEmpty(); }
+
+    QByteArray bytes(const QString& fileName, QStringList& problems) const {
+        QByteArray all;
+        for (const QString& line : lines_) {
+            QStringEncoder codePage("windows-1252");
+            all += QByteArray(codePage.encode(line)) + "\r\n";
+            if (!codePage.isValid() || codePage.hasError()) {
+                problems.append(fileName + u": not in the code page: "_qs + line);
+            }
+        }
+        return all;
+    }
+
+  private:
+    QStringList lines_;
+};
+
+/// One campaign's share of the world, file by file.
+class CampaignWriter {
+  public:
+    CampaignWriter(const WorldSource& source, const WorldPlaces& places, const SourceCampaign& campaign)
+        : source_(source), places_(places), campaign_(campaign) {}
+
+    Lines regions() const;
+    Lines zones() const;
+    Lines professions() const;
+    Lines skills() const;
+    Lines bosses() const;
+    Lines collectors() const;
+    Lines collectorPlaces() const;
+    Lines greens() const;
+    Lines chests() const;
+    Lines pets() const;
+    Lines petPlaces() const;
+
+  private:
+    template <typename Record>
+    bool isMine(const Record& record) const {
+        return record.campaign == campaign_.number;
+    }
+    const SourceZone& zone(int index) const { return source_.zones[std::size_t(index)]; }
+    QString bossCoordinate(int pixels) const;
+
+    const WorldSource& source_;
+    const WorldPlaces& places_;
+    const SourceCampaign& campaign_;
+};
+
+Lines CampaignWriter::regions() const {
+    Lines lines;
+    for (const SourceRegion& region : source_.regions) {
+        if (isMine(region)) {
+            lines.add({region.fileNumber, region.name});
+        }
+    }
+    return lines;
+}
+
+Lines CampaignWriter::zones() const {
+    Lines lines;
+    for (std::size_t i = 0; i < source_.zones.size(); ++i) {
+        const SourceZone& zone = source_.zones[i];
+        const QPoint place = places_.zones[i];
+        if (isMine(zone)) {
+            lines.add({field(zone.id), field(zone.region), field(int(zone.kind)), field(zone.marker ? 1 : 0),
+                       field(place.x()), field(place.y()), zone.name});
+        }
+    }
+    return lines;
+}
+
+/// Red lies in the low byte of a colour of the program.
+QString colourField(QRgb colour) {
+    const QString digits = u"%1%2%3"_qs.arg(qBlue(colour), 2, 16, QLatin1Char('0'))
+                               .arg(qGreen(colour), 2, 16, QLatin1Char('0'))
+                               .arg(qRed(colour), 2, 16, QLatin1Char('0'));
+    return u"&H"_qs + digits.toUpper();
+}
+
+Lines CampaignWriter::professions() const {
+    Lines lines;
+    for (const SourceProfession& profession : source_.professions) {
+        if (isMine(profession)) {
+            lines.add(QStringList{field(profession.number), profession.name, colourField(profession.colour),
+                                  profession.abbreviation} +
+                      profession.attributes);
+        }
+    }
+    return lines;
+}
+
+Lines CampaignWriter::skills() const {
+    Lines lines;
+    for (const SourceSkill& skill : source_.skills) {
+        if (isMine(skill)) {
+            lines.add({field(skill.id), field(skill.profession), skill.name, skill.attribute, skill.type,
+                       field(skill.upkeep), field(skill.adrenaline), field(skill.energy), skill.castTime,
+                       field(skill.recharge), skill.description});
+        }
+    }
+    return lines;
+}
+
+QString CampaignWriter::bossCoordinate(int pixels) const {
+    constexpr int TwipsPerPixel = 15;
+    const bool inPixels = !campaign_.version.isEmpty() && campaign_.version != u"1.0";
+    return field(inPixels ? pixels : pixels * TwipsPerPixel);
+}
+
+Lines CampaignWriter::bosses() const {
+    Lines lines;
+    for (std::size_t i = 0; i < source_.bosses.size(); ++i) {
+        const SourceBoss& boss = source_.bosses[i];
+        if (!isMine(boss)) {
+            continue;
+        }
+        if (lines.isEmpty() && !campaign_.version.isEmpty()) {
+            lines.addLine(u";[Version] "_qs + campaign_.version);
+        }
+        QStringList fields{field(boss.skill),
+                           field(zone(boss.zone).region),
+                           bossCoordinate(places_.bosses[i].x()),
+                           bossCoordinate(places_.bosses[i].y()),
+                           boss.name,
+                           boss.code,
+                           field(zone(boss.zone).id)};
+        if (!boss.note.isEmpty()) {
+            fields.append(boss.note);
+        }
+        lines.add(fields);
+    }
+    return lines;
+}
+
+Lines CampaignWriter::collectors() const {
+    Lines lines;
+    for (const SourceCollector& collector : source_.collectors) {
+        if (!isMine(collector)) {
+            continue;
+        }
+        lines.add(
+            {field(collector.id), collector.name, field(collector.armour ? 1 : 0), field(collector.level)});
+        lines.addLine(collector.whereabouts);
+        lines.addLine(collector.request);
+        for (const SourceReward& reward : collector.rewards) {
+            lines.add(QStringList{reward.name, field(reward.hands)} + reward.stats);
+        }
+        lines.addLine({});
+    }
+    return lines;
+}
+
+Lines CampaignWriter::collectorPlaces() const {
+    Lines lines;
+    for (std::size_t i = 0; i < source_.collectors.size(); ++i) {
+        const SourceCollector& collector = source_.collectors[i];
+        const QPoint place = places_.collectors[i];
+        if (isMine(collector) && collector.zone >= 0) {
+            lines.add({field(collector.id), field(zone(collector.zone).region), field(place.x()),
+                       field(place.y()), field(zone(collector.zone).id)});
+        }
+    }
+    return lines;
+}
+
+Lines CampaignWriter::greens() const {
+    Lines lines;
+    for (const SourceGreen& green : source_.greens) {
+        if (isMine(green)) {
+            lines.add(QStringList{green.name, green.boss} + green.stats);
+        }
+    }
+    return lines;
+}
+
+Lines CampaignWriter::chests() const {
+    Lines lines;
+    for (std::size_t i = 0; campaign_.number == 3 && i < source_.chests.size(); ++i) {
+        const SourceChest& chest = source_.chests[i];
+        const QPoint place = places_.chests[i];
+        lines.add({chest.name, field(place.x()), field(place.y()), field(zone(chest.zone).region),
+                   field(zone(chest.zone).id)});
+    }
+    return lines;
+}
+
+Lines CampaignWriter::pets() const {
+    Lines lines;
+    for (const SourcePet& pet : source_.pets) {
+        if (campaign_.number == 0) {
+            lines.add({pet.idText, pet.name, pet.remark});
+        }
+    }
+    return lines;
+}
+
+Lines CampaignWriter::petPlaces() const {
+    Lines lines;
+    for (std::size_t i = 0; i < source_.petPlaces.size(); ++i) {
+        const SourcePetPlace& petPlace = source_.petPlaces[i];
+        const QPoint place = places_.petPlaces[i];
+        if (!isMine(petPlace)) {
+            continue;
+        }
+        QStringList fields{petPlace.pet, field(zone(petPlace.zone).region), field(zone(petPlace.zone).id),
+                           field(place.x()), field(place.y())};
+        if (!petPlace.remark.isEmpty()) {
+            fields.append(petPlace.remark);
+        }
+        lines.add(fields);
+    }
+    return lines;
+}
+
+} // namespace
+
+std::map<QString, QByteArray> campaignFiles(const WorldSource& source, const WorldPlaces& places,
+                                            const SourceCampaign& campaign, QStringList& problems) {
+    const CampaignWriter writer(source, places, campaign);
+    const std::pair<QString, Lines> tables[] = {
+        {u"Regions.txt"_qs, writer.regions()},
+        {u"Zones.txt"_qs, writer.zones()},
+        {u"Professions.txt"_qs, writer.professions()},
+        {u"EliteList.txt"_qs, writer.skills()},
+        {u"EliteLocations.txt"_qs, writer.bosses()},
+        {u"Collectors.txt"_qs, writer.collectors()},
+        {u"CollectorsLocations.txt"_qs, writer.collectorPlaces()},
+        {u"Greens.txt"_qs, writer.greens()},
+        {u"Treasures.txt"_qs, writer.chests()},
+        {u"PetsList.txt"_qs, writer.pets()},
+        {u"PetsLocations.txt"_qs, writer.petPlaces()},
+    };
+    std::map<QString, QByteArray> files;
+    for (const auto& [name, lines] : tables) {
+        if (!lines.isEmpty()) {
+            files[name] = lines.bytes(campaignFolder(campaign) + u'/' + name, problems);
+        }
+    }
+    return files;
+}
+
+QString campaignFolder(const SourceCampaign& campaign) {
+    return u"Campaign.%1.%2"_qs.arg(campaign.number, 2, 10, QLatin1Char('0')).arg(campaign.name);
+}
+
+QString skillPicture(int id) {
+    return u"%1.jpg"_qs.arg(id % 10000, 4, 10, QLatin1Char('0'));
+}
+
+} // namespace worldgen

@@ -1,0 +1,335 @@
+#include "WorldSource.h"
+
+#include "SourceTable.h"
+
+#include <QDir>
+#include <QHash>
+
+#include <optional>
+
+namespace worldgen {
+
+namespace {
+
+constexpr int HighestNumber = 65535;
+
+/// Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
+bool kindFitsCampaign(ZoneKind kind, int campaign) {
+    switch (kind) {
+    case ZoneKind::Challenge:
+        return campaign == 2 || campaign == 3;
+    case ZoneKind::DungeonEntrance:
+        return campaign == 4;
+    default:
+        return true;
+    }
+}
+
+struct ZoneWord {
+    QStringView word;
+    ZoneKind kind;
+    bool marker;
+};
+
+constexpr ZoneWord ZoneWords[] = {
+    {u"town", ZoneKind::Town, true},
+    {u"outpost", ZoneKind::Outpost, true},
+    {u"mission", ZoneKind::Mission, true},
+    {u"challenge", ZoneKind::Challenge, true},
+    {u"area", ZoneKind::Area, false},
+    {u"explore", ZoneKind::Area, true},
+    {u"dungeon", ZoneKind::DungeonEntrance, true},
+};
+
+constexpr std::pair<QStringView, SiteNear> NearWords[] = {
+    {u"", SiteNear::Anything},   {u"coast", SiteNear::Coast}, {u"lake", SiteNear::Lake},
+    {u"river", SiteNear::River}, {u"ridge", SiteNear::Ridge}, {u"forest", SiteNear::Forest},
+};
+
+constexpr std::pair<QStringView, Theme> ThemeWords[] = {
+    {u"temperate", Theme::Temperate},
+    {u"desert", Theme::Desert},
+    {u"frost", Theme::Frost},
+    {u"ash", Theme::Ash},
+};
+
+class SourceReader {
+  public:
+    SourceReader(const QString& worldFolder, const QString& noAttribute, QStringList& problems)
+        : folder_(worldFolder + u"/source/"_qs), noAttribute_(noAttribute), problems_(problems) {}
+
+    WorldSource read();
+
+  private:
+    std::vector<SourceRow> rows(const QString& name, int fewest);
+    std::vector<SourceRow> rows(int campaign, QStringView name, int fewest);
+    void problem(const SourceRow& row, const QString& what) { problems_.append(row.place + u": "_qs + what); }
+    template <typename Words>
+    auto word(const SourceRow& row, int field, const Words& words);
+
+    void readCampaigns();
+    void readProfessions();
+    void readSkills();
+    void readSkill(const SourceRow& row);
+    void readRegions(int campaign);
+    void readZones(int campaign);
+    void readBosses(int campaign);
+    void readCollectors(int campaign);
+    void readGreens(int campaign);
+    void readChests();
+    void readPets();
+    void readPetPlaces(int campaign);
+    int zoneNamed(const SourceRow& row, int campaign, const QString& name);
+
+    QString folder_;
+    QString noAttribute_;
+    QStringList& problems_;
+    WorldSource world_;
+    QHash<QString, int> skillIds_;              ///< by name
+    QHash<std::pair<int, QString>, int> zones_; ///< by campaign and name
+};
+
+std::vector<SourceRow> SourceReader::rows(const QString& name, int fewest) {
+    std::vector<SourceRow> table = readTable(folder_ + name, fewest, problems_);
+    for (SourceRow& row : table) {
+        row.fields.replaceInStrings(u"@45"_qs, noAttribute_);
+    }
+    return table;
+}
+
+std::vector<SourceRow> SourceReader::rows(int campaign, QStringView name, int fewest) {
+    return rows(u"%1/%2"_qs.arg(campaign, 2, 10, QLatin1Char('0')).arg(name), fewest);
+}
+
+template <typename Words>
+auto SourceReader::word(const SourceRow& row, int field, const Words& words) {
+    for (const auto& [text, value] : words) {
+        if (row.fields[field] == text) {
+            return value;
+        }
+    }
+    problem(row, u"unknown word "_qs + row.fields[field]);
+    return words[0].second;
+}
+
+WorldSource SourceReader::read() {
+    readCampaigns();
+    readProfessions();
+    readSkills();
+    for (const SourceCampaign& campaign : world_.campaigns) {
+        readRegions(campaign.number);
+        readZones(campaign.number);
+    }
+    for (const SourceCampaign& campaign : world_.campaigns) {
+        readBosses(campaign.number);
+        readCollectors(campaign.number);
+    }
+    readChests();
+    readPets();
+    for (const SourceCampaign& campaign : world_.campaigns) {
+        readGreens(campaign.number);
+        readPetPlaces(campaign.number);
+    }
+    return std::move(world_);
+}
+
+void SourceReader::readCampaigns() {
+    for (const SourceRow& row : rows(u"campaigns.txt"_qs, 3)) {
+        world_.campaigns.push_back({numberIn(row, 0, 0, 4, problems_), row.fields[1], row.fields[2]});
+    }
+}
+
+void SourceReader::readProfessions() {
+    for (const SourceRow& row : rows(u"professions.txt"_qs, 6)) {
+        SourceProfession profession;
+        profession.campaign = numberIn(row, 0, 0, 4, problems_);
+        profession.number = numberIn(row, 1, 1, 255, problems_);
+        profession.name = row.fields[2];
+        bool isColour = false;
+        profession.colour = row.fields[3].toUInt(&isColour, 16) | 0xFF000000U;
+        profession.abbreviation = row.fields[4];
+        profession.attributes = row.fields.mid(5);
+        if (!isColour) {
+            problem(row, u"no colour: "_qs + row.fields[3]);
+        }
+        world_.professions.push_back(profession);
+    }
+}
+
+void SourceReader::readSkills() {
+    const QDir folder(folder_ + u"skills"_qs);
+    for (const QString& name : folder.entryList({u"*.txt"_qs}, QDir::Files, QDir::Name)) {
+        for (const SourceRow& row : rows(u"skills/"_qs + name, 11)) {
+            readSkill(row);
+        }
+    }
+}
+
+void SourceReader::readSkill(const SourceRow& row) {
+    SourceSkill skill;
+    skill.id = numberIn(row, 0, 1, HighestNumber, problems_);
+    skill.campaign = numberIn(row, 1, 0, 4, problems_);
+    skill.name = row.fields[2];
+    skill.attribute = row.fields[3];
+    skill.type = row.fields[4];
+    skill.upkeep = numberIn(row, 5, -9, 9, problems_);
+    skill.adrenaline = numberIn(row, 6, 0, 255, problems_);
+    skill.energy = numberIn(row, 7, 0, 255, problems_);
+    skill.castTime = row.fields[8];
+    skill.recharge = numberIn(row, 9, 0, 999, problems_);
+    skill.description = row.fields[10];
+    for (const SourceProfession& profession : world_.professions) {
+        if (profession.name == row.section) {
+            skill.profession = profession.number;
+            if (skill.attribute != noAttribute_ && !profession.attributes.contains(skill.attribute)) {
+                problem(row, u"no attribute of the profession: "_qs + skill.attribute);
+            }
+        }
+    }
+    const bool idTaken = std::any_of(world_.skills.begin(), world_.skills.end(),
+                                     [&](const SourceSkill& other) { return other.id == skill.id; });
+    if (skill.profession == 0 || skillIds_.contains(skill.name) || idTaken) {
+        problem(row, u"unknown profession, or name or number used twice: "_qs + skill.name);
+    }
+    skillIds_.insert(skill.name, skill.id);
+    world_.skills.push_back(skill);
+}
+
+void SourceReader::readRegions(int campaign) {
+    for (const SourceRow& row : rows(campaign, u"regions.txt", 6)) {
+        SourceRegion region;
+        region.campaign = campaign;
+        region.number = numberIn(row, 0, 1, 255, problems_);
+        region.fileNumber = row.fields[0];
+        region.name = row.fields[1];
+        region.theme = word(row, 2, ThemeWords);
+        region.size = QSize(numberIn(row, 3, 200, 4000, problems_), numberIn(row, 4, 200, 4000, problems_));
+        region.seed = quint32(numberIn(row, 5, 1, 1'000'000, problems_));
+        world_.regions.push_back(region);
+    }
+}
+
+void SourceReader::readZones(int campaign) {
+    for (const SourceRow& row : rows(campaign, u"zones.txt", 3)) {
+        SourceZone zone;
+        zone.id = int(world_.zones.size()) + 1;
+        zone.campaign = campaign;
+        zone.nearTo = word(row, 1, NearWords);
+        zone.name = row.fields[2];
+        const auto* kind = std::find_if(std::begin(ZoneWords), std::end(ZoneWords),
+                                        [&](const ZoneWord& known) { return known.word == row.fields[0]; });
+        const auto region =
+            std::find_if(world_.regions.begin(), world_.regions.end(), [&](const SourceRegion& known) {
+                return known.campaign == campaign && known.name == row.section;
+            });
+        if (kind == std::end(ZoneWords) || region == world_.regions.end() ||
+            !kindFitsCampaign(kind->kind, campaign) || zones_.contains({campaign, zone.name})) {
+            problem(row, u"unknown kind or region, kind not of this campaign, or name used twice: "_qs +
+                             zone.name);
+            continue;
+        }
+        zone.kind = kind->kind;
+        zone.marker = kind->marker;
+        zone.region = region->number;
+        zones_.insert({campaign, zone.name}, int(world_.zones.size()));
+        world_.zones.push_back(zone);
+    }
+}
+
+int SourceReader::zoneNamed(const SourceRow& row, int campaign, const QString& name) {
+    const auto found = zones_.constFind({campaign, name});
+    if (found == zones_.constEnd()) {
+        problem(row, u"no such zone in this campaign: "_qs + name);
+        return 0;
+    }
+    return *found;
+}
+
+void SourceReader::readBosses(int campaign) {
+    for (const SourceRow& row : rows(campaign, u"bosses.txt", 4)) {
+        SourceBoss boss;
+        boss.campaign = campaign;
+        boss.name = row.fields[0];
+        boss.skill = skillIds_.value(row.fields[1]);
+        boss.code = row.fields[2];
+        boss.zone = zoneNamed(row, campaign, row.fields[3]);
+        boss.note = row.fields.value(4);
+        if (boss.skill == 0 && !row.fields[1].isEmpty()) {
+            problem(row, u"no such skill: "_qs + row.fields[1]);
+        }
+        world_.bosses.push_back(boss);
+    }
+}
+
+/// A collector is a "[name]" line, one row of particulars and one row per reward.
+void SourceReader::readCollectors(int campaign) {
+    QString name;
+    for (const SourceRow& row : rows(campaign, u"collectors.txt", 2)) {
+        if (row.section != name) {
+            name = row.section;
+            if (row.fields.size() < 6) {
+                problem(row, u"needs number, kind, level, zone, whereabouts and request"_qs);
+                continue;
+            }
+            SourceCollector collector;
+            collector.id = numberIn(row, 0, 1, HighestNumber, problems_);
+            collector.campaign = campaign;
+            collector.name = name;
+            collector.armour = row.fields[1] == u"armour";
+            collector.level = numberIn(row, 2, 0, 1, problems_);
+            collector.zone = row.fields[3].isEmpty() ? -1 : zoneNamed(row, campaign, row.fields[3]);
+            collector.whereabouts = row.fields[4];
+            collector.request = row.fields[5];
+            world_.collectors.push_back(collector);
+            continue;
+        }
+        world_.collectors.back().rewards.push_back(
+            {row.fields[0], numberIn(row, 1, 0, 15, problems_), row.fields.mid(2)});
+    }
+}
+
+void SourceReader::readGreens(int campaign) {
+    for (const SourceRow& row : rows(campaign, u"greens.txt", 3)) {
+        const bool bossExists =
+            std::any_of(world_.bosses.begin(), world_.bosses.end(), [&](const SourceBoss& boss) {
+                return boss.campaign == campaign && boss.name == row.fields[1];
+            });
+        if (!bossExists) {
+            problem(row, u"no such boss in this campaign: "_qs + row.fields[1]);
+        }
+        world_.greens.push_back({campaign, row.fields[0], row.fields[1], row.fields.mid(2)});
+    }
+}
+
+void SourceReader::readChests() {
+    for (const SourceRow& row : rows(3, u"chests.txt", 2)) {
+        world_.chests.push_back({row.fields[0], zoneNamed(row, 3, row.fields[1])});
+    }
+}
+
+void SourceReader::readPets() {
+    for (const SourceRow& row : rows(0, u"pets.txt", 4)) {
+        world_.pets.push_back({row.fields[0], row.fields[1], row.fields[2], row.fields[3], {}});
+    }
+}
+
+void SourceReader::readPetPlaces(int campaign) {
+    for (const SourceRow& row : rows(campaign, u"petplaces.txt", 2)) {
+        const auto pet = std::find_if(world_.pets.begin(), world_.pets.end(),
+                                      [&](const SourcePet& known) { return known.name == row.fields[0]; });
+        if (pet == world_.pets.end()) {
+            problem(row, u"no such pet: "_qs + row.fields[0]);
+            continue;
+        }
+        world_.petPlaces.push_back(
+            {campaign, pet->idText, zoneNamed(row, campaign, row.fields[1]), row.fields.value(2)});
+    }
+}
+
+} // namespace
+
+WorldSource readWorldSource(const QString& worldFolder, const QString& noAttribute, QStringList& problems) {
+    return SourceReader(worldFolder, noAttribute, problems).read();
+}
+
+} // namespace worldgen

@@ -1,0 +1,65 @@
+#include "WorldBuilder.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+constexpr int HighestScale = 100;
+
+struct Order {
+    QString outFolder;
+    int scale = 1;
+};
+
+std::optional<Order> readOrder(const QStringList& arguments) {
+    Order order;
+    for (int i = 1; i < arguments.size(); ++i) {
+        if (arguments[i] == u"--scale" && i + 1 < arguments.size()) {
+            order.scale = arguments[++i].toInt();
+        } else if (order.outFolder.isEmpty() && !arguments[i].startsWith(u'-')) {
+            order.outFolder = arguments[i];
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (order.outFolder.isEmpty() || order.scale < 1 || order.scale > HighestScale) {
+        return std::nullopt;
+    }
+    return order;
+}
+
+int tell(const QStringList& problems) {
+    for (const QString& problem : problems) {
+        std::fprintf(stderr, "worldgen: %s\n", qUtf8Printable(problem));
+    }
+    return problems.isEmpty() ? 0 : 1;
+}
+
+int run(const Order& order) {
+    const QString worldFolder = QStringLiteral(WORLDGEN_WORLD);
+    QStringList problems;
+    const worldgen::WorldSource source =
+        worldgen::readWorldSource(worldFolder, worldgen::noAttributeCaption(worldFolder), problems);
+    if (!problems.isEmpty()) {
+        return tell(problems);
+    }
+    return tell(
+        worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // No window is ever shown, and build machines have no screen.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const std::optional<Order> order = readOrder(QCoreApplication::arguments());
+    if (!order) {
+        std::fputs("usage: worldgen OUTFOLDER [--scale N]   (N from 1 to 100)\n", stderr);
+        return 2;
+    }
+    return run(*order);
+}
