@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/IndexedTable.h"
+#include "app/modOptions.h"
+#include "layers/modCollectors.h"
+#include "layers/modElite.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "layers/modPets.h"
+#include "layers/modTreasures.h"
+#include "progress/modCharacters.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
+
+#include <QString>
+
+#include <array>
+
+namespace orvinel {
+
+// Everything that the program knows. Filled by the loaders, changed by the dialogs, read by everybody else.
+struct ProgramState {
+    QString AppPath; // the program's folder, ending in '/'
+    IndexedTable<QString> LanguageTable;
+    Options AppOptions;
+    IndexedTable<QString> Characters; // by character number; an empty name is a free number
+    IndexedTable<Campaign> Campaigns;
+    IndexedTable<Profession> Professions;
+    IndexedTable<Collector> Collectors;
+    List1<RequestType> RequestTypes; // in order of first appearance
+    IndexedTable<EliteSkill> EliteSkills;
+    List1<GreenItem> GreenItems;
+    List1<Note> Notes;
+    List1<Treasure> Treasures;
+    IndexedTable<Pet> Pets;
+    std::array<Colour, 9> TabColors{}; // of the panel's tabs and the information windows
+
+    // The caption or message of that number; empty when the language file lacks it.
+    QString text(int number) const { return LanguageTable.has(number) ? LanguageTable[number] : QString(); }
+};
+
+} // namespace orvinel

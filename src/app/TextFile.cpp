@@ -1,0 +1,67 @@
+#include "app/TextFile.h"
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
+    : path_(std::move(path)), complaints_(complaints), source_(disk.read(path_)) {
+    if (source_.outcome == ReadResult::Outcome::Failed && complaints_)
+        complaints_->add({path_, 0, {}, source_.reason});
+    text_ = decodeText(source_.bytes);
+}
+
+bool TextFile::nextLine() {
+    if (next_ >= text_.size())
+        return false;
+    qsizetype end = next_;
+    while (end < text_.size() && text_[end] != u'\n' && text_[end] != u'\r')
+        ++end;
+    line_ = QStringView(text_).sliced(next_, end - next_);
+    next_ = end + 1;
+    if (end + 1 < text_.size() && text_[end] == u'\r' && text_[end + 1] == u'\n')
+        ++next_;
+    ++number_;
+    fields_.clear();
+    return true;
+}
+
+bool TextFile::nextRecord() {
+    while (nextLine())
+        if (!isComment())
+            return true;
+    return false;
+}
+
+bool TextFile::split(size_t fewest) {
+    fields_ = splitFields(line_);
+    if (fields_.size() >= fewest)
+        return true;
+    if (!line_.trimmed().isEmpty())
+        skip({}, u"%1 fields instead of %2"_s.arg(fields_.size()).arg(fewest));
+    return false;
+}
+
+std::optional<int> TextFile::integer(size_t position, const char* name, int lowest, int highest) {
+    return accept(leadingInteger(field(position), lowest, highest), position, name);
+}
+
+std::optional<int> TextFile::whole(size_t position, const char* name, int lowest, int highest) {
+    return accept(wholeNumber(field(position), lowest, highest), position, name);
+}
+
+std::optional<int> TextFile::accept(std::optional<int> value, size_t position, const char* name) {
+    if (!value)
+        skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
+    return value;
+}
+
+void TextFile::skip(const QString& field, const QString& reason) {
+    if (number_ != lastSkipped_)
+        ++skipped_;
+    lastSkipped_ = number_;
+    if (complaints_)
+        complaints_->add({path_, number_, field, reason});
+}
+
+} // namespace orvinel

@@ -1,0 +1,71 @@
+#include "app/modData.h"
+
+#include "app/ProgramState.h"
+#include "progress/CapturedSkills.h"
+#include "progress/OpenedTreasures.h"
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int updaterPauseMs = 1000;
+
+} // namespace
+
+void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
+    MoveToPersonalFolder(state, files.disk());
+    InstallPendingUpdater(state, files.disk(), desktop);
+    loadTables(state, files);
+}
+
+void loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+    const Disk& disk = files.disk();
+    state.TabColors = {0x5DDBFF, 0xDA9C76, 0xC4E0AF, 0xB0B0B0, 0x3C7BCC, 0, 0, 0, 0xB0B0B0};
+    LoadCharacters(state, files, complaints);
+    LoadCampaigns(state, disk, complaints);
+    LoadZones(state, disk, complaints);
+    LoadProfessions(state, disk, complaints);
+    LoadCollectors(state, disk, complaints);
+    LoadEliteSkills(state, disk, complaints);
+    LoadGreens(state, disk, complaints);
+    LoadNotes(state, files, complaints);
+    LoadEliteLocations(state, disk, complaints);
+    LoadCapturedSkills(state, files, complaints);
+    LoadCollectorLocations(state, disk, complaints);
+    LoadTreasures(state, disk, complaints);
+    LoadOpenedTreasures(state, files, complaints);
+    LoadPets(state, disk, complaints);
+    LoadPetLocations(state, disk, complaints);
+    LoadOptions(state, files);
+}
+
+void MoveToPersonalFolder(const ProgramState& state, Disk& disk) {
+    const QString personal = state.AppPath + u"Personal"_s;
+    if (disk.folderExists(personal))
+        return;
+    // The files gather in a folder of another name, so that Personal exists only when all have arrived.
+    const QString gathering = personal + u".new"_s;
+    const QString data = state.AppPath + u"Data"_s;
+    disk.createFolder(gathering);
+    for (int n = 1; n <= mostCharacters; ++n) {
+        const QString name = u"/Char"_s + fixedDigits(n, 2) + u"CapElite.txt"_s;
+        if (disk.length(data + name) >= 1)
+            disk.rename(data + name, gathering + name);
+    }
+    disk.rename(data + u"/Characters.txt"_s, gathering + u"/Characters.txt"_s);
+    disk.rename(gathering, personal);
+}
+
+void InstallPendingUpdater(const ProgramState& state, Disk& disk, Desktop& desktop) {
+    if (disk.length(state.AppPath + u"update.dat"_s) < 1)
+        return;
+    desktop.wait(updaterPauseMs);
+    if (disk.remove(state.AppPath + u"update.exe"_s))
+        return;
+    desktop.wait(updaterPauseMs);
+    disk.rename(state.AppPath + u"update.dat"_s, state.AppPath + u"update.exe"_s);
+}
+
+} // namespace orvinel

@@ -1,0 +1,62 @@
+#include "app/modLanguage.h"
+
+#include "app/ProgramState.h"
+#include "app/TextFile.h"
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString builtIn(OwnText number) {
+    switch (number) {
+    case OwnText::SaveFailed:
+        return u"Could not save %1:\n%2"_s;
+    case OwnText::TooManyCharacters:
+        return u"No more than 99 characters can be kept."_s;
+    case OwnText::TitleIsComment:
+        return u"A title cannot begin with a semicolon (;)."_s;
+    case OwnText::OldFileNotKept:
+        return u"The old file could not be kept beside the new one, so nothing was saved."_s;
+    case OwnText::SkillNumberTooLarge:
+        return u"This skill's number is too large to be remembered."_s;
+    case OwnText::ChangedOutside:
+        return u"The file %1 was changed by another program since it was read. Replace it?"_s;
+    case OwnText::QuitWithoutSaving:
+        return u"Some changes could not be saved. Quit anyway?"_s;
+    case OwnText::NotOpened:
+        return u"%1 could not be opened."_s;
+    case OwnText::FolderReadOnly:
+        return u"The program folder cannot be written to: %1"_s;
+    }
+    return {};
+}
+
+} // namespace
+
+bool LoadLanguage(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    state.LanguageTable.reset();
+    TextFile file(disk, state.AppPath + u"Data/Language.txt"_s, complaints);
+    if (!file.exists())
+        return false;
+    while (file.nextLine()) {
+        if (!file.split(2))
+            continue;
+        if (const auto index = file.integer(0, "number", 0, largestIdentifier))
+            state.LanguageTable.grow(*index) = withLineBreaks(file.field(1));
+    }
+    return true;
+}
+
+QString missingLanguageMessage() {
+    return u"Can't load language file. It should be in your 'Data' folder.\n"
+           "Please download Orvinel again; if the problem persists, contact its author at orvinel@example.org."_s;
+}
+
+QString ownText(const ProgramState& state, OwnText number) {
+    const QString text = state.text(static_cast<int>(number));
+    return text.isEmpty() ? builtIn(number) : text;
+}
+
+} // namespace orvinel

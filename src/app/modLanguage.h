@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/Complaints.h"
+#include "app/Disk.h"
+
+#include <QString>
+
+namespace orvinel {
+
+struct ProgramState;
+
+// Fills the LanguageTable; False when Data/Language.txt is missing, empty or unreadable.
+bool LoadLanguage(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+
+// What is said when LoadLanguage fails; title and text.
+QString missingLanguageMessage();
+inline QString programName() {
+    return QStringLiteral("Orvinel");
+}
+
+// Messages of our own. The language file may define them from number 201 up; when it does not, a built-in
+// English text is used.
+enum class OwnText {
+    SaveFailed = 201, // %1 file, %2 reason
+    TooManyCharacters = 202,
+    TitleIsComment = 203,
+    OldFileNotKept = 204,
+    SkillNumberTooLarge = 205,
+    ChangedOutside = 206, // %1 file
+    QuitWithoutSaving = 207,
+    NotOpened = 208,     // %1 file
+    FolderReadOnly = 209 // %1 reason
+};
+QString ownText(const ProgramState& state, OwnText number);
+
+} // namespace orvinel

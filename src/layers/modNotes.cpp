@@ -1,0 +1,11 @@
+#include "layers/modNotes.h"
+
+#include "app/ProgramState.h"
+
+namespace orvinel {
+
+void LoadNotes(ProgramState& state, PlayerFiles&, Complaints*) {
+    state.Notes.clear();
+}
+
+} // namespace orvinel

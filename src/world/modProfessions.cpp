@@ -1,0 +1,67 @@
+#include "world/modProfessions.h"
+
+#include "app/ProgramState.h"
+#include "app/TextFile.h"
+
+#include <limits>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int noAttributeText = 45;
+
+void loadProfessions(ProgramState& state, const QString& path, const Disk& disk, Complaints* complaints) {
+    TextFile file(disk, path, complaints);
+    while (file.nextLine()) {
+        if (!file.split(4))
+            continue;
+        const auto number = file.integer(0, "profession", 0, 255);
+        const auto colour =
+            number ? file.whole(2, "colour", std::numeric_limits<int>::min(), std::numeric_limits<int>::max())
+                   : number;
+        if (!colour)
+            continue;
+        Profession& profession = state.Professions.grow(*number);
+        profession = {file.text(1), file.text(3), static_cast<Colour>(*colour) & 0xFFFFFF, {}};
+        for (size_t i = 4; i < file.fieldCount(); ++i)
+            profession.Attributes.push_back(file.text(i));
+    }
+}
+
+} // namespace
+
+void LoadProfessions(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    state.Professions.reset();
+    state.Professions[0] = {u"No profession"_s, u"#"_s, noBossGrey, {}};
+    for (int n = 0; n <= state.Campaigns.highest(); ++n)
+        loadProfessions(state, campaignFolder(state, n) + u"/Professions.txt"_s, disk, complaints);
+}
+
+std::vector<ListEntry> professionEntries(const ProgramState& state, int pinned) {
+    std::vector<ListEntry> entries;
+    for (int p = 1; p <= state.Professions.highest(); ++p)
+        entries.push_back({state.Professions[p].Name, p});
+    sortAlphabetically(entries);
+    entries.insert(entries.begin(), {pinnedText(state.text(pinned)), 0});
+    return entries;
+}
+
+std::vector<ListEntry> attributeEntries(const ProgramState& state, int profession) {
+    std::vector<ListEntry> entries = {{pinnedText(state.text(9)), 0}};
+    if (profession < 1 || !state.Professions.has(profession))
+        return entries;
+    for (const QString& attribute : state.Professions[profession].Attributes)
+        entries.push_back({attribute, static_cast<int>(entries.size())});
+    entries.push_back({state.text(noAttributeText), noAttributeData});
+    return entries;
+}
+
+const Profession& professionOf(const ProgramState& state, int number) {
+    static const Profession none;
+    return state.Professions.has(number) ? state.Professions[number] : none;
+}
+
+} // namespace orvinel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/Colour.h"
+#include "app/Complaints.h"
+#include "app/Disk.h"
+#include "app/Listing.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace orvinel {
+
+struct ProgramState;
+
+struct Profession {
+    QString Name;
+    QString Abbreviation;
+    Colour Color = 0;
+    std::vector<QString> Attributes; // in file order
+
+    bool operator==(const Profession&) const = default;
+};
+
+// The item data of the last entry of cmbAttribute, which stands for no attribute of the profession.
+inline constexpr int noAttributeData = 99;
+
+void LoadProfessions(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+
+// Entries of cmbProfession and cmbSecondaryProfession: pinned, then by name, gaps in the numbers as empty
+// texts. `pinned` is the language entry of the first one.
+std::vector<ListEntry> professionEntries(const ProgramState& state, int pinned);
+
+// Entries of cmbAttribute; only the pinned one when `profession` is below 1 or unknown.
+std::vector<ListEntry> attributeEntries(const ProgramState& state, int profession);
+
+// A number that no profession has gives the empty record.
+const Profession& professionOf(const ProgramState& state, int number);
+
+} // namespace orvinel

@@ -1,0 +1,91 @@
+#include "app/TextFile.h"
+#include "support/MemoryDisk.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+#include <cmath>
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(TextRules, leadingNumberReadsAsFarAsANumberGoes) {
+    EXPECT_EQ(12, leadingNumber(u"12abc"));
+    EXPECT_EQ(0, leadingNumber(u"abc"));
+    EXPECT_EQ(-3.5, leadingNumber(u"  -3.5 "));
+    EXPECT_EQ(1200, leadingNumber(u"1.2e3x"));
+    EXPECT_EQ(5, leadingNumber(u"+5e"));
+    EXPECT_EQ(0, leadingNumber(u"nancy"));
+    EXPECT_EQ(0, leadingNumber(u"infinite"));
+    EXPECT_EQ(0, leadingNumber(u"0x1A"));
+    EXPECT_EQ(0.5, leadingNumber(u".5"));
+    EXPECT_EQ(0, leadingNumber(u"."));
+    EXPECT_EQ(0, leadingNumber(u"1e-999"));
+    EXPECT_TRUE(std::isinf(leadingNumber(u"1e999")));
+}
+
+TEST(TextRules, integersRoundHalvesToEvenAndRespectTheirRange) {
+    EXPECT_EQ(2, leadingInteger(u"2.5", 0, 255));
+    EXPECT_EQ(4, leadingInteger(u"3.5", 0, 255));
+    EXPECT_EQ(std::nullopt, leadingInteger(u"256", 0, 255));
+    EXPECT_EQ(std::nullopt, leadingInteger(u"1e999", 0, 255));
+    EXPECT_EQ(std::nullopt, wholeNumber(u"12a", 0, 255));
+    EXPECT_EQ(std::nullopt, wholeNumber(u"", 0, 255));
+    EXPECT_EQ(12, wholeNumber(u" 12 ", 0, 255));
+    EXPECT_EQ(255, wholeNumber(u"&HFF", 0, 0xFFFFFF));
+    EXPECT_EQ(std::nullopt, wholeNumber(u"&HGG", 0, 0xFFFFFF));
+}
+
+TEST(TextRules, theCodePageIsWindows1252AndNothingIsLostBeyondIt) {
+    EXPECT_EQ(u"\u20ACé\u2013"_s, decodeText("\x80\xE9\x96"));
+    EXPECT_EQ(u"é"_s, decodeText("\xEF\xBB\xBF\xC3\xA9"));
+    EXPECT_EQ(QByteArray("\x80\xE9\x96"), encodeText(u"\u20ACé\u2013"_s));
+    EXPECT_EQ(QByteArray("\xEF\xBB\xBF\xE6\xBC\xA2"), encodeText(u"漢"_s));
+    QByteArray all;
+    for (int i = 0; i < 256; ++i)
+        all.append(static_cast<char>(i));
+    EXPECT_EQ(all, encodeText(decodeText(all)));
+    EXPECT_EQ(u"ï»¿x"_s, decodeText(encodeText(u"ï»¿x"_s)));
+}
+
+TEST(TextRules, textFromFieldsBecomesOneLine) {
+    EXPECT_EQ(u"a b c d"_s, oneLine(u"a\tb\r\nc\u2028d"_s));
+}
+
+TEST(TextFile, linesEndWithAnyLineEnd) {
+    MemoryDisk disk;
+    disk.put(u"/o/x.txt"_s, "a\r\nb\nc\rd\r\n\r\n;e\r\nf");
+    TextFile file(disk, u"/o/x.txt"_s);
+    QStringList lines;
+    while (file.nextRecord())
+        lines << file.line().toString();
+    EXPECT_EQ((QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s, u""_s, u"f"_s}), lines);
+    EXPECT_EQ(7, file.lineNumber());
+}
+
+struct ComplaintList : Complaints {
+    std::vector<Complaint> all;
+    void add(const Complaint& complaint) override { all.push_back(complaint); }
+};
+
+TEST(TextFile, tellsWhatItSkips) {
+    MemoryDisk disk;
+    disk.put(u"/o/x.txt"_s, "1\ta\r\n2\r\n\r\n300\tb\r\n");
+    ComplaintList complaints;
+    TextFile file(disk, u"/o/x.txt"_s, &complaints);
+    int stored = 0;
+    while (file.nextLine())
+        if (file.split(2) && file.integer(0, "number", 0, 255))
+            ++stored;
+    EXPECT_EQ(1, stored);
+    EXPECT_EQ(2, file.skippedLines());
+    ASSERT_EQ(2u, complaints.all.size());
+    EXPECT_EQ(2, complaints.all[0].line);
+    EXPECT_EQ(u"number"_s, complaints.all[1].field);
+}
+
+} // namespace
+} // namespace orvinel
