@@ -2,11 +2,18 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
+#include <memory>
 #include <vector>
 
+/// Painted pictures of the world that is shipped: regions, skills and animals.
+///
+/// Every function here is a pure function of its arguments: the same bytes come out twice and on every
+/// machine that has the title face. They may be called from several threads at once; a QGuiApplication must
+/// exist.
 namespace worldgen {
 
 enum class Theme { Temperate, Desert, Frost, Ash };
@@ -14,28 +21,49 @@ enum class SiteRole { Town, Outpost, Mission, Challenge, Area, DungeonEntrance }
 enum class SiteNear { Anything, Coast, Lake, River, Ridge, Forest };
 
 struct SiteWish {
-    QString name;
-    SiteRole role;
-    SiteNear near = SiteNear::Anything;
+    QString name; ///< as the program will write it; its width decides how much dark ground is kept for it
+    SiteRole role = SiteRole::Area;
+    SiteNear near = SiteNear::Anything; ///< kept where the land has such a place, else dropped
 };
 
 struct RegionRecipe {
-    quint32 seed;
-    QSize size;
-    Theme theme;
-    int campaign;
-    QString title;
+    quint32 seed = 1;
+    QSize size{1600, 1200}; ///< pixels; 240..4000 a side
+    Theme theme = Theme::Temperate;
+    int campaign = 1; ///< 0..4: building style and season
+    QString title;    ///< written into the picture; empty: none
     std::vector<SiteWish> sites;
 };
 
+struct Landscape;
+
 struct PaintedRegion {
-    QImage picture;            // RGB32, recipe.size
-    std::vector<QPoint> sites; // one per wish, in order
-    bool land(QPoint p) const;
+    QImage picture; ///< RGB32, as large as the recipe asks
+
+    /// One point per wish, in order: where its village or landmark is painted. At least 60 px apart and 80 px
+    /// from the border as long as the land has room; a region asked for more sites than fit gets them closer.
+    std::vector<QPoint> sites;
+
+    /// Height, water and woods behind the picture. Never null in what paintRegion returns.
+    std::shared_ptr<const Landscape> landscape;
+
+    /// Solid ground that a marker may stand on: inside the frame, no water, no snow-covered peak.
+    bool land(QPoint point) const;
+    bool forest(QPoint point) const;
+    /// 0 at sea level, about 1 on the highest ridge, negative in the sea.
+    double height(QPoint point) const;
+    /// Pixels from a point on land to the nearest sea, lake or frame-side water; 0 on water.
+    double distanceToWater(QPoint point) const;
 };
 
 PaintedRegion paintRegion(const RegionRecipe& recipe);
+
+/// 64 x 64, RGB32: a framed emblem. \a kind is the skill's type ("Hex", "Shout", "Attack", ...); an unknown
+/// one gets an emblem of its own chosen from the seed.
 QImage paintSkillIcon(quint32 seed, QRgb professionColour, const QString& kind);
+
+/// 160 x 120, RGB32: an animal on open ground. \a species is a word such as "Wolf" or "Moss Bear"; the body
+/// plan is taken from the last known animal word in it, else from the seed.
 QImage paintPet(quint32 seed, const QString& species);
 
 } // namespace worldgen

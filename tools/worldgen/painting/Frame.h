@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Landscape.h"
+
+#include <QImage>
+
+namespace worldgen {
+
+/// Grain of the canvas, darker corners, a frayed dark edge.
+void agePicture(QImage& picture, const Landscape& land);
+void paintFrame(QImage& picture);
+/// In a chancery face, where it covers the fewest sites and the least land. Returns the ground it covers.
+QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoint>& sites,
+                 const QString& title);
+/// A compass in the widest open water, clear of \a taken; none where there is no room.
+void paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
+
+/// Darkens the whole until its mean relative luminance is at most \a mean.
+void limitLuminance(QImage& picture, double mean);
+/// Softly darkens whatever is too bright under cream letters inside \a box.
+void quietenGround(QImage& picture, const QRect& box);
+/// Relative luminance of one colour, 0..1.
+double luminanceOf(QRgb colour);
+
+} // namespace worldgen

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Landscape.h"
+
+#include <QImage>
+
+namespace worldgen {
+
+/// Land and open water in their colours, lit from the north-west, as broad brush strokes.
+QImage paintedGround(const Landscape& land);
+
+/// Each pixel takes the mean of the calmest of the four squares that touch it: noise becomes strokes, edges
+/// stay.
+QImage brushed(const QImage& picture, int radius, double strength);
+
+/// Foam lines along the coast, wave strokes, and rivers on their way to the sea.
+void paintCoast(QImage& picture, const Landscape& land);
+void paintRivers(QImage& picture, const Landscape& land);
+
+} // namespace worldgen

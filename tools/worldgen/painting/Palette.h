@@ -1,0 +1,29 @@
+#pragma once
+
+#include "../RegionPainter.h"
+#include "Colour.h"
+
+#include <array>
+
+namespace worldgen {
+
+enum class PeakStyle { Alpine, Mesa, Volcanic };
+enum class TreeStyle { Broadleaf, Conifer, SnowConifer, Palm, Scrub, Dead, Jungle };
+
+/// The colours of a region: those of its theme, shifted to the season of its campaign.
+struct Palette {
+    Colour deep, shallow, beach, low, mid, dry, high, rock, snow;
+    std::array<Colour, 3> leaves{}; ///< a tree's colour lies between any two of them
+    Colour needles{};
+    Colour field{}; ///< of a ploughed one
+    double moisture = 0;
+    double snowline = 1; ///< height above which snow lies; above 1.2: none
+    PeakStyle peaks = PeakStyle::Alpine;
+    TreeStyle lowland = TreeStyle::Broadleaf;
+    TreeStyle upland = TreeStyle::Conifer;
+    double woods = 0; ///< added to the forest noise: more is denser
+};
+
+Palette paletteOf(Theme theme, int campaign);
+
+} // namespace worldgen

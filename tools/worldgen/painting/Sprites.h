@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Landscape.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace worldgen {
+
+/// A small picture with see-through surroundings.
+struct Sprite {
+    QImage image;   ///< ARGB32 premultiplied
+    QPointF anchor; ///< the point of the picture that stands on the ground
+};
+
+/// A sprite is painted several times larger and shrunk: edges and leaves finer than a pixel melt into one
+/// another.
+class SpriteCanvas {
+  public:
+    /// \a width, \a height: of the finished sprite; \a anchor in it is the origin to paint around.
+    SpriteCanvas(int width, int height, QPointF anchor);
+    QPainter& painter() { return painter_; }
+    Sprite finished();
+
+    static constexpr int kSamples = 4;
+
+  private:
+    QImage large_;
+    QPointF anchor_;
+    QPainter painter_;
+};
+
+/// The mean of each \a factor x \a factor square; sizes must divide.
+QImage shrunk(const QImage& premultiplied, int factor);
+
+/// One tree, about 14 pixels high at \a scale 1, with its shadow to the south-east.
+Sprite paintedTree(TreeStyle style, const Palette& palette, double scale, Rng& rng);
+
+/// One mountain as a little landscape of its own, seen from the south and lit from the north-west.
+/// \a scale 1 is about 50 pixels wide; \a snow: share of its height that is white.
+Sprite paintedPeak(const Palette& palette, double scale, double snow, Rng& rng);
+
+} // namespace worldgen
