@@ -27,6 +27,11 @@ DEFS = ''.join((
 ))
 
 
+def eyes(left, right, y):
+    return ''.join(f'<ellipse cx="{x}" cy="{y}" rx="1" ry="1.350" fill="#1c0d06"/>' + dot(x + .3, y - .5, .35, '#fff3d8') for x in (left, right)) + \
+        line(f'M{left - 1.6} {y - 2.8}q1.400-.900 2.800 0M{right - 1.2} {y - 2.8}q1.400-.900 2.800 0', '#4a2812', .8, .8)
+
+
 def sage():
     """Old, bearded, in a teal robe, with a crystal staff. 57 x 167."""
     back = shape('M-13-118C-20-90-24-40-26-2C-14 3 14 3 25-2C23-40 20-90 14-118Z', 'url(#robe)')
@@ -43,11 +48,11 @@ def sage():
     head = shape('M-8-133C-8-143-4-147 1-147C7-147 9.500-142 9.500-134C9.500-126 6-121 1-121C-4-121-8-126-8-133Z', 'url(#skinR)')
     beard = shape('M-8-132C-6-128 6-128 9-133C11-122 8-104 2-96C-5-104-9-120-8-132Z', 'url(#beard)') + \
         line('M-2-124C-2-114 0-106 1-101M4-124C4-116 3-108 2-103', '#8a8478', .8, .8)
-    eyes = line('M-3.500-135.500h2.500M3.800-135.500h2.500', '#2a1408', 1.300) + line('M-4.500-138h4M3-138h4', '#f0e8d8', 1.300)
+    face = eyes(-2.2, 5, -135.2) + line('M-4.500-138h4M3-138h4', '#f0e8d8', 1.300)
     hood = shape('M-11-128C-14-142-8-153 2-160C8-152 14-142 12-127C11-138 7-145 1-145C-6-145-10-138-11-128Z', 'url(#robe)') + \
         line('M3-158.500C8.500-151 13-141 12-128', RIM, 1.300, .9)
     belt = shape('M-15-78C-6-74 8-74 17-78L17-73C8-69-6-69-16-73Z', '#6e4020') + dot(1, -73, 3, '#f2c65a')
-    return back + folds + stole + belt + left + staff + right + head + beard + eyes + hood
+    return back + folds + stole + belt + left + staff + right + head + beard + face + hood
 
 
 def ranger():
@@ -63,7 +68,7 @@ def ranger():
     right = shape('M9-104C17-100 24-88 33-74L30-68C22-72 13-82 8-90Z', 'url(#green)') + dot(33, -70, 3.3, 'url(#skinR)') + line('M12-103C19-98 26-86 33-76', RIM, 1.100, .9)
     left = shape('M-12-104C-19-98-21-82-20-70L-16-58L-12-60L-12-78L-8-94Z', 'url(#green)') + dot(-14.500, -57, 3.200, 'url(#skinR)')
     head = shape('M-7-116C-7-126-3-129 1-129C6-129 9-126 9-117C9-110 5-105 1-105C-3-105-7-110-7-116Z', 'url(#skinR)') + \
-        line('M-2.500-117.500h2.300M4-117.500h2.300', '#2a1408', 1.300) + line('M1-110.500h3.500', '#7a3a24', 1)
+        eyes(-1.4, 5, -117.5) + line('M1-110.500h3.500', '#7a3a24', 1)
     hood = shape('M-12-104C-15-122-9-134 1-136C11-134 15-122 13-104C10-100 6-101 4-103C9-108 10-116 8-123C4-129-3-128-6-122C-8-115-6-107-2-103C-5-100-9-100-12-104Z', 'url(#green)') + \
         line('M3-135.500C11-133 14.500-121 13-106', RIM, 1.300, .9)
     return f'<g transform="translate(-5 0)">{quiver}{cloak}{legs}{tunic}{belt}{left}{head}{hood}{bow}{right}</g>'
@@ -82,7 +87,7 @@ def healer():
     light = dot(0, -90, 26, 'url(#orb)') + dot(0, -90, 4, '#fffbe6')
     hands = shape('M-5-86C-4-82 4-82 5-86L3-83H-3Z', 'url(#skinL)')
     head = shape('M-7-122C-7-131-4-134 0-134C5-134 7.500-131 7.500-122C7.500-116 4-111 0-111C-4-111-7-116-7-122Z', 'url(#skinL)') + \
-        line('M-4-122.500h2.300M2.300-122.500h2.300', '#2a1408', 1.300) + line('M-1.500-115.500h3', '#a04a34', 1.100) + shape('M-3-112H3V-106H-3Z', 'url(#skinL)')
+        eyes(-3, 3.2, -122.4) + line('M-1.500-115.500h3', '#a04a34', 1.100) + shape('M-3-112H3V-106H-3Z', 'url(#skinL)')
     front = shape('M-8-118C-10-130-6-140 0-141C7-140 11-130 8.500-118C8-126 5-131 0-132C-4-131-7-127-8-118Z', 'url(#hair)') + \
         line('M-8.500-124C-8-134-4-140 1-140.500', RIM, 1.200, .9) + line('M-7.500-131C-3-134 4-134 8-131', '#f2c65a', 1.600)
     return hair + robe + folds + trim + stole + arms + head + front + light + hands
@@ -109,5 +114,5 @@ def guard():
     head = shape('M-7-138C-7-146-4-150 0-150C5-150 7.500-146 7.500-138C7.500-132 4-127 0-127C-4-127-7-132-7-138Z', 'url(#skinL)')
     helm = shape('M-9-126C-11-146-7-156 0-157C8-156 11-146 9.500-126L5-128L4.500-139H1.500L1-132H-1L-1.500-139H-5L-5-128Z', 'url(#plate)') + \
         shape('M-1.500-156C-6-164 2-170 12-164C16-160 17-152 14-146C13-154 8-158 1.500-157Z', 'url(#cape)') + line('M-8.800-130C-10-146-6.500-155-1-156.500', RIM, 1.200, .95) + \
-        line('M-4-139h2.200M2-139h2.200', '#1a0c06', 1.400)
+        eyes(-3, 3, -138.2)
     return cape + legs + spear + skirt + chest + left + right + head + helm + shield

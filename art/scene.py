@@ -31,7 +31,7 @@ def ruin(brush):
     """A broken arch, lit from below by the fire."""
     left = 'M196 268V120C196 116 198 112 203 112H221V268Z'
     right = 'M282 268V128H306V268Z'
-    arch = 'M196 128C196 82 222 58 252 58C268 58 280 64 289 74L276 90C270 84 262 80 252 80C234 80 221 98 221 130Z'
+    arch = 'M196 128C196 82 222 58 252 58C268 58 280 64 289 74L284 77L287 82L279 84L281 90L274 88C268 83 261 80 252 80C234 80 221 98 221 130Z'
     drawn = shape(left, 'url(#stone)') + shape(right, 'url(#stone)') + shape(arch, 'url(#stone)')
     for x, y0, y1 in ((196, 134, 268), (282, 138, 268)):
         for y in range(y0, y1, 17):
@@ -43,7 +43,7 @@ def ruin(brush):
     for _ in range(60):
         side = brush.chance.choice(((198, 219), (284, 304)))
         x, y = brush.between(*side), brush.between(120, 262)
-        drawn += dot(x, y, brush.between(.6, 2), brush.chance.choice(['#4c6a66', '#1c3032', '#5f7a5a']), 'opacity=".55"')
+        drawn += dot(x, y, brush.between(.4, 1.1), brush.chance.choice(['#4c6a66', '#12262a', '#3f5a4a']), 'opacity=".6"')
     for _ in range(46):
         x = brush.between(194, 224)
         y = brush.between(108, 150) - (8 if x < 210 else 0)

@@ -8,10 +8,10 @@ from paint import Brush, dot, gradient, line, outline, page, polar, shape, under
 W, H = 748, 721
 SUN = (306, 398)
 LAYERS = (  # seed, base, height, spacing, roughness, colour at the top, colour in the haze
-    (11, 415, 120, 120, .16, '#4c6f66', '#c58f52'),
-    (24, 440, 118, 150, .19, '#2f5a58', '#8a7a56'),
-    (37, 478, 110, 170, .20, '#1c4448', '#3f6a62'),
-    (45, 520, 84, 190, .20, '#0f3035', '#265256'),
+    (11, 415, 122, 120, .30, '#4c6f66', '#c58f52'),
+    (24, 440, 118, 150, .30, '#2f5a58', '#8a7a56'),
+    (37, 478, 104, 170, .30, '#1c4448', '#3f6a62'),
+    (45, 520, 84, 190, .28, '#0f3035', '#265256'),
 )
 
 
@@ -29,12 +29,19 @@ def defs():
         gradient('right', [(0, '#000', 0), (.45, '#000', .12), (.78, '#000', .72), (1, '#000', 1)], place=f'{box} x1="380" y1="0" x2="748" y2="0"'),
         gradient('top', [(0, '#000', 1), (.35, '#000', .85), (1, '#000', 0)], place=f'{box} x1="0" y1="0" x2="0" y2="230"'),
         gradient('near', [(0, '#0a2222'), (1, '#010606')], place=f'{box} x1="0" y1="560" x2="0" y2="721"'),
-        gradient('crag', [(0, '#12343a'), (1, '#1d4a4c')], place=f'{box} x1="0" y1="330" x2="0" y2="560"'),
+        gradient('crag0', [(0, '#3a6660'), (1, '#24504e')], place=f'{box} x1="0" y1="430" x2="0" y2="560"'),
+        gradient('crag1', [(0, '#2c5452'), (1, '#173c3e')], place=f'{box} x1="0" y1="450" x2="0" y2="570"'),
+        gradient('crag2', [(0, '#1c4041'), (1, '#0c2629')], place=f'{box} x1="0" y1="490" x2="0" y2="580"'),
         gradient('cloak', [(0, '#7c2a20'), (.5, '#4a1512'), (1, '#16080a')], place='x1="1" y1="0" x2="0" y2=".3"'),
         '<filter id="soft"><feGaussianBlur stdDeviation="1.1"/></filter><filter id="mist" x="-20%" y="-80%" width="140%" height="260%">'
         '<feGaussianBlur stdDeviation="14 7"/></filter>',
+        # A breath of grain, or the long dark gradients would show steps.
+        '<filter id="grain" x="0" y="0" width="100%" height="100%"><feTurbulence type="fractalNoise" baseFrequency=".7" numOctaves="2" seed="4"/>'
+        '<feColorMatrix values="0 0 0 0 1  0 0 0 0 .9  0 0 0 0 .7  0 0 0 1.6 -.5"/></filter>',
     ]
     for i, (_, base, height, _, _, top, haze) in enumerate(LAYERS):
+        parts.append(gradient(f's{i}', [(0, '#02161c', .62), (.7, '#02161c', .22), (1, '#02161c', 0)],
+                              place=f'{box} x1="0" y1="{base - height}" x2="0" y2="{base + 30}"'))
         parts.append(gradient(f'm{i}', [(0, top), (1, haze)], place=f'{box} x1="0" y1="{base - height}" x2="0" y2="{base + 46}"'))
     return ''.join(parts)
 
@@ -70,41 +77,75 @@ def clouds(brush):
     return f'<g filter="url(#soft)">{drawn}</g>'
 
 
+def shadowed(brush, ridge, summit, foot, base):
+    """The half of a mountain that turns away from the sun, parted from the lit half by a jagged spur."""
+    (sx, sy), (fx, _) = summit, foot
+    low, high = min(sx, fx), max(sx, fx)
+    crest = sorted((p for p in ridge if low <= p[0] <= high), reverse=sx > fx)
+    spur, y = [], base + 40.0
+    sway = (fx - sx) * .10
+    while y > sy + 8:
+        t = (y - sy) / (base + 40 - sy)
+        spur.append((sx + sway * t + brush.between(-1, 1) * 16 * t, y))
+        y -= brush.between(9, 17)
+    return outline([(sx, sy)] + crest + [(fx, base + 40)] + spur)
+
+
 def range_(index):
     seed, base, height, spacing, rough, _, _ = LAYERS[index]
     brush = Brush(seed)
-    points = brush.ridge(-400, 1200, brush.peaks(W, base, height, spacing), rough)
-    drawn = shape(under(points, base + 60), f'url(#m{index})')
-    # Ribs run down from the crest: lit towards the sun, dark away from it.
-    for k in range(3, len(points) - 3, 3):
-        x, y = points[k]
-        if y > base - height * .12 or not -10 < x < W:
+    points = brush.peaks(W, base, height, spacing)
+    ridge = brush.ridge(-400, 1200, points, rough)
+    drawn = shape(under(ridge, base + 60), f'url(#m{index})')
+    for before, summit, after in zip(points, points[1:], points[2:]):
+        if summit[1] < before[1] and summit[1] < after[1]:
+            top = min((p for p in ridge if abs(p[0] - summit[0]) < 14), key=lambda p: p[1])
+            foot = before if summit[0] < SUN[0] - 20 else after
+            drawn += shape(shadowed(brush, ridge, top, foot, base), f'url(#s{index})')
+    for k in range(3, len(ridge) - 3, 2):
+        x, y = ridge[k]
+        if y > base - height * .1 or not -10 < x < W:
             continue
-        side = 1 if x < SUN[0] else -1
-        depth = (base - y) * brush.between(.25, .6)
-        drawn += line(f'M{x:.1f} {y + 1:.1f}l{side * depth * .35:.1f} {depth * .45:.1f}l{-side * depth * .12:.1f} {depth * .3:.1f}',
-                      '#ffdca0' if brush.chance.random() < .5 else '#021418', brush.between(.5, 1.5), brush.between(.05, .16))
-    rim = 'M' + 'L'.join(f'{x:.1f} {y:.1f}' for x, y in points if -10 < x < W)
-    drawn += line(rim, '#ffdf9e', 1.1, .34 - .06 * index)
-    return drawn
+        way, depth = (1 if x < SUN[0] else -1), (base - y) * brush.between(.2, .7)
+        drawn += line(f'M{x:.1f} {y + 2:.1f}l{way * depth * .22:.1f} {depth * .4:.1f}l{-way * depth * .1:.1f} {depth * .25:.1f}l{way * depth * .14:.1f} {depth * .3:.1f}',
+                      '#ffdca0' if brush.chance.random() < .4 else '#01161a', brush.between(.4, 1.2), brush.between(.05, .15))
+    rim = 'M' + 'L'.join(f'{x:.1f} {y:.1f}' for x, y in ridge if -10 < x < W)
+    return drawn + line(rim, '#ffdf9e', 1.1, .38 - .07 * index)
 
 
 def mist(y, strength, colour='#e8b878'):
     return f'<ellipse cx="{SUN[0]}" cy="{y}" rx="420" ry="12" fill="{colour}" opacity="{strength}" filter="url(#mist)"/>'
 
 
+def crag(brush):
+    """Columns of rock, each with a lit and a dark face, higher towards the middle."""
+    drawn = ''
+    for row, (foot, lift) in enumerate(((576, 0), (578, 26), (580, 58))):
+        columns = []
+        for i in range(15):
+            x = 412 + i * 15.5 + brush.between(-5, 5)
+            beside = max(0.0, abs(x + 9 - 514) - 54) / 66
+            rise = 150 * max(0.0, 1 - beside) ** 1.1 - lift
+            columns.append((x, foot - max(8.0, rise * brush.between(.9, 1.04)), brush.between(15, 25)))
+        for x, top, w in sorted(columns, key=lambda c: c[1]):
+            top = max(top, 426)
+            split = x + w * brush.between(.3, .5)
+            drawn += shape(f'M{x - 3:.1f} {foot}L{x:.1f} {top + 6:.1f}L{split:.1f} {top:.1f}L{x + w:.1f} {top + 8:.1f}L{x + w + 3:.1f} {foot}Z', f'url(#crag{row})')
+            drawn += shape(f'M{split:.1f} {top:.1f}L{x + w:.1f} {top + 8:.1f}L{x + w + 3:.1f} {foot}L{split - 3:.1f} {foot}L{split + 2:.1f} {(top + foot) / 2:.1f}Z', '#03161a', 'fill-opacity=".45"')
+            drawn += line(f'M{x:.1f} {top + 6:.1f}L{split:.1f} {top:.1f}', '#ffdf9e', .9, .35) + line(f'M{x:.1f} {top + 8:.1f}L{x - 2:.1f} {foot - 6}', '#c8a468', .8, .22)
+    return drawn
+
+
 def castle():
     """Keep and towers on a crag across the lake."""
     brush = Brush(7)
-    left = brush.ridge(-999, 999, [(404, 556), (432, 500), (450, 452), (463, 424)], .12, 4)
-    right = brush.ridge(-999, 999, [(560, 418), (576, 462), (604, 508), (640, 560)], .12, 4)
-    drawn = shape(outline(left + right + [(640, 566), (404, 566)]), 'url(#crag)')
-    for _ in range(34):
-        x, y = brush.between(430, 600), brush.between(436, 548)
-        drawn += line(f'M{x:.1f} {y:.1f}l{brush.between(-4, 2):.1f} {brush.between(8, 22):.1f}', brush.chance.choice(['#5f8a78', '#03191d']), 1, .28)
+    strand = brush.ridge(-99, 999, [(396, 583), (430, 575), (520, 577), (610, 574), (650, 584)], .04)
+    drawn = crag(brush) + shape(under(strand, 586), '#061c1f') + line('M398 586H650', '#d8a860', 1, .35)
+    for x in range(404, 640, 9):
+        drawn += shape(brush.pine(x + brush.between(-3, 3), 578 + brush.between(-3, 5), brush.between(14, 34)), '#082326')
     wall, dark = '#0c2a30', '#071e23'
     towers = ((466, 430, 20, 66, 24), (488, 430, 16, 92, 30), (506, 430, 24, 122, 44), (533, 430, 15, 84, 28), (549, 432, 19, 58, 22))
-    drawn += shape('M460 432V396H472V392H480V396H540V392H548V396H566V434Z', wall)
+    drawn += shape('M458 438V398H472V392H480V396H540V392H548V396H568V438Z', wall)
     for x, foot, w, h, roof in towers:
         top = foot - h
         drawn += shape(f'M{x} {foot}V{top}H{x + w}V{foot}Z', wall) + shape(f'M{x} {foot}V{top}H{x + w * .3:.1f}V{foot}Z', '#2f5a56')
@@ -141,24 +182,31 @@ def shore(brush):
 
 def route():
     """The way still to go, drawn as maps draw it."""
-    return line('M236 640C268 634 300 640 340 628C392 612 372 590 418 578C462 566 440 548 470 536C500 522 486 492 500 470C508 456 506 446 508 436',
-                '#06181a', 3.6, .5, 'stroke-dasharray="1 9"') + \
-        line('M236 640C268 634 300 640 340 628C392 612 372 590 418 578C462 566 440 548 470 536C500 522 486 492 500 470C508 456 506 446 508 436',
-             '#ffd77c', 2.2, .95, 'stroke-dasharray="7 6"')
+    way = ('M306 664C330 656 350 668 384 663C430 658 470 640 520 626C556 616 584 606 588 590C590 576 560 572 540 562'
+           'C516 550 478 552 474 536C470 520 520 522 536 508C548 494 492 492 488 474C486 460 506 452 508 438')
+    return line(way, '#04100f', 4, .5, 'stroke-dasharray="8 6"') + line(way, '#ffd77c', 2.2, .95, 'stroke-dasharray="8 6"')
+
+
+def birds(brush):
+    drawn = ''
+    for _ in range(9):
+        x, y, w = brush.between(150, 250), brush.between(268, 330), brush.between(3, 6)
+        drawn += line(f'M{x - w:.1f} {y - 1:.1f}q{w * .6:.1f} -2.500 {w:.1f} 1q{w * .4:.1f} -3.500 {w:.1f} -1', '#10282a', 1.1, .8)
+    return drawn
 
 
 def ledge(brush):
-    points = brush.ridge(-99, 999, [(-10, 606), (40, 618), (96, 634), (150, 640), (214, 640), (244, 646), (262, 668), (300, 690), (380, 704), (480, 700), (600, 690), (760, 676)], .07)
+    points = brush.ridge(-99, 999, [(-10, 606), (40, 618), (96, 634), (150, 640), (214, 641), (284, 645), (300, 658), (312, 676), (340, 694), (400, 706), (480, 700), (600, 690), (760, 676)], .07)
     drawn = ''
     for x, h, lean in ((10, 330, 4), (52, 262, -3), (-8, 210, 0), (88, 176, 2), (118, 120, 0), (30, 150, 0)):
         drawn += shape(brush.pine(x, 640, h, lean), '#041314')
     for x, h in ((592, 110), (630, 150), (668, 122), (700, 168), (560, 74), (735, 140)):
         drawn += shape(brush.pine(x, 704, h), '#051a1b')
     drawn += shape(under(points, 730), 'url(#near)')
-    crest = [(x, y) for x, y in points if 110 < x < 262]
+    crest = [(x, y) for x, y in points if 110 < x < 312]
     drawn += line('M' + 'L'.join(f'{x:.1f} {y:.1f}' for x, y in crest), '#ffb860', 1.6, .6)
     for _ in range(70):
-        x = brush.between(100, 262)
+        x = brush.between(100, 292)
         drawn += line(f'M{x:.1f} {642 + brush.between(0, 4):.1f}q{brush.between(-2, 2):.1f} -4 {brush.between(-4, 4):.1f} {brush.between(-12, -5):.1f}',
                       brush.chance.choice(['#8a6a30', '#3f5a34', '#071c1a']), .9, .7)
     return drawn
@@ -166,24 +214,32 @@ def ledge(brush):
 
 def traveller():
     """A cloaked figure with a staff and a lantern; a fox waits beside."""
-    body = shape('M184 642C180 620 184 596 190 582C186 578 187 566 194 562C202 558 210 562 211 570C212 576 210 580 207 583C214 594 222 620 222 642Z', 'url(#cloak)')
-    hood = shape('M189 583C185 572 188 561 198 559C208 558 214 566 212 576C210 583 204 587 198 587Z', '#571a15') + \
-        line('M203 560C211 562 214 569 212 577C216 592 221 618 222 640', '#ffb45c', 1.500, .9)
-    folds = line('M194 590C190 606 190 624 191 640M203 590C208 606 211 624 211 640', '#1c0708', 1.400, .8)
-    arm = shape('M205 590C213 593 222 598 230 600L230 605C220 605 208 602 203 598Z', '#6a221b')
-    staff = line('M181 644L187 552', '#2c1a0c', 3) + line('M182 640L187.700 556', '#c88a48', 1, .8)
-    lamp = dot(231, 614, 120, 'url(#lamp)') + line('M230 602v5', '#e8b850', 1.200) + \
-        shape('M226.500 608h9l1.500 12h-12z', '#3a220c') + shape('M228 610h6l1 8.500h-8z', '#fff0b4')
-    fox = shape('M246 643C243 634 247 627 251 624L250 616L254.500 619.500C257 618.500 259 619 261 620L265.500 617L264 624C266 627 264 629 260.500 630C263 634 263 640 262 643Z', '#8a3c14') + \
-        shape('M247 643C240 644 233 641 231.500 635C236 638 241 637 245 634Z', '#7a3210') + line('M250.500 617L251.500 625C248 629 246 635 247.500 642', '#ffb860', 1.300, .85)
-    return lamp + staff + body + folds + hood + arm + fox
+    glow = dot(236, 606, 120, 'url(#lamp)')
+    staff = line('M176 645L186 548', '#22140a', 3) + line('M177.500 641L186.600 552', '#c88a48', 1, .8)
+    cloak = shape('M196 574C188 580 183 592 180 610C177 624 176 636 174 643C186 648 210 648 222 643C220 626 219 606 214 592C211 582 207 576 203 574Z', 'url(#cloak)')
+    hem = shape('M174 643C186 648 210 648 222 643L219 639C208 643 188 643 176 639Z', '#c8843c', 'fill-opacity=".55"')
+    folds = line('M190 592C186 608 184 624 183 642M199 590C199 608 199 626 199 645M207 592C211 608 213 626 214 643', '#1a0608', 1.300, .8)
+    arm = shape('M205 580C211 584 220 590 231 592L232 597.500C221 599 209 596 202 590Z', '#6a221b') + line('M206 581C212 585 221 590 231 592', '#ffb45c', 1.200, .9)
+    hood = shape('M192 577C188 570 188.500 561 194 556.500C199 553 206 555 208.500 561C210.500 567 209.500 573 206 578C201 581 196 580 192 577Z', '#5e1b16') + \
+        shape('M204 560.500C208 562 208.500 570 205 575C202.500 571 202 564 204 560.500Z', '#1c0808')
+    rim = line('M203 555.500C208 557 210.500 564 208.500 571L207 577C213 586 218 604 220.500 640', '#ffb45c', 1.500, .95)
+    pack = shape('M190 580C183 579 178 584 179 592C180 600 186 603 191 600Z', '#3c2412') + line('M180 586C184 583 188 583 191 585', '#8a5c2c', 1.200)
+    lamp = line('M232 594.500C235 594.500 236 596 236 598', '#e8b850', 1.200) + shape('M231.500 599H240.500L242.500 612H229.500Z', '#33200c') + \
+        shape('M233 601H239L240.300 610.500H231.700Z', '#fff2bc') + shape('M230.500 597.800H241.500V599.500H230.500ZM229 611.800H243V613.500H229Z', '#c8902e')
+    fox = shape('M252 645C248 636 250 629 255 625L252.500 616L258.500 619.500C261 618.500 264 618.800 266 620L271.500 616.500L269.500 624C272.500 627 276 629 276.500 630.500'
+                'C274 632 270 632.500 266.500 632C270 637 270 641 269 645Z', '#a8481a') + \
+        shape('M254 645C246 647 236 643 235 636C240 640 247 640 251.500 636.500Z', '#8e3a14') + shape('M235 636C236 640 239 642.500 242 643.500C240 640 238 638 235 636Z', '#f0dcb8') + \
+        shape('M266.500 632C270 632.500 274 632 276.500 630.500C274 628.500 270 629 266 629.500C264 636 266 640 266 645H269C270 641 270 637 266.500 632Z', '#f0dcb8') + \
+        dot(267.3, 626.300, .9, '#1a0804') + line('M252.600 617L255.300 625C251 629 249.500 635 252 643', '#ffc070', 1.300, .9)
+    return glow + pack + cloak + hem + folds + staff + arm + hood + rim + lamp + fox
 
 
 def draw(_):
     brush = Brush(3)
     sky = f'<rect width="{W}" height="{H}" fill="url(#sky)"/>' + brush.stars(170, 0, 60, W, 300)
-    sun = f'<rect width="{W}" height="{H}" fill="url(#glow)"/>' + rose() + dot(*SUN, 45, 'url(#disc)') + clouds(brush)
+    sun = f'<rect width="{W}" height="{H}" fill="url(#glow)"/>' + rose() + dot(*SUN, 45, 'url(#disc)') + clouds(brush) + birds(brush)
     land = range_(0) + mist(424, .42) + range_(1) + mist(462, .30) + range_(2) + mist(500, .22, '#9ab89a') + range_(3)
-    near = lake(brush) + castle() + mist(548, .25, '#8ab0a0') + shore(brush) + route() + ledge(brush) + traveller()
+    near = lake(brush) + castle() + mist(560, .2, '#8ab0a0') + shore(brush) + route() + ledge(brush) + traveller()
+    grain = f'<rect width="{W}" height="{H}" filter="url(#grain)" opacity=".05"/>'
     dark = f'<rect width="{W}" height="{H}" fill="url(#top)"/><rect width="{W}" height="{H}" fill="url(#right)"/>'
-    return page(W, H, defs(), sky + sun + land + near + dark)
+    return page(W, H, defs(), sky + sun + land + near + grain + dark)

@@ -125,14 +125,12 @@ def sun(cx, cy, rays, inner, outer, short):
 
 
 def picOutpost1():
-    return path('M7 19L11 22.5L15 19Z', 'url(#gold)', 2.6) + seal(11, 11, 9.4) + at(TENT, 11, 11.6, .46)
+    return path('M7 19L11 22.5L15 19Z', 'url(#gold)', 2.6) + seal(11, 11, 9.4) + at(TENT, 11, 11.6, .62)
 
 
 def picMission1():
     ribbon = path('M7 24V45L11.5 41L15 45V26Z', 'url(#cloth)') + path('M25 24V45L20.5 41L17 45V26Z', 'url(#cloth)')
-    blades = turned(sword(11, 2.8), 42, 0, 0) + turned(sword(11, 2.8), -42, 0, 0)
-    return ribbon + thin('M8.3 28V41M18.3 29V41', '#ffb0a0', .9, .7) + seal(16, 16, 13.8) \
-        + at(turned(sword(13, 3), 45, 0, 0), 11.5, 20.5, .84) + at(turned(sword(13, 3), -45, 0, 0), 20.5, 20.5, .84)
+    return ribbon + thin('M8.3 28V41M18.3 29V41', '#ffb0a0', .9, .7) + seal(16, 16, 13.8) + at(STAR, 16, 16.6, .98)
 
 
 def picTown1():
@@ -148,8 +146,9 @@ def picOutpost2():
 
 
 def picMission2():
-    spears = at(turned(spear(50), 35, 0, 0), 8, 43.5) + at(turned(spear(50), -35, 0, 0), 37, 43.5)
-    return spears + stele(9.5, 5, 26, 40.5) + banner(13.5, 11, 18, 26, at(STAR, 0, 0, 1.12))
+    spears = at(turned(spear(41), 33, 0, 0), 16, 37) + at(turned(spear(41), -33, 0, 0), 29, 37)
+    butts = path('M5.5 45L9 39.5L11 41L8 45.5Z', 'url(#wood)', 2.2) + path('M39.5 45L36 39.5L34 41L37 45.5Z', 'url(#wood)', 2.2)
+    return spears + butts + stele(10.5, 8, 24, 37.5) + banner(14, 13.5, 17, 25, at(STAR, 0, 0, 1.12))
 
 
 def tower(x, y, w, h, roof):
@@ -167,8 +166,8 @@ def picTown2():
 
 
 def picChallenge2():
-    axes = at(turned(axe(40), 32, 0, 0), 9, 46) + at(turned('<g transform="scale(-1 1)">' + axe(40) + '</g>', -32, 0, 0), 35, 46)
-    return axes + stele(9.5, 9, 25, 40.5) + banner(13, 15, 18, 26, at(CUP, 0, 0, 1.08))
+    left, right = turned('<g transform="scale(-1 1)">' + axe(40) + '</g>', -24, 0, 0), turned(axe(40), 24, 0, 0)
+    return at(right, 15, 43) + at(left, 29, 43) + stele(10.5, 13, 23, 36.5) + banner(14, 18.5, 16, 24, at(CUP, 0, 0, 1.15))
 
 
 def picOutpost3():
@@ -176,8 +175,7 @@ def picOutpost3():
 
 
 def picMission3():
-    return sun(32, 30.5, 16, 19, 29, 24) + seal(32, 30.5, 18.5, 'lapis') \
-        + at(turned(sword(17, 3.2), 45, 0, 0), 25.5, 37, 1) + at(turned(sword(17, 3.2), -45, 0, 0), 38.5, 37, 1)
+    return sun(32, 30.5, 16, 19, 29, 24) + seal(32, 30.5, 18.5, 'lapis') + at(STAR, 32, 31.4, 1.36)
 
 
 def dome(cx, base, r, body, height):
@@ -210,10 +208,10 @@ def picChallenge3():
 
 
 def picVanquish0():
-    shield = 'M3 6.500C7 6.500 10 5.500 12 4C14 5.500 17 6.500 21 6.500V15C21 21.500 16.500 25 12 27.300C7.500 25 3 21.500 3 15Z'
-    return (at(turned(sword(21, 2.8), 40, 0, 0), 5.500, 21) + at(turned(sword(21, 2.8), -40, 0, 0), 18.5, 21)
-            + path(shield, 'url(#wood)') + thin('M4.300 14V7.700C8 7.600 10.400 6.800 12 5.700', '#ffdca8', 1, .8)
-            + thin('M12 6V25.500M4 14.500H20', '#f0c04e', 1.800) + circle(12, 14.5, 2.7, 'url(#gold)', 1.6))
+    shield = 'M4.500 10C7.500 10 10 9.200 12 8C14 9.200 16.500 10 19.500 10V16.500C19.500 22 16 25.300 12 27.300C8 25.300 4.500 22 4.500 16.500Z'
+    return (at(turned(sword(24, 3), 40, 0, 0), 5.5, 22) + at(turned(sword(24, 3), -40, 0, 0), 18.5, 22)
+            + path(shield, 'url(#wood)') + thin('M5.900 16V11.300C8.500 11.200 10.600 10.500 12 9.700', '#ffdca8', 1, .8)
+            + thin('M12 9.800V25.700M5.200 16.500H18.800', '#f0c04e', 1.7) + circle(12, 16.5, 2.6, 'url(#gold)', 1.6))
 
 
 def picDungeonEntrance0():
