@@ -1,0 +1,24 @@
+#include "app/Saving.h"
+
+#include "app/ProgramState.h"
+#include "app/modLanguage.h"
+
+namespace orvinel {
+
+bool saveAndTell(const ProgramState& state, Desktop& desktop,
+                 const std::function<SaveResult(bool evenIfChanged)>& save) {
+    SaveResult result = save(false);
+    if (result.outcome == SaveResult::Outcome::ChangedOutside) {
+        const QString question = ownText(state, OwnText::ChangedOutside).arg(result.file);
+        if (!desktop.ask(MessageIcon::Question, programName(), question))
+            return false;
+        result = save(true);
+    }
+    if (result.saved())
+        return true;
+    desktop.message(MessageIcon::Critical, programName(),
+                    ownText(state, OwnText::SaveFailed).arg(result.file, result.reason));
+    return false;
+}
+
+} // namespace orvinel

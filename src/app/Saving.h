@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/Desktop.h"
+#include "app/PlayerFiles.h"
+
+#include <functional>
+
+namespace orvinel {
+
+struct ProgramState;
+
+// Runs `save` and tells the player when it failed. When somebody else has written the file meanwhile, asks,
+// and on Yes saves with its argument True. True when the file is saved.
+bool saveAndTell(const ProgramState& state, Desktop& desktop,
+                 const std::function<SaveResult(bool evenIfChanged)>& save);
+
+} // namespace orvinel

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QFont>
+
+namespace orvinel {
+
+// Pixel sizes of the point sizes that the windows are laid out with, at 96 dots per inch.
+inline constexpr int points6_75 = 9;
+inline constexpr int points7 = 9;
+inline constexpr int points8 = 11;
+inline constexpr int points8_25 = 11;
+inline constexpr int points9 = 12;
+inline constexpr int points10 = 13;
+inline constexpr int points24 = 32;
+
+// Arial, or the face of the same widths, at `pixels` high; the same pixels on every machine that has the
+// face.
+QFont arial(int pixels, bool bold = false);
+
+} // namespace orvinel

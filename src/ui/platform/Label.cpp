@@ -1,0 +1,66 @@
+#include "ui/platform/Label.h"
+
+#include "ui/platform/Drawing.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+
+namespace orvinel {
+
+Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setMargin(0);
+    setIndent(0);
+}
+
+void Label::setCaption(const QString& text) {
+    setText(text);
+    fit();
+}
+
+void Label::setWrapWidth(int pixels) {
+    wrapWidth_ = pixels;
+    setWordWrap(pixels > 0);
+    fit();
+}
+
+void Label::setColour(Colour colour) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Active, QPalette::WindowText, toQColor(colour));
+    colours.setColor(QPalette::Inactive, QPalette::WindowText, toQColor(colour));
+    setPalette(colours);
+}
+
+void Label::fit() {
+    const QFontMetrics metrics = fontMetrics();
+    if (wrapWidth_ > 0) {
+        const int height = text().isEmpty() ? metrics.height() : heightForWidth(wrapWidth_);
+        resize(wrapWidth_, height);
+        return;
+    }
+    // One pixel more than the text: the last letter of some faces hangs over.
+    const QSize area = metrics.size(0, text());
+    resize(area.width() + 1, std::max(area.height(), metrics.height()));
+}
+
+void Label::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    emit pressed();
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    emit released();
+    if (rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+void Label::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fit();
+}
+
+} // namespace orvinel

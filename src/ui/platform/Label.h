@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/Colour.h"
+
+#include <QLabel>
+
+namespace orvinel {
+
+// A plain text on a transparent ground that is as large as its text, or as wide as told and as high as its
+// lines.
+class Label : public QLabel {
+    Q_OBJECT
+  public:
+    // `name` is the control's fixed name.
+    Label(const QString& name, QWidget* parent);
+
+    // Sets the text and the label's size. Its top left corner stays.
+    void setCaption(const QString& text);
+    // Wraps words at this width, pixels, from now on; 0: one line per line of text.
+    void setWrapWidth(int pixels);
+    void setColour(Colour colour);
+
+  signals:
+    void clicked();
+    void pressed();
+    void released();
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void fit();
+
+    int wrapWidth_ = 0;
+};
+
+} // namespace orvinel

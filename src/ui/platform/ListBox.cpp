@@ -1,0 +1,142 @@
+#include "ui/platform/ListBox.h"
+
+#include <QAbstractListModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <utility>
+
+namespace orvinel {
+
+class ListModel : public QAbstractListModel {
+  public:
+    using QAbstractListModel::QAbstractListModel;
+
+    std::vector<ListEntry> entries;
+    std::vector<int> items;
+    int extent = 0;
+
+    void replace(std::vector<ListEntry> fresh) {
+        beginResetModel();
+        entries = std::move(fresh);
+        items.clear();
+        items.reserve(entries.size());
+        for (const ListEntry& entry : entries)
+            items.push_back(entry.data);
+        endResetModel();
+    }
+    void setExtent(int pixels) {
+        extent = pixels;
+        emit layoutChanged();
+    }
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(entries.size());
+    }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role == Qt::SizeHintRole)
+            return QSize(extent, ListBox::rowHeight);
+        const ListEntry& entry = entries[static_cast<size_t>(index.row())];
+        if (role == Qt::DisplayRole)
+            return entry.text;
+        return role == Qt::UserRole ? QVariant(entry.data) : QVariant();
+    }
+};
+
+ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent), model_(new ListModel(this)) {
+    setObjectName(name);
+    setModel(model_);
+    setUniformItemSizes(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setFrameShape(QFrame::Panel);
+    setFrameShadow(QFrame::Sunken);
+    setLineWidth(frame);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+}
+
+void ListBox::setEntries(std::vector<ListEntry> entries) {
+    silent_ = true;
+    model_->replace(std::move(entries));
+    setCurrentIndex({});
+    silent_ = false;
+    ++revision_;
+    model_->extent = 0;
+}
+
+int ListBox::count() const {
+    return model_->rowCount();
+}
+ListedItems ListBox::items() const {
+    return model_->items;
+}
+int ListBox::selectedIndex() const {
+    return selectionModel()->hasSelection() ? currentIndex().row() : -1;
+}
+const ListEntry& ListBox::selectedEntry() const {
+    return entry(selectedIndex());
+}
+const ListEntry& ListBox::entry(int index) const {
+    return model_->entries[static_cast<size_t>(index)];
+}
+
+void ListBox::select(int index) {
+    silent_ = true;
+    setCurrentIndex(index >= 0 && index < count() ? model_->index(index) : QModelIndex());
+    if (!currentIndex().isValid())
+        clearSelection();
+    silent_ = false;
+    if (hasSelection())
+        emit picked();
+}
+
+void ListBox::selectData(int wanted) {
+    const auto found = std::find(model_->items.begin(), model_->items.end(), wanted);
+    if (found != model_->items.end())
+        select(static_cast<int>(found - model_->items.begin()));
+}
+
+void ListBox::setHorizontalExtent(int pixels) {
+    model_->setExtent(pixels);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && hasSelection()) {
+        emit activatedEntry();
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QListView::currentChanged(current, previous);
+    if (silent_ || !current.isValid())
+        return;
+    // The view selects the entry only after telling of the change.
+    silent_ = true;
+    selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
+    silent_ = false;
+    pickedByPress_ = true;
+    emit picked();
+}
+
+void ListBox::mousePressEvent(QMouseEvent* event) {
+    pickedByPress_ = false;
+    const bool before = hasSelection();
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    QListView::mousePressEvent(event);
+    if (!pickedByPress_ && pressed.isValid() && pressed == currentIndex() &&
+        event->button() == Qt::LeftButton) {
+        if (!before)
+            selectionModel()->select(pressed, QItemSelectionModel::ClearAndSelect);
+        emit picked();
+    }
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid() && hasSelection())
+        emit activatedEntry();
+}
+
+} // namespace orvinel

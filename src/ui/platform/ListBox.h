@@ -1,0 +1,67 @@
+#pragma once
+
+#include "app/Listing.h"
+
+#include <QListView>
+
+#include <vector>
+
+namespace orvinel {
+
+class ListModel;
+
+// A list of texts with item data. Selecting an entry, by the player or by code, emits picked(); so does a
+// click on the entry that is selected already.
+class ListBox : public QListView {
+    Q_OBJECT
+  public:
+    ListBox(const QString& name, QWidget* parent);
+
+    static constexpr int rowHeight = 14; // pixels
+    static constexpr int frame = 2;      // pixels on each side
+    // The largest height that shows whole lines only and is at most `height`.
+    static int wholeLines(int height) { return (height - 2 * frame) / rowHeight * rowHeight + 2 * frame; }
+
+    // Nothing is selected afterwards; no picked() is emitted.
+    void setEntries(std::vector<ListEntry> entries);
+    void clear() { setEntries({}); }
+    int count() const;
+    // The data of all entries, in order; valid until the entries change.
+    ListedItems items() const;
+    // Grows by one whenever the entries change: what depends on them can tell that it is stale.
+    int revision() const { return revision_; }
+
+    // -1: none.
+    int selectedIndex() const;
+    // The text and data of the selected entry; only with a selection.
+    const ListEntry& selectedEntry() const;
+    bool hasSelection() const { return selectedIndex() >= 0; }
+    const ListEntry& entry(int index) const;
+
+    // Selects (and scrolls to) an entry and emits picked(), or clears the selection with -1.
+    void select(int index);
+    // Selects the first entry with that data, if there is one.
+    void selectData(int wanted);
+
+    // Pixels that can be scrolled into view sideways; 0: as wide as the list.
+    void setHorizontalExtent(int pixels);
+
+  signals:
+    void picked();
+    // Double click, or Enter on the selected entry.
+    void activatedEntry();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+  private:
+    ListModel* model_;
+    int revision_ = 0;
+    bool silent_ = false;
+    bool pickedByPress_ = false;
+};
+
+} // namespace orvinel

@@ -1,0 +1,44 @@
+#include "ui/platform/PictureBox.h"
+
+#include <QMouseEvent>
+
+namespace orvinel {
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureBox::setBackground(Colour colour) {
+    background_ = colour;
+    surface_ = {};
+    update();
+}
+
+void PictureBox::clear() {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = (QSizeF(size()) * ratio).toSize();
+    if (surface_.size() != pixels)
+        surface_ = QImage(pixels, QImage::Format_RGB32);
+    surface_.setDevicePixelRatio(ratio);
+    surface_.fill(toQColor(background_));
+}
+
+QImage& PictureBox::surface() {
+    if (surface_.isNull())
+        clear();
+    return surface_;
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), toQColor(background_));
+    if (!surface_.isNull())
+        painter.drawImage(0, 0, surface_);
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    emit clicked();
+}
+
+} // namespace orvinel

@@ -1,0 +1,126 @@
+#include "ui/platform/QtDesktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScopeGuard>
+#include <QScreen>
+#include <QThread>
+#include <QUrl>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
+           QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    QWidget* owner = QApplication::activeWindow();
+    if (owner && owner->windowHandle())
+        box.setWindowFlag(Qt::WindowStaysOnTopHint,
+                          owner->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
+    return box.exec();
+}
+
+QMessageBox::Icon boxIcon(MessageIcon icon) {
+    return icon == MessageIcon::Critical   ? QMessageBox::Critical
+           : icon == MessageIcon::Question ? QMessageBox::Question
+                                           : QMessageBox::NoIcon;
+}
+
+QString asciiDigits(QString text) {
+    for (QChar& c : text)
+        if (c.isDigit())
+            c = QChar(u'0' + c.digitValue());
+    return text;
+}
+
+} // namespace
+
+void QtDesktop::message(MessageIcon icon, const QString& title, const QString& text) {
+    runBox(boxIcon(icon), title, text, QMessageBox::Ok);
+}
+
+bool QtDesktop::ask(MessageIcon icon, const QString& title, const QString& text) {
+    return runBox(boxIcon(icon), title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+void QtDesktop::warnWithCancel(const QString& title, const QString& text) {
+    runBox(QMessageBox::Critical, title, text, QMessageBox::Ok | QMessageBox::Cancel);
+}
+
+bool QtDesktop::openWithShell(const QString& target) {
+    const bool address = target.startsWith(u"http"_s) || target.startsWith(u"mailto:"_s);
+    if (address)
+        return QDesktopServices::openUrl(QUrl(target));
+    const QFileInfo file(target);
+    if (!file.isFile())
+        return false;
+    if (file.isExecutable())
+        return QProcess::startDetached(file.filePath(), {}, folder_);
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(target));
+}
+
+QRect QtDesktop::workArea() const {
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+QSize QtDesktop::allScreens() const {
+    return QGuiApplication::primaryScreen()->virtualSize();
+}
+
+bool QtDesktop::reachable(const QRect& window) const {
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        const QRect seen = window.intersected(screen->geometry());
+        return seen.width() >= 40 && seen.height() >= 40;
+    });
+}
+
+QDate QtDesktop::today() const {
+    return QDate::currentDate();
+}
+
+QString QtDesktop::shortDate(const QDate& date) const {
+    return asciiDigits(QLocale::system().toString(date, QLocale::ShortFormat));
+}
+
+void QtDesktop::wait(int milliseconds) {
+    QThread::msleep(static_cast<unsigned long>(milliseconds));
+}
+
+void QtDesktop::processPendingEvents() {
+    // Handlers that run from here may call here again; nesting would let stale results overwrite fresh ones.
+    if (processing_)
+        return;
+    processing_ = true;
+    const auto done = qScopeGuard([this] { processing_ = false; });
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtDesktop::setHourglass(bool on) {
+    if (on)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtDesktop::setAlwaysOnTop(QWidget& window, bool on) {
+    // QWidget::setWindowFlag would hide and re-create the window.
+    Qt::WindowFlags flags = window.windowFlags();
+    flags.setFlag(Qt::WindowStaysOnTopHint, on);
+    window.overrideWindowFlags(flags);
+    if (QWindow* handle = window.windowHandle())
+        handle->setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
+} // namespace orvinel

@@ -1,0 +1,87 @@
+#include "ui/platform/Windows.h"
+
+#include "ui/platform/Fonts.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QPixmap>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QTranslator>
+#include <QWindow>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Drop-down lists as high as told instead of as high as the screen; everything else as Fusion does it.
+class ProgramStyle : public QProxyStyle {
+  public:
+    ProgramStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+QPalette lightColours() {
+    QPalette colours(QColor(0xF0, 0xF0, 0xF0));
+    colours.setColor(QPalette::Window, QColor(0xF0, 0xF0, 0xF0));
+    colours.setColor(QPalette::Button, QColor(0xF0, 0xF0, 0xF0));
+    colours.setColor(QPalette::Base, Qt::white);
+    colours.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF7, 0xF7));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        colours.setColor(role, Qt::black);
+        colours.setColor(QPalette::Disabled, role, QColor(0x80, 0x80, 0x80));
+    }
+    colours.setColor(QPalette::Highlight, QColor(0x20, 0x5E, 0x9C));
+    colours.setColor(QPalette::HighlightedText, Qt::white);
+    colours.setColor(QPalette::Disabled, QPalette::Base, QColor(0xEC, 0xEC, 0xEC));
+    return colours;
+}
+
+QPoint hotSpot(int number) {
+    return number == 101 ? QPoint(1, 1) : QPoint(15, 15);
+}
+
+} // namespace
+
+QCursor programCursor(int number) {
+    const QPoint at = hotSpot(number);
+    return QCursor(QPixmap(u":/cursors/%1.png"_s.arg(number)), at.x(), at.y());
+}
+
+void applyAppearance(QApplication& application) {
+    QApplication::setStyle(new ProgramStyle);
+    QApplication::setPalette(lightColours());
+    QApplication::setFont(arial(points8_25));
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size));
+    QApplication::setWindowIcon(icon);
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+}
+
+void WindowDrag::press(QPoint global) {
+    QWindow* handle = window_.windowHandle();
+    following_ = !(handle && handle->startSystemMove());
+    grip_ = global - window_.pos();
+}
+
+void WindowDrag::move(QPoint global) {
+    if (following_)
+        window_.move(global - grip_);
+}
+
+void keepOffTaskBar(QWidget&) {
+}
+
+} // namespace orvinel

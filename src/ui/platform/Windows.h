@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QCursor>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+class QApplication;
+
+namespace orvinel {
+
+// The program's own mouse pointers, by number: 101 everywhere, 102 over the map and over links, 103 while
+// dragging.
+QCursor programCursor(int number);
+
+// Light colours and the same widgets on every desktop, texts of the boxes in the player's language, program
+// icon.
+void applyAppearance(QApplication& application);
+
+// Moves a window without a title bar while the left button is held on its background: by the window manager
+// where there is one, else by following the mouse. One per window; it calls for nothing but the window's
+// mouse events.
+class WindowDrag {
+  public:
+    explicit WindowDrag(QWidget& window) : window_(window) {}
+
+    // From the window's handlers, with the mouse position on the screen. True while the window follows by
+    // itself.
+    void press(QPoint global);
+    void move(QPoint global);
+    void release() { following_ = false; }
+
+  private:
+    QWidget& window_;
+    bool following_ = false;
+    QPoint grip_;
+};
+
+// Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
+void keepOffTaskBar(QWidget& window);
+
+} // namespace orvinel

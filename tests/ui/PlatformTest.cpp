@@ -1,0 +1,109 @@
+#include "support/Printing.h"
+#include "ui/platform/Drawing.h"
+#include "ui/platform/Fonts.h"
+#include "ui/platform/ItemCombo.h"
+#include "ui/platform/ListBox.h"
+
+#include <QAccessible>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(ItemCombo, selectingFromCodeRunsTheHandlerExactlyOnceAlsoForTheSameEntry) {
+    ItemCombo combo(u"cmb"_s, nullptr);
+    int picks = 0;
+    QObject::connect(&combo, &ItemCombo::picked, [&] { ++picks; });
+    combo.setEntries({{u"a"_s, 7}, {u"b"_s, 8}});
+    EXPECT_EQ(0, picks);
+    EXPECT_EQ(-1, combo.data(-1));
+    combo.select(0);
+    combo.select(0);
+    EXPECT_EQ(2, picks);
+    combo.select(9);
+    EXPECT_EQ(-1, combo.currentIndex());
+}
+
+struct ListBoxTest : testing::Test {
+    ListBox list{u"lst"_s, nullptr};
+    int picks = 0;
+    int activations = 0;
+
+    ListBoxTest() {
+        list.resize(200, 100);
+        list.show();
+        QObject::connect(&list, &ListBox::picked, [this] { ++picks; });
+        QObject::connect(&list, &ListBox::activatedEntry, [this] { ++activations; });
+        list.setEntries({{u"alpha"_s, 3}, {u"beta"_s, 4}, {u"gamma"_s, 5}});
+    }
+    QPoint middleOf(int row) const { return {40, row * ListBox::rowHeight + 6}; }
+    void click(int row) { QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middleOf(row)); }
+};
+
+TEST_F(ListBoxTest, pickingByMouseKeysAndCodeIsToldOnceEach) {
+    EXPECT_FALSE(list.hasSelection());
+    click(1);
+    EXPECT_EQ(1, picks);
+    EXPECT_EQ(4, list.selectedEntry().data);
+    click(1);
+    EXPECT_EQ(2, picks);
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(3, picks);
+    EXPECT_EQ(2, list.selectedIndex());
+    list.select(0);
+    EXPECT_EQ(4, picks);
+    list.select(-1);
+    EXPECT_EQ(4, picks);
+    EXPECT_FALSE(list.hasSelection());
+}
+
+TEST_F(ListBoxTest, enterAndDoubleClickActivateTheSelectedEntry) {
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(0, activations);
+    click(2);
+    QTest::keyClick(&list, Qt::Key_Return);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middleOf(2));
+    EXPECT_EQ(2, activations);
+}
+
+TEST_F(ListBoxTest, newEntriesClearTheSelectionSilently) {
+    click(0);
+    list.setEntries({{u"delta"_s, 9}});
+    EXPECT_EQ(1, picks);
+    EXPECT_FALSE(list.hasSelection());
+    EXPECT_EQ(9, list.items()[0]);
+}
+
+TEST_F(ListBoxTest, everyRowStandsInTheAccessibilityTree) {
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list);
+    ASSERT_TRUE(tree);
+    ASSERT_EQ(3, tree->childCount());
+    EXPECT_EQ(u"beta"_s, tree->child(1)->text(QAccessible::Name));
+}
+
+TEST(Fonts, haveTheHeightsThatTheLayoutsWereMadeFor) {
+    EXPECT_EQ(12, QFontMetrics(arial(points8_25)).height());
+    EXPECT_EQ(15, QFontMetrics(arial(points10)).height());
+}
+
+TEST(Drawing, boxesCoverTheirCornersInclusive) {
+    QImage image(20, 20, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+        Drawing drawing(&image);
+        drawing.setFill(0x0000FF);
+        drawing.box(2, 3, 14, 15);
+    }
+    EXPECT_EQ(0xFF000000u, image.pixel(2, 3));
+    EXPECT_EQ(0xFF000000u, image.pixel(14, 15));
+    EXPECT_EQ(0xFFFF0000u, image.pixel(3, 4));
+    EXPECT_EQ(0xFFFF0000u, image.pixel(13, 14));
+    EXPECT_EQ(0xFFFFFFFFu, image.pixel(15, 15));
+}
+
+} // namespace
+} // namespace orvinel
