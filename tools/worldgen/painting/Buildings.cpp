@@ -187,9 +187,11 @@ Sprite paintedWall(QPointF to, bool timber) {
     SpriteCanvas canvas(2 * width, 2 * height, QPointF(width, height));
     QPainter& p = canvas.painter();
     const Colour body = timber ? Colour{112, 86, 56} : Colour{126, 120, 110};
-    const double high = timber ? 4.2 : 3.8;
+    const double high = timber ? 5.0 : 5.2;
     const bool facingLight = to.x() * to.y() <= 0;
     face(p, {{0, 0}, to, to - QPointF(0, high), {0, -high}}, body.times(facingLight ? 0.72 : 0.98));
+    p.setPen(QPen(inked(body.times(1.35)), timber ? 0.5 : 1.0));
+    p.drawLine(QPointF(0, -high), to - QPointF(0, high));
     const double length = lengthOf(to.x(), to.y());
     for (double at = 0; at <= length; at += timber ? 1.3 : 2.2) {
         const QPointF foot = to * (at / std::max(1.0, length));

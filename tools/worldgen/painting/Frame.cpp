@@ -172,18 +172,18 @@ void paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
     for (int y = 90; y < picture.height() - 90; y += 8)
         for (int x = 90; x < picture.width() - 90; x += 8) {
             const int border = std::min(std::min(x, picture.width() - x), std::min(y, picture.height() - y));
-            const double room = std::min<double>(land.toLand.at(x, y), border);
+            const double room = std::min<double>(land.toLand.at(x, y), border - 36);
             if (room > widest && !taken.adjusted(-110, -110, 110, 110).contains(x, y)) {
                 widest = room;
                 best = {x, y};
             }
         }
-    if (widest < 70)
+    if (widest < 62)
         return;
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(best);
-    paintRose(painter, std::min(widest * 0.72, 84.0));
+    paintRose(painter, std::min(widest * 0.74, 84.0));
 }
 
 } // namespace worldgen

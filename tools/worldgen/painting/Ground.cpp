@@ -48,8 +48,8 @@ Colour soilColour(const Landscape& land, const GroundLayers& layers, int x, int 
     Colour low = mixed(p.dry, p.low, smoothStep(-0.18, 0.14, land.moistureAt(x, y) + jitter));
     low = mixed(low, p.mid, smoothStep(0.08, 0.30, height + jitter));
     low = mixed(low, p.high, smoothStep(0.10, 0.34, layers.upland.sampled(x / 4.0, y / 4.0)) * 0.55);
-    low = mixed(low, low.times(0.74, 0.83, 0.80), smoothStep(0.02, 0.30, shade) * 0.7);
-    low = mixed(low, low.times(1.17, 1.15, 1.02),
+    low = mixed(low, low.times(0.70, 0.80, 0.78), smoothStep(0.02, 0.30, shade) * 0.8);
+    low = mixed(low, low.times(1.22, 1.17, 0.98),
                 smoothStep(0.05, 0.35, layers.meadow.sampled(x / 4.0, y / 4.0)) * 0.6);
     const double woods = land.woodsAt(x, y);
     low = mixed(low, low.times(0.66, 0.76, 0.70),
@@ -67,6 +67,35 @@ double lightOn(const Landscape& land, int x, int y) {
     return 0.50 + 0.86 * lambert + std::clamp(open * 1.6, -0.22, 0.20);
 }
 
+/// What only one theme has: drifts of snow on frozen land, glowing cracks in ash, ripples of sand.
+Colour themed(const Landscape& land, const GroundLayers& layers, QPoint at, Colour colour) {
+    const Noises& n = land.noises;
+    const double height = land.height.at(at.x(), at.y());
+    if (land.theme == Theme::Frost) {
+        const double drift = layers.upland.sampled(at.x() / 4.0, at.y() / 4.0) +
+                             0.5 * layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0);
+        return mixed(colour, land.palette.snow.times(0.78),
+                     smoothStep(0.10, 0.38, drift + 0.5 * height) * 0.55);
+    }
+    if (land.theme == Theme::Ash) {
+        const double where =
+            smoothStep(0.16, 0.34, height + 0.5 * layers.shade.sampled(at.x() / 4.0, at.y() / 4.0));
+        if (where <= 0)
+            return colour;
+        const double crack = 1 - std::fabs(n.c.fbm(at.x() / 46.0, at.y() / 46.0, 3));
+        colour = mixed(colour, colour.times(0.55), smoothStep(0.88, 0.97, crack) * where);
+        return mixed(colour, Colour{232, 104, 34}, smoothStep(0.955, 0.985, crack) * where * 0.8);
+    }
+    if (land.theme == Theme::Desert) {
+        const double dunes = smoothStep(0.02, 0.25, layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0)) *
+                             smoothStep(0.30, 0.2, height);
+        const double ripple =
+            n.d.at((at.x() + 0.6 * at.y()) / 9.0 + 1.6 * n.b.at(at.x() / 60.0, at.y() / 60.0), at.y() / 70.0);
+        return colour.times(1 + 0.16 * dunes * ripple);
+    }
+    return colour;
+}
+
 Colour landColour(const Landscape& land, const GroundLayers& layers, int x, int y) {
     const Palette& p = land.palette;
     Colour colour = soilColour(land, layers, x, y);
@@ -75,6 +104,7 @@ Colour landColour(const Landscape& land, const GroundLayers& layers, int x, int 
     colour = mixed(colour, p.rock, smoothStep(0.035, 0.085, slope) * 0.8);
     const double snow = land.height.at(x, y) + jitter * 1.2 - slope * 1.5;
     colour = mixed(colour, p.snow, smoothStep(p.snowline - 0.16, p.snowline + 0.06, snow));
+    colour = themed(land, layers, {x, y}, colour);
     const double shore = land.toWater.at(x, y) + jitter * 50 + 60 * std::max(0.0, slope - 0.02);
     colour = mixed(p.beach, colour, smoothStep(2, 12, shore));
     const double light = lightOn(land, x, y);

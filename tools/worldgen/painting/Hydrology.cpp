@@ -46,11 +46,14 @@ std::vector<int> lakeFrom(const Field& height, int start, std::vector<char>& ope
 
 } // namespace
 
-Drainage drained(const Field& height) {
+Drainage drained(const Field& height, const Noise& wobble) {
     const std::size_t count = std::size_t(height.count());
     Drainage result{height, std::vector<int>(count, -1), std::vector<float>(count, 1), {}};
     std::vector<char> seen(count, 0);
     Front front;
+    const auto detour = [&](int cell) {
+        return 0.012F * float(wobble.fbm(cell % height.width() / 13.0, cell / height.width() / 13.0, 3));
+    };
     for (int cell = 0; cell < height.count(); ++cell)
         if (drainsAway(height, cell)) {
             seen[std::size_t(cell)] = 1;
@@ -58,16 +61,16 @@ Drainage drained(const Field& height) {
         }
     result.order.reserve(count);
     while (!front.empty()) {
-        const auto [level, cell] = front.top();
+        const int cell = front.top().second;
         front.pop();
         result.order.push_back(cell);
-        forNeighbours(height, cell, [&, level = level, cell = cell](int next) {
+        forNeighbours(height, cell, [&](int next) {
             if (seen[std::size_t(next)])
                 return;
             seen[std::size_t(next)] = 1;
             result.downhill[std::size_t(next)] = cell;
-            result.filled[next] = std::max(height[next], level + 1e-6F);
-            front.emplace(result.filled[next], next);
+            result.filled[next] = std::max(height[next], result.filled[cell] + 1e-6F);
+            front.emplace(result.filled[next] + detour(next), next);
         });
     }
     for (auto cell = result.order.rbegin(); cell != result.order.rend(); ++cell)
@@ -135,16 +138,54 @@ QPointF meander(const Landscape& land, QPointF p) {
             kMeanderReach * n.c.at(p.x() / 31, p.y() / 31) + 2 * n.c.at(p.x() / 13, p.y() / 13)};
 }
 
-River riverFrom(const Landscape& land, int spring, std::vector<char>& used, double threshold) {
-    River river;
+/// Which cells carry a river already, or lie so close to one that another would run beside it.
+class RiverBeds {
+  public:
+    explicit RiverBeds(const Field& grid)
+        : columns_(grid.width()), rows_(grid.height()), nearest_(std::size_t(grid.count()), -1) {}
+
+    /// The river cell that a river arriving at \a cell flows into; -1: none near.
+    int at(int cell) const { return nearest_[std::size_t(cell)]; }
+
+    void add(const std::vector<int>& cells) {
+        constexpr int reach = 4;
+        for (const int cell : cells)
+            for (int y = std::max(0, cell / columns_ - reach);
+                 y <= std::min(rows_ - 1, cell / columns_ + reach); ++y)
+                for (int x = std::max(0, cell % columns_ - reach);
+                     x <= std::min(columns_ - 1, cell % columns_ + reach); ++x)
+                    if (int& owner = nearest_[std::size_t(y * columns_ + x)]; owner < 0)
+                        owner = cell;
+    }
+
+  private:
+    int columns_;
+    int rows_;
+    std::vector<int> nearest_;
+};
+
+QPointF pixelOf(const Landscape& land, int cell) {
     const int columns = land.cells.width();
+    return {(cell % columns + 0.5) * kCell, (cell / columns + 0.5) * kCell};
+}
+
+/// Down from a spring to the sea, the border or another river.
+std::vector<int> courseFrom(const Landscape& land, int spring, const RiverBeds& beds) {
+    std::vector<int> course;
     for (int cell = spring; cell >= 0; cell = land.drainage.downhill[std::size_t(cell)]) {
-        river.points.emplace_back((cell % columns + 0.5) * kCell, (cell / columns + 0.5) * kCell);
-        const double flow = land.drainage.flow[std::size_t(cell)] / threshold;
-        river.widths.push_back(std::clamp(0.7 + 0.9 * log2Of(flow), 0.9, 6.5));
-        if (used[std::size_t(cell)] || land.cells[cell] <= -0.004F)
+        course.push_back(cell);
+        if (beds.at(cell) >= 0 || land.cells[cell] <= -0.004F)
             break;
-        used[std::size_t(cell)] = 1;
+    }
+    return course;
+}
+
+River riverAlong(const Landscape& land, const std::vector<int>& course, double threshold) {
+    River river;
+    for (const int cell : course) {
+        river.points.push_back(pixelOf(land, cell));
+        const double flow = std::max(1.0, land.drainage.flow[std::size_t(cell)] / threshold);
+        river.widths.push_back(std::clamp(0.7 + 0.9 * log2Of(flow), 0.9, 6.5));
     }
     for (std::size_t k = 0; k < std::min<std::size_t>(12, river.widths.size()); ++k)
         river.widths[k] *= 0.4 + 0.05 * double(k);
@@ -155,12 +196,18 @@ River riverFrom(const Landscape& land, int spring, std::vector<char>& used, doub
 
 std::vector<River> tracedRivers(const Landscape& land) {
     const double threshold = riverThreshold(land.theme);
-    std::vector<char> used(std::size_t(land.cells.count()), 0);
+    RiverBeds beds(land.cells);
     std::vector<River> rivers;
     for (const int spring : springs(land, threshold)) {
-        River river = riverFrom(land, spring, used, threshold);
-        if (river.points.size() < 22)
+        const std::vector<int> course = courseFrom(land, spring, beds);
+        if (course.size() < 26)
             continue;
+        River river = riverAlong(land, course, threshold);
+        if (const int mouth = beds.at(course.back()); mouth >= 0) {
+            river.points.push_back(pixelOf(land, mouth));
+            river.widths.push_back(river.widths.back());
+        }
+        beds.add(course);
         smooth(river.points, 6);
         for (QPointF& p : river.points)
             p += meander(land, p);

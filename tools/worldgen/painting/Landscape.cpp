@@ -68,7 +68,7 @@ Landscape::Landscape(const RegionRecipe& recipe)
     : size(recipe.size), theme(recipe.theme), palette(paletteOf(recipe.theme, recipe.campaign)),
       noises(recipe.seed), cells(raisedLand(recipe, noises)) {
     erode(cells, recipe.seed);
-    drainage = drained(cells);
+    drainage = drained(cells, noises.d);
     lakes = blurred(settledLakes(cells, drainage, theme), 2);
     rivers = tracedRivers(*this);
     toRiver = riverDistances(*this);

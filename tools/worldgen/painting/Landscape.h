@@ -68,7 +68,8 @@ struct Landscape {
 
 Field raisedLand(const RegionRecipe& recipe, const Noises& noises);
 void erode(Field& height, quint32 seed);
-Drainage drained(const Field& height);
+/// \a wobble makes rivers wind where the land is flat.
+Drainage drained(const Field& height, const Noise& wobble);
 /// Fills all hollows but the few largest, so that the map shows lakes and not puddles; returns the lakes'
 /// cells as 1.
 Field settledLakes(Field& height, Drainage& drainage, Theme theme);

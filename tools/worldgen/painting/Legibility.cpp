@@ -10,7 +10,7 @@ namespace {
 
 /// Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
 /// picture's compression.
-constexpr double kQuietLuminance = 0.118;
+constexpr double kQuietLuminance = 0.128;
 
 std::array<double, 256> linearLight() {
     std::array<double, 256> table;
@@ -55,7 +55,7 @@ void limitLuminance(QImage& picture, double mean) {
 }
 
 void quietenGround(QImage& picture, const QRect& box) {
-    constexpr int fade = 16;
+    constexpr int fade = 26;
     const QRect reach = box.adjusted(-fade, -fade, fade, fade) & picture.rect();
     for (int y = reach.top(); y <= reach.bottom(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));

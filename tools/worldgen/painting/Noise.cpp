@@ -4,12 +4,22 @@
 
 namespace worldgen {
 
-quint32 Rng::next() {
-    state_ += 0x9E3779B97F4A7C15ULL;
-    quint64 z = state_;
+namespace {
+
+quint64 scrambled(quint64 z) {
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
-    return quint32((z ^ (z >> 31)) >> 32);
+    return z ^ (z >> 31);
+}
+
+} // namespace
+
+Rng::Rng(quint64 seed) : state_(scrambled(seed + 0x632BE59BD9B4E019ULL)) {
+}
+
+quint32 Rng::next() {
+    state_ += 0x9E3779B97F4A7C15ULL;
+    return quint32(scrambled(state_) >> 32);
 }
 
 Noise::Noise(quint64 seed) {

@@ -11,7 +11,8 @@ namespace worldgen {
 /// Random numbers of our own: the standard distributions differ between libraries.
 class Rng {
   public:
-    explicit Rng(quint64 seed) : state_(seed * 0x9E3779B97F4A7C15ULL + 0x632BE59BD9B4E019ULL) {}
+    /// Neighbouring seeds give unrelated numbers.
+    explicit Rng(quint64 seed);
 
     quint32 next();
     /// 0 <= result < 1.

@@ -20,22 +20,21 @@ Palette temperate() {
 }
 
 Palette desert() {
-    Palette p{hex(0x1B3A4A), hex(0x3F7F80), hex(0xA3854F), hex(0x8A7440), hex(0x94773F),
-              hex(0xA37A3D), hex(0x84603A), hex(0x6B4C36), hex(0xCDB48C)};
+    Palette p{hex(0x1B3A4A), hex(0x3F7F80), hex(0x8F7446), hex(0x776438), hex(0x806638),
+              hex(0x8B6836), hex(0x765634), hex(0x664834), hex(0xCDB48C)};
     p.leaves = {hex(0x556032), hex(0x48552B), hex(0x66683A)};
     p.needles = hex(0x4A552C);
     p.field = hex(0x7C7A3A);
     p.moisture = -0.22;
     p.snowline = 1.5;
-    p.peaks = PeakStyle::Mesa;
     p.lowland = TreeStyle::Palm;
     p.upland = TreeStyle::Scrub;
     return p;
 }
 
 Palette frost() {
-    Palette p{hex(0x10202F), hex(0x3A5F73), hex(0x66696A), hex(0x5A6A66), hex(0x6A7674),
-              hex(0x737B79), hex(0x7F8788), hex(0x5D6168), hex(0xD2DAE2)};
+    Palette p{hex(0x10202F), hex(0x3A5F73), hex(0x60666A), hex(0x53646A), hex(0x627078),
+              hex(0x6C767C), hex(0x7A848A), hex(0x585E68), hex(0xC8D2DC)};
     p.leaves = {hex(0x4A4A3A), hex(0x3C4A42), hex(0x584C3C)};
     p.needles = hex(0x22403C);
     p.field = hex(0x6E6A52);
@@ -47,14 +46,13 @@ Palette frost() {
 }
 
 Palette ash() {
-    Palette p{hex(0x14222A), hex(0x33575A), hex(0x4E4840), hex(0x3E4634), hex(0x4A4A3A),
-              hex(0x5C5042), hex(0x554A42), hex(0x443C3A), hex(0x8C867E)};
+    Palette p{hex(0x14222A), hex(0x33575A), hex(0x5A5048), hex(0x454E38), hex(0x565244),
+              hex(0x685848), hex(0x64544A), hex(0x4C4240), hex(0x8C867E)};
     p.leaves = {hex(0x1F3B2C), hex(0x2B4426), hex(0x1B3433)};
     p.needles = hex(0x1D322A);
     p.field = hex(0x5E5634);
     p.moisture = 0.06;
     p.snowline = 1.5;
-    p.peaks = PeakStyle::Volcanic;
     p.lowland = TreeStyle::Jungle;
     p.upland = TreeStyle::Dead;
     return p;

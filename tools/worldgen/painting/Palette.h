@@ -7,7 +7,6 @@
 
 namespace worldgen {
 
-enum class PeakStyle { Alpine, Mesa, Volcanic };
 enum class TreeStyle { Broadleaf, Conifer, SnowConifer, Palm, Scrub, Dead, Jungle };
 
 /// The colours of a region: those of its theme, shifted to the season of its campaign.
@@ -18,7 +17,6 @@ struct Palette {
     Colour field{}; ///< of a ploughed one
     double moisture = 0;
     double snowline = 1; ///< height above which snow lies; above 1.2: none
-    PeakStyle peaks = PeakStyle::Alpine;
     TreeStyle lowland = TreeStyle::Broadleaf;
     TreeStyle upland = TreeStyle::Conifer;
     double woods = 0; ///< added to the forest noise: more is denser

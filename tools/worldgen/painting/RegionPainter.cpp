@@ -69,7 +69,7 @@ PaintedRegion paintRegion(const RegionRecipe& recipe) {
         ploughFields(picture, land, result.sites[k], recipe.sites[k].role, rng);
     paintRoads(picture, net, recipe.theme);
     const QImage taken = takenGround(land, net, recipe, result.sites);
-    growNature(scene, land, taken, recipe.seed);
+    growNature(scene, land, {picture, taken}, recipe.seed);
     for (std::size_t k = 0; k < result.sites.size(); ++k)
         settle(scene, land, {result.sites[k], recipe.sites[k].role, recipe.campaign}, rng);
     scene.paint(picture);

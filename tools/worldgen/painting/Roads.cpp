@@ -11,8 +11,8 @@ namespace worldgen {
 
 namespace {
 
-constexpr int kPace = 4; // pixels per step of the path search
-constexpr float kTooFar = 4000;
+constexpr int kPace = 4;  // pixels per step of the path search
+constexpr int kEdge = 14; // steps kept from the border
 
 using Front = std::priority_queue<std::pair<float, int>, std::vector<std::pair<float, int>>, std::greater<>>;
 
@@ -63,7 +63,8 @@ void PathFinder::relax(int cell, float reached, Front& front) {
     const int y = cell / columns_;
     for (int j = -1; j <= 1; ++j)
         for (int i = -1; i <= 1; ++i) {
-            if ((i == 0 && j == 0) || x + i < 5 || y + j < 5 || x + i >= columns_ - 5 || y + j >= rows_ - 5)
+            if ((i == 0 && j == 0) || x + i < kEdge || y + j < kEdge || x + i >= columns_ - kEdge ||
+                y + j >= rows_ - kEdge)
                 continue;
             const std::size_t next = std::size_t((y + j) * columns_ + x + i);
             const float climb = std::fabs(height_[next] - height_[std::size_t(cell)]) * 260;
@@ -95,18 +96,20 @@ QPolygonF PathFinder::way(QPoint from, QPoint to) {
     from_.assign(toll_.size(), -1);
     const int start = cellOf(from);
     const int end = cellOf(to);
+    // A way many times longer than the crow flies is not a road but a walk around the map.
+    const float tooFar = float(120 + 9 * lengthOf(to.x() - from.x(), to.y() - from.y()) / kPace);
     Front front;
     cost_[std::size_t(start)] = 0;
     front.emplace(0.0F, start);
     while (!front.empty()) {
         const auto [reached, cell] = front.top();
         front.pop();
-        if (cell == end || reached > kTooFar)
+        if (cell == end || reached > tooFar)
             break;
         if (reached <= cost_[std::size_t(cell)])
             relax(cell, reached, front);
     }
-    return cost_[std::size_t(end)] > kTooFar ? QPolygonF() : traced(end);
+    return cost_[std::size_t(end)] > tooFar ? QPolygonF() : traced(end);
 }
 
 /// Pairs of sites that form the shortest net joining all.

@@ -67,11 +67,14 @@ Sprite paintedReeds(Rng& rng) {
 class Nature {
   public:
     Nature(Scene& scene, const Landscape& land, const QImage& taken, quint32 seed);
-    void grow();
+    void grow(const QImage& ground);
 
   private:
     void growAt(QPointF at);
+    PeakShape shapeAt(double height, double scale);
+    bool crowded(QPointF at, double gap) const;
     void raisePeaks();
+    void raiseHills(const QImage& ground);
     bool free(QPointF at) const { return qGray(taken_.pixel(at.toPoint())) == 0; }
     const Sprite& treeFor(double height);
 
@@ -83,6 +86,7 @@ class Nature {
     Grove upland_;
     std::vector<const Sprite*> rocks_;
     std::vector<const Sprite*> reeds_;
+    std::vector<std::pair<QPointF, double>> raised_; // mountains and hills with the room they need
 };
 
 Nature::Nature(Scene& scene, const Landscape& land, const QImage& taken, quint32 seed)
@@ -123,11 +127,30 @@ void Nature::growAt(QPointF at) {
     }
 }
 
+PeakShape Nature::shapeAt(double height, double scale) {
+    PeakShape shape{PeakStyle::Alpine, scale, 0, {}};
+    const double line = land_.palette.snowline;
+    const double snow = line > 1.2 ? 0 : clamp01(0.25 + 1.6 * (height - (line - 0.42)));
+    shape.snow = snow > 0.25 ? snow : 0;
+    if (land_.theme == Theme::Desert && rng_.chance(height < 0.44 ? 0.6 : 0.12))
+        shape.style = PeakStyle::Mesa;
+    if (land_.theme == Theme::Ash && scale > 1.05 && rng_.chance(0.3))
+        shape.style = PeakStyle::Volcanic;
+    return shape;
+}
+
+bool Nature::crowded(QPointF at, double gap) const {
+    return std::any_of(raised_.begin(), raised_.end(), [&](const auto& other) {
+        return lengthOf(other.first.x() - at.x(), (other.first.y() - at.y()) * 1.6) <
+               std::max(gap, other.second);
+    });
+}
+
 void Nature::raisePeaks() {
-    std::vector<std::pair<QPointF, double>> raised;
     const int attempts = land_.size.width() * land_.size.height() / 48;
     for (int k = 0; k < attempts; ++k) {
-        const QPointF at(rng_.range(44, land_.size.width() - 44), rng_.range(56, land_.size.height() - 40));
+        const double wantedX = rng_.range(44, land_.size.width() - 44);
+        const QPointF at(wantedX, rng_.range(56, land_.size.height() - 40));
         const int x = int(at.x());
         const int y = int(at.y());
         const double height = std::round(land_.height.at(x, y) * 4096) / 4096;
@@ -135,32 +158,48 @@ void Nature::raisePeaks() {
             !free(at))
             continue;
         const double scale = 0.80 + 2.0 * std::min(0.55, height - 0.30);
-        const bool room = std::all_of(raised.begin(), raised.end(), [&](const auto& other) {
-            return lengthOf(other.first.x() - at.x(), (other.first.y() - at.y()) * 1.6) >
-                   32 * std::max(scale, other.second);
-        });
-        if (!room)
+        if (crowded(at, 33 * scale))
             continue;
-        raised.emplace_back(at, scale);
-        const double line = land_.palette.snowline;
-        const double snow = line > 1.2 ? 0 : clamp01(0.25 + 1.6 * (height - (line - 0.42)));
-        scene_.standNew(paintedPeak(land_.palette, scale, snow > 0.25 ? snow : 0, rng_),
-                        at + QPointF(0, 5 * scale));
+        const PeakShape shape = shapeAt(height, scale);
+        raised_.emplace_back(at, (shape.style == PeakStyle::Mesa ? 42 : 33) * scale);
+        scene_.standNew(paintedPeak(land_.palette, shape, rng_), at + QPointF(0, 5 * scale));
     }
 }
 
-void Nature::grow() {
+void Nature::raiseHills(const QImage& ground) {
+    const int attempts = land_.size.width() * land_.size.height() / 900;
+    for (int k = 0; k < attempts; ++k) {
+        const double wantedX = rng_.range(44, land_.size.width() - 44);
+        const QPointF at(wantedX, rng_.range(56, land_.size.height() - 40));
+        const int x = int(at.x());
+        const int y = int(at.y());
+        const double height = std::round(land_.height.at(x, y) * 4096) / 4096;
+        const bool hilly = height > 0.20 && height < 0.36 && land_.toWater.at(x, y) > 26;
+        if (!hilly || land_.riverDistance(x, y) < 22 || land_.woodsAt(x, y) > 0.1 || !free(at) ||
+            !free(at + QPointF(16, 0)) || !free(at - QPointF(16, 0)))
+            continue;
+        const double scale = rng_.range(0.7, 1.15);
+        if (crowded(at, 40 * scale) || rng_.chance(0.3))
+            continue;
+        raised_.emplace_back(at, 40 * scale);
+        const PeakShape shape{PeakStyle::Hill, scale, 0, colourOf(ground.pixel(x, y)).times(1.12)};
+        scene_.standNew(paintedPeak(land_.palette, shape, rng_), at);
+    }
+}
+
+void Nature::grow(const QImage& ground) {
     constexpr double pitch = 7;
     for (double y = 8; y < land_.size.height() - 2; y += pitch)
         for (double x = 8; x < land_.size.width() - 8; x += pitch)
             growAt({x + rng_.range(-3.2, 3.2), y + rng_.range(-3.2, 1.8)});
     raisePeaks();
+    raiseHills(ground);
 }
 
 } // namespace
 
-void growNature(Scene& scene, const Landscape& land, const QImage& taken, quint32 seed) {
-    Nature(scene, land, taken, seed).grow();
+void growNature(Scene& scene, const Landscape& land, const GroundPlan& plan, quint32 seed) {
+    Nature(scene, land, plan.taken, seed).grow(plan.ground);
 }
 
 } // namespace worldgen

@@ -24,7 +24,13 @@ class Scene {
     std::vector<Thing> things_;
 };
 
-/// Woods, mountains and rocks, where \a taken (grayscale, as large as the picture) is black.
-void growNature(Scene& scene, const Landscape& land, const QImage& taken, quint32 seed);
+/// Two pictures as large as the region's.
+struct GroundPlan {
+    const QImage& ground; ///< the land without what stands on it
+    const QImage& taken;  ///< grayscale; nature keeps away where it is not black
+};
+
+/// Woods, mountains, hills, reeds and rocks.
+void growNature(Scene& scene, const Landscape& land, const GroundPlan& plan, quint32 seed);
 
 } // namespace worldgen

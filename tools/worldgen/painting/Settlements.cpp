@@ -92,7 +92,7 @@ void Builder::houses(int count, QSizeF inner, QSizeF outer, double scale) {
         const QPointF at =
             onRing(angle, lerp(inner.width(), outer.width(), out), lerp(inner.height(), outer.height(), out));
         const bool room = std::all_of(built.begin(), built.end(), [&](QPointF q) {
-            return lengthOf(q.x() - at.x(), (q.y() - at.y()) * 1.5) > 9.0 * scale;
+            return lengthOf(q.x() - at.x(), (q.y() - at.y()) * 1.5) > 7.6 * scale;
         });
         if (!room)
             continue;
@@ -120,7 +120,7 @@ void Builder::enclosure(double rx, double ry, bool timber) {
 
 void Builder::town() {
     enclosure(50, 33, style_ == BuildingStyle::Longhouse);
-    houses(17, {17, 10}, {43, 25}, 1.15);
+    houses(26, {15, 9}, {45, 27}, 1.2);
     for (const double angle : {-2.5, -0.64, 0.62, 2.52})
         stand(paintedTower(style_, 1.0, rng_), onRing(angle, 50, 33));
     stand(paintedTower(style_, 1.7, rng_), QPointF(place_.at) + QPointF(-20, -12));
@@ -130,7 +130,7 @@ void Builder::town() {
 
 void Builder::outpost() {
     enclosure(33, 22, style_ != BuildingStyle::Adobe);
-    houses(5, {13, 8}, {26, 15}, 1.1);
+    houses(8, {12, 8}, {27, 16}, 1.15);
     stand(paintedTower(style_, 1.2, rng_), QPointF(place_.at) + QPointF(17, -12));
 }
 

@@ -37,8 +37,16 @@ QImage shrunk(const QImage& premultiplied, int factor);
 /// One tree, about 14 pixels high at \a scale 1, with its shadow to the south-east.
 Sprite paintedTree(TreeStyle style, const Palette& palette, double scale, Rng& rng);
 
+enum class PeakStyle { Alpine, Mesa, Volcanic, Hill };
+
+struct PeakShape {
+    PeakStyle style = PeakStyle::Alpine;
+    double scale = 1; ///< 1 is about 50 pixels wide
+    double snow = 0;  ///< share of its height that is white
+    Colour ground;    ///< what a hill is covered with
+};
+
 /// One mountain as a little landscape of its own, seen from the south and lit from the north-west.
-/// \a scale 1 is about 50 pixels wide; \a snow: share of its height that is white.
-Sprite paintedPeak(const Palette& palette, double scale, double snow, Rng& rng);
+Sprite paintedPeak(const Palette& palette, const PeakShape& shape, Rng& rng);
 
 } // namespace worldgen

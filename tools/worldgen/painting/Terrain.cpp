@@ -30,6 +30,7 @@ class LandMaker {
     int side_;
     int secondSide_;
     double gulfAt_;
+    double breadth_; // of the mountains
     std::vector<std::pair<QPointF, QPointF>> spine_;
 };
 
@@ -47,11 +48,12 @@ LandMaker::LandMaker(const RegionRecipe& recipe, const Noises& noises)
     side_ = rng.whole(0, 3);
     secondSide_ = (side_ < 2 ? 2 : 0) + rng.whole(0, 1);
     gulfAt_ = rng.range(0.35, 0.65);
+    breadth_ = rng.range(0.052, 0.080);
     const double angle = rng.range(-0.5, 0.5) + (rng.chance(0.5) ? 0.75 : -0.75);
-    const double reach = 0.42 * width_;
+    const double reach = 0.36 * width_;
     const QPointF middle(width_ * rng.range(0.42, 0.58), depth_ * rng.range(0.40, 0.58));
-    growSpine(rng, middle - QPointF(reach * cosineOf(angle), reach * 0.8 * sineOf(angle)), angle, 9);
-    if (rng.chance(0.45))
+    growSpine(rng, middle - QPointF(reach * cosineOf(angle), reach * 0.8 * sineOf(angle)), angle, 8);
+    if (rng.chance(0.35))
         growSpine(rng, middle, angle + (rng.chance(0.5) ? 1.2 : -1.2), 4);
 }
 
@@ -129,7 +131,8 @@ double LandMaker::heightAt(double x, double y) const {
     height += 0.075 * n_.d.fbm(u * 8.5 + 3, v * 8.5, 6, 0.55) * (1 - 0.6 * inland);
     height += 0.20 * smoothStep(0.30, 0.55, n_.b.fbm(x * 6 + 31, y * 6, 3)) * (1 - land);
     const double away =
-        spineDistance(u + 0.03 * n_.c.fbm(x * 9, y * 9, 3), v + 0.03 * n_.c.fbm(x * 9 + 4, y * 9, 3)) / 0.085;
+        spineDistance(u + 0.03 * n_.c.fbm(x * 9, y * 9, 3), v + 0.03 * n_.c.fbm(x * 9 + 4, y * 9, 3)) /
+        breadth_;
     const double mountain = expOf(-away * away) * smoothStep(0.25, 0.85, land);
     const double hills = smoothStep(0.1, 0.4, n_.c.fbm(u * 2.3 + 9, v * 2.3, 3) + 0.15) * 0.5 * land;
     const double crests = n_.d.ridged(u * 5.2, v * 5.2, 6);
