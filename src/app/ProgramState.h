@@ -8,6 +8,7 @@
 #include "layers/modNotes.h"
 #include "layers/modPets.h"
 #include "layers/modTreasures.h"
+#include "progress/OpenedTreasures.h"
 #include "progress/modCharacters.h"
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
@@ -15,6 +16,7 @@
 #include <QString>
 
 #include <array>
+#include <vector>
 
 namespace orvinel {
 
@@ -28,10 +30,13 @@ struct ProgramState {
     IndexedTable<Profession> Professions;
     IndexedTable<Collector> Collectors;
     List1<RequestType> RequestTypes; // in order of first appearance
+    std::vector<int> CollectorOrder; // IDs of the collectors from 1 up, by name; kept by the loader
     IndexedTable<EliteSkill> EliteSkills;
     List1<GreenItem> GreenItems;
     List1<Note> Notes;
+    std::vector<int> NoteOrder; // indexes of Notes, by title; kept by whoever changes the notes
     List1<Treasure> Treasures;
+    UnknownChests ChestsBeyondTable;
     IndexedTable<Pet> Pets;
     std::array<Colour, 9> TabColors{}; // of the panel's tabs and the information windows
 

@@ -22,9 +22,9 @@ int placeAlong(int preferred, int otherSide, int extent, int room) {
 
 } // namespace
 
-bool ContainsAnyWord(const std::string& text, std::span<const std::string> words) {
+bool ContainsAnyWord(std::string_view text, std::span<const std::string> words) {
     return std::any_of(words.begin(), words.end(),
-                       [&](const std::string& word) { return text.find(word) != std::string::npos; });
+                       [&](const std::string& word) { return text.find(word) != std::string_view::npos; });
 }
 
 QPoint PlaceTooltip(QSize tooltip, const QRect& marker, QSize view) {

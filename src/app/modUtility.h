@@ -9,12 +9,13 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace orvinel {
 
 // True when any of `words` occurs in `text`: exact, case-sensitive. An empty word occurs in every text; no
 // word in none.
-bool ContainsAnyWord(const std::string& text, std::span<const std::string> words);
+bool ContainsAnyWord(std::string_view text, std::span<const std::string> words);
 
 // Where the information window of a marker goes, in viewport pixels. `marker` is the marker's rectangle in
 // viewport pixels (right() and bottom() are its last column and row), `tooltip` the window's size, `view` the

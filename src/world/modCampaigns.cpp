@@ -14,13 +14,6 @@ namespace {
 
 constexpr int highestRegionNumber = 255;
 
-// A data field that becomes part of a path may not lead out of its folder.
-bool isPlainFileName(QStringView name) {
-    return std::none_of(name.begin(), name.end(), [](QChar c) {
-        return c == u'/' || c == u'\\' || c == u':' || c.unicode() < 0x20 || c.unicode() == 0x7F;
-    });
-}
-
 void discover(ProgramState& state, const Disk& disk, Complaints* complaints) {
     state.Campaigns.reset();
     const auto complain = [&](const QString& entry, const QString& reason) {
@@ -67,6 +60,12 @@ void LoadCampaigns(ProgramState& state, const Disk& disk, Complaints* complaints
     discover(state, disk, complaints);
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadRegions(state.Campaigns[n], campaignFolder(state, n), disk, complaints);
+}
+
+bool isPlainFileName(QStringView name) {
+    return std::none_of(name.begin(), name.end(), [](QChar c) {
+        return c == u'/' || c == u'\\' || c == u':' || c.unicode() < 0x20 || c.unicode() == 0x7F;
+    });
 }
 
 QString campaignFolder(const ProgramState& state, int campaign) {

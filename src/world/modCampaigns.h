@@ -41,6 +41,10 @@ void LoadCampaigns(ProgramState& state, const Disk& disk, Complaints* complaints
 // not exist.
 QString campaignFolder(const ProgramState& state, int campaign);
 
+// A data field that becomes a file's name may not lead out of its folder: no slash, backslash, colon or
+// control character.
+bool isPlainFileName(QStringView name);
+
 // The regions of a campaign in the order in which every menu and list shows them.
 std::vector<int> regionOrder(const ProgramState& state, int campaign);
 
