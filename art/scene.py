@@ -75,13 +75,13 @@ def ground(brush):
 
 
 def shadow(x, y, away):
-    return f'<ellipse cx="{x + away * 26}" cy="{y + 1}" rx="44" ry="6.500" fill="#020808" opacity=".6" filter="url(#soft)"/>'
+    return f'<ellipse cx="{x + away * 26}" cy="{y + 1}" rx="44" ry="6.5" fill="#020808" opacity=".6" filter="url(#soft)"/>'
 
 
 def fire(brush):
     x, y = FIRE
-    stones = ''.join(f'<ellipse cx="{x + 27 * c:.1f}" cy="{y + 10 + 9 * s:.1f}" rx="7" ry="5" fill="#3a3a36" stroke="#120c08" stroke-width="1.200"/>'
-                     f'<path d="M{x + 27 * c - 4:.1f} {y + 7.500 + 9 * s:.1f}q4-3 8 0" fill="none" stroke="#d89a5c" stroke-width="1.200" opacity=".8"/>'
+    stones = ''.join(f'<ellipse cx="{x + 27 * c:.1f}" cy="{y + 10 + 9 * s:.1f}" rx="7" ry="5" fill="#3a3a36" stroke="#120c08" stroke-width="1.2"/>'
+                     f'<path d="M{x + 27 * c - 4:.1f} {y + 7.5 + 9 * s:.1f}q4-3 8 0" fill="none" stroke="#d89a5c" stroke-width="1.2" opacity=".8"/>'
                      for c, s in ((-1, 0), (-.8, .7), (-.3, 1), (.3, 1), (.8, .7), (1, 0), (.7, -.7), (-.7, -.7)))
     logs = line(f'M{x - 18} {y + 12}L{x + 14} {y + 3}', '#2a160a', 6) + line(f'M{x + 18} {y + 12}L{x - 14} {y + 3}', '#3a200e', 6) + \
         line(f'M{x - 17} {y + 10}L{x + 12} {y + 2}', '#c8682a', 1.4, .8)

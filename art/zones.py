@@ -135,8 +135,8 @@ def picMission1():
 
 def picTown1():
     shield = 'M2 8H30V20C30 28 23 32 16 34.5C9 32 2 28 2 20Z'
-    inner = 'M5 11H27V20C27 26 21.5 29.3 16 31.3C10.500 29.3 5 26 5 20Z'
-    crown = 'M4 8V1.8H8.500V4H13.500V1.8H18.500V4H23.500V1.8H28V8Z'
+    inner = 'M5 11H27V20C27 26 21.5 29.3 16 31.3C10.5 29.3 5 26 5 20Z'
+    crown = 'M4 8V1.8H8.5V4H13.5V1.8H18.5V4H23.5V1.8H28V8Z'
     return (path(crown, 'url(#gold)') + path(shield, 'url(#gold)') + path(inner, 'url(#teal)', 1.6)
             + thin('M6.4 21V12.5H15', '#fff', 1, .5) + at(TOWERS, 16, 20.4, .86))
 
@@ -154,13 +154,13 @@ def picMission2():
 def tower(x, y, w, h, roof):
     body = path(f'M{x} {y + h}V{y}H{x + w}V{y + h}Z', 'url(#stone)')
     cap = path(f'M{x - 2} {y + 1}L{x + w / 2} {y - roof}L{x + w + 2} {y + 1}Z', 'url(#roof)')
-    window = path(f'M{x + w / 2 - 1.3} {y + 9}V{y + 6}A1.3 1.500 0 0 1 {x + w / 2 + 1.3} {y + 6}V{y + 9}Z', '#ffd36a', 1.6)
+    window = path(f'M{x + w / 2 - 1.3} {y + 9}V{y + 6}A1.3 1.5 0 0 1 {x + w / 2 + 1.3} {y + 6}V{y + 9}Z', '#ffd36a', 1.6)
     return body + cap + window + thin(f'M{x + w / 2} {y - roof}V{y - roof - 1.4}', '#f6cf6a', 1.6)
 
 
 def picTown2():
     wall = path('M8 49.5V24H12V27H16V24H20V27H24V24H36V27H40V24H44V27H48V24H52V49.5Z', 'url(#stone)')
-    gate = path('M35.500 49.5V42A2 2 0 0 1 35.500 42Z', INK, 0)
+    gate = path('M35.5 49.5V42A2 2 0 0 1 35.5 42Z', INK, 0)
     return (tower(20.5, 14, 19, 22, 12) + wall + tower(3, 19, 12, 30.5, 14) + tower(45, 19, 12, 30.5, 14)
             + banner(21, 20, 18, 27, at(TOWERS, 0, 0, 1.12)) + gate)
 
@@ -187,11 +187,11 @@ def dome(cx, base, r, body, height):
 
 
 def picTown3():
-    door = path('M28 58.5V51A3 3.4 0 0 1 34 51V58.5Z', '#3a2210', 0)
+    door = path('M28 59.2V51A3 3.4 0 0 1 34 51V59.2Z', '#3a2210', 0)
     windows = ''.join(path(f'M{x - .9} {y + 4}V{y + 1}A.9 1 0 0 1 {x + .9} {y + 1}V{y + 4}Z', '#2f3fa8', 1)
                       for x, y in ((31, 40), (18, 47), (44, 47), (9.5, 51), (52.5, 51)))
-    return (sun(31, 30.5, 16, 19, 29.2, 24) + seal(31, 30.5, 18.5, 'lapis') + dome(31, 58.5, 9, 8.500, 20)
-            + dome(18, 58.5, 5.500, 5, 13) + dome(44, 58.5, 5.500, 5, 13)
+    return (sun(31, 30, 16, 19, 28.5, 24) + seal(31, 30, 18.5, 'lapis') + dome(31, 59.2, 9, 8.5, 20.7)
+            + dome(18, 59, 5.5, 5, 13.5) + dome(44, 59, 5.5, 5, 13.5)
             + path('M4 59V49.5H14V59ZM48 59V49.5H58V59Z', 'url(#ivory)') + windows + door)
 
 
@@ -201,28 +201,28 @@ def picChallenge3():
         for i in range(6):
             a = math.radians(96 + i * 23)
             x, y = 29.5 + side * 23.5 * math.sin(a), 37 - 25.5 * math.cos(a)
-            leaf = path('M0-6.5C3.2-3 3.2 2 0 5C-3.2 2-3.2-3 0-6.500Z', '#8ecb4a' if i % 2 else '#5fa832', 2.4)
+            leaf = path('M0-6.5C3.2-3 3.2 2 0 5C-3.2 2-3.2-3 0-6.5Z', '#8ecb4a' if i % 2 else '#5fa832', 2.4)
             leaves += at(turned(leaf, side * (math.degrees(a) - 200), 0, 0), round(x, 2), round(y, 2))
     return sun(29.5, 30.5, 16, 18, 28.5, 23.5) + leaves + seal(29.5, 30.5, 17.6, 'lapis') + at(CUP, 29.5, 30.8, 1.16) \
-        + path('M22 61.5L29.500 58L37 61.500L34.500 66.500L29.500 63.500L24.500 66.500Z', 'url(#cloth)', 2.6)
+        + path('M22 61.5L29.5 58L37 61.5L34.5 66.5L29.5 63.5L24.5 66.5Z', 'url(#cloth)', 2.6)
 
 
 def picVanquish0():
-    shield = 'M4.500 10C7.500 10 10 9.200 12 8C14 9.200 16.500 10 19.500 10V16.500C19.500 22 16 25.300 12 27.300C8 25.300 4.500 22 4.500 16.500Z'
+    shield = 'M4.5 10C7.5 10 10 9.2 12 8C14 9.2 16.5 10 19.5 10V16.5C19.5 22 16 25.3 12 27.3C8 25.3 4.5 22 4.5 16.5Z'
     return (at(turned(sword(24, 3), 40, 0, 0), 5.5, 22) + at(turned(sword(24, 3), -40, 0, 0), 18.5, 22)
-            + path(shield, 'url(#wood)') + thin('M5.900 16V11.300C8.500 11.200 10.600 10.500 12 9.700', '#ffdca8', 1, .8)
-            + thin('M12 9.800V25.700M5.200 16.500H18.800', '#f0c04e', 1.7) + circle(12, 16.5, 2.6, 'url(#gold)', 1.6))
+            + path(shield, 'url(#wood)') + thin('M5.9 16V11.3C8.5 11.2 10.6 10.5 12 9.7', '#ffdca8', 1, .8)
+            + thin('M12 9.8V25.7M5.2 16.5H18.8', '#f0c04e', 1.7) + circle(12, 16.5, 2.6, 'url(#gold)', 1.6))
 
 
 def picDungeonEntrance0():
-    arch = 'M2 23.500V12.500A12.500 11 0 0 1 27 12.500V23.500Z'
-    stones = ''.join(thin(f'M{14.5 - 12 * math.cos(a):.2f} {12.500 - 10.5 * math.sin(a):.2f}L{14.5 - 8 * math.cos(a):.2f} {12.500 - 6.5 * math.sin(a):.2f}',
+    arch = 'M2 23.5V12.5A12.5 11 0 0 1 27 12.5V23.5Z'
+    stones = ''.join(thin(f'M{14.5 - 12 * math.cos(a):.2f} {12.5 - 10.5 * math.sin(a):.2f}L{14.5 - 8 * math.cos(a):.2f} {12.5 - 6.5 * math.sin(a):.2f}',
                           '#3a322c', 1.2) for a in (0.0, .55, 1.1, 2.04, 2.59, math.pi))
-    steps = path('M6.500 23.500V20.500H22.500V23.500Z', '#6e6258', 1.2) + path('M8.500 20.700V18.300H20.500V20.700Z', '#4c4038', 1.2)
+    steps = path('M6.5 23.5V20.5H22.5V23.5Z', '#6e6258', 1.2) + path('M8.5 20.7V18.3H20.5V20.7Z', '#4c4038', 1.2)
     return ('<defs><radialGradient id="deep" cx=".5" cy=".9" r=".8"><stop offset="0" stop-color="#ff9a2e"/><stop offset=".4" stop-color="#7a2c0c"/>'
             '<stop offset="1" stop-color="#0c0606"/></radialGradient></defs>'
-            + path(arch, 'url(#stone)') + path('M6.500 23.500V13A8 7 0 0 1 22.500 13V23.500Z', 'url(#deep)', 1.6) + steps + stones
-            + path('M12.300.900H16.700L16 6H13Z', 'url(#gold)', 1.600))
+            + path(arch, 'url(#stone)') + path('M6.5 23.5V13A8 7 0 0 1 22.5 13V23.5Z', 'url(#deep)', 1.6) + steps + stones
+            + path('M12.3.9H16.7L16 6H13Z', 'url(#gold)', 1.6))
 
 
 def draw(name):
