@@ -1,9 +1,10 @@
 """Do the captions of each language fit the places that show them?"""
 import os
+import shutil
 import struct
+import subprocess
 
 DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', 'world', 'Data')
-FONTS = '/usr/share/fonts/truetype/liberation/LiberationSans-'
 FIRST_MESSAGE = 201
 SKILL_WORD = 45  # compared with the campaign files, which are English
 
@@ -73,10 +74,21 @@ def faults():
         yield 'Languages/English.txt differs from Language.txt'
 
 
+def fontFile(style):
+    """The file of the font that the program uses, or None where it is not installed."""
+    if not shutil.which('fc-match'):
+        return None
+    found = subprocess.run(['fc-match', '-f', '%{family}\t%{file}', 'Liberation Sans:style=' + style],
+                           stdout=subprocess.PIPE, text=True, check=True).stdout
+    family, _, path = found.partition('\t')
+    return path if family == 'Liberation Sans' else None
+
+
 def tooWide(name, texts):
-    if not os.path.exists(FONTS + 'Bold.ttf'):
+    files = fontFile('Bold'), fontFile('Regular')
+    if None in files:
         return
-    bold, plain = Font(FONTS + 'Bold.ttf'), Font(FONTS + 'Regular.ttf')
+    bold, plain = (Font(path) for path in files)
     rows = [(bold, n, texts[n], room) for n, room in BOLD.items()] + [(plain, n, texts[n], room) for n, room in PLAIN.items()] + \
         [(plain, n, f'<<< {texts[n]} >>>', room) for n, room in COMBO.items()]
     for font, number, text, room in rows:

@@ -46,8 +46,10 @@ QPalette lightColours() {
     return colours;
 }
 
+// The hands point with the tip of the middle finger: their palm would hide the marker that is meant. The
+// closed hand keeps the same point, so that nothing jumps when it closes.
 QPoint hotSpot(int number) {
-    return number == 101 ? QPoint(1, 1) : QPoint(15, 15);
+    return number == 101 ? QPoint(1, 1) : QPoint(14, 3);
 }
 
 } // namespace
