@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/Colour.h"
+
+#include <QImage>
+#include <QString>
+
+namespace orvinel {
+
+// Of the credits and everything else that is written on the empty map.
+inline constexpr Colour creamText = 0xCBECF5;
+
+// Prints the credits in cream on what `target` shows. Placement 1: in the bottom right corner, as on the
+// empty map; 0: from the top, as in the credits window.
+void DrawCreditsList(QImage& target, int placement);
+
+// The same as lines of plain text, for those who have them read out.
+QString creditsText();
+
+} // namespace orvinel
