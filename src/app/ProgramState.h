@@ -8,6 +8,7 @@
 #include "layers/modNotes.h"
 #include "layers/modPets.h"
 #include "layers/modTreasures.h"
+#include "progress/CapturedSkills.h"
 #include "progress/OpenedTreasures.h"
 #include "progress/modCharacters.h"
 #include "world/modCampaigns.h"
@@ -32,7 +33,11 @@ struct ProgramState {
     List1<RequestType> RequestTypes; // in order of first appearance
     std::vector<int> CollectorOrder; // IDs of the collectors from 1 up, by name; kept by the loader
     IndexedTable<EliteSkill> EliteSkills;
+    std::vector<int> EliteOrder; // IDs of the skills from 1 up, in the order of lists; kept by the loader
     List1<GreenItem> GreenItems;
+    std::vector<int> GreenOrder; // indexes of GreenItems, by name; kept by the loader
+    GreensByBoss GreensOfBosses; // kept by the loader
+    UnknownCaptures CapturesBeyondTable;
     List1<Note> Notes;
     std::vector<int> NoteOrder; // indexes of Notes, by title; kept by whoever changes the notes
     List1<Treasure> Treasures;

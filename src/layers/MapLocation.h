@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/TextRules.h"
+
 #include <QString>
 
+#include <string>
 #include <vector>
 
 namespace orvinel {
@@ -20,10 +23,11 @@ struct MapLocation {
     int Top = -1;
     int Right = -1;
     int Bottom = -1;
-    QString Boss;
+    QString Boss;            // written by setBoss only
     QString Note;            // may hold line breaks (CR LF)
     QString MarkerCode;      // one or two characters printed in the marker, or none
     std::vector<int> Greens; // indexes of the green items that this boss drops
+    std::string FoldedBoss;
 
     // The only writer of the place and its marker rectangle: `reach` pixels to each side of the centre.
     void placeAt(int x, int y, int reach) {
@@ -33,6 +37,10 @@ struct MapLocation {
         Top = y - reach;
         Right = x + reach;
         Bottom = y + reach;
+    }
+    void setBoss(const QString& boss) {
+        Boss = boss;
+        FoldedBoss = folded(boss);
     }
     bool placed() const { return X != -1 && Y != -1; }
 

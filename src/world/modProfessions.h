@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace orvinel {
@@ -33,6 +35,12 @@ std::vector<ListEntry> professionEntries(const ProgramState& state, int pinned);
 
 // Entries of cmbAttribute; only the pinned one when `profession` is below 1 or unknown.
 std::vector<ListEntry> attributeEntries(const ProgramState& state, int profession);
+
+// The folded words that stand for a choice of profession and attribute in texts of items: none when
+// `profession` is below 1; without an attribute the "no attribute" text and all attributes of the profession;
+// else the attribute's text alone.
+std::vector<std::string> attributeWords(const ProgramState& state, int profession,
+                                        const std::optional<QString>& attribute);
 
 // A number that no profession has gives the empty record.
 const Profession& professionOf(const ProgramState& state, int number);

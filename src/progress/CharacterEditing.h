@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/Listing.h"
+#include "app/PlayerFiles.h"
+#include "progress/modCharacters.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace orvinel {
+
+struct ProgramState;
+
+enum class NameProblem {
+    None,
+    Empty, // nothing but blanks
+    Taken  // another character's name, letter case ignored
+};
+// `name` as it stands in the field; `edited` is the number of the character that is to have it, -1 for a new
+// one.
+NameProblem checkName(const ProgramState& state, const QString& name, int edited);
+
+// The number that a new character gets: the lowest free one. Above mostCharacters: there is no room.
+int freeCharacterNumber(const ProgramState& state);
+
+// By skill ID, 0..highest: what the character has captured; all False for number -1, a new character.
+using SkillSelection = std::vector<bool>;
+SkillSelection characterSelection(const ProgramState& state, int number);
+
+// The skills that the editor lists, in ID order, with their IDs. `campaign` and `profession` are -1 for all.
+std::vector<ListEntry> editorSkillEntries(const ProgramState& state, int campaign, int profession);
+// The editor's choice of professions: pinned with -1, then those with a name in number order. (Its choice of
+// campaigns has the panel's entries.)
+std::vector<ListEntry> editorProfessionEntries(const ProgramState& state);
+
+void selectListed(SkillSelection& selection, ListedItems listed, bool selected);
+void invertListed(SkillSelection& selection, ListedItems listed);
+
+struct CharacterEdit {
+    int number = -1; // -1: a new character
+    QString name;    // as it stands in the field; checkName has nothing against it
+    SkillSelection selection;
+};
+
+// Writes the character's captures and the table of characters, and takes over into the tables what has been
+// written. A new character comes whole or not at all, and files that lie there for its number are put aside
+// first; of an existing one the captures may be saved although the name could not be. Skills that are not
+// markable stay as they are. On success `edit.number` is the character's number.
+SaveResult saveCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit& edit,
+                         bool evenIfChanged = false);
+
+// The character goes first and its files after it, so that a failure half-way leaves no character without its
+// files. When only a file could not be removed, the character is gone all the same; the result names the
+// file, which is put aside when a new character takes the number.
+SaveResult deleteCharacter(ProgramState& state, PlayerFiles& files, int number, bool evenIfChanged = false);
+
+} // namespace orvinel
