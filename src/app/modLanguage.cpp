@@ -29,6 +29,12 @@ QString builtIn(OwnText number) {
         return u"%1 could not be opened."_s;
     case OwnText::FolderReadOnly:
         return u"The program folder cannot be written to: %1"_s;
+    case OwnText::Quit:
+        return u"Quit"_s;
+    case OwnText::Minimise:
+        return u"Minimise"_s;
+    case OwnText::Maximise:
+        return u"Fill the screen or make smaller"_s;
     }
     return {};
 }

@@ -29,7 +29,10 @@ enum class OwnText {
     ChangedOutside = 206, // %1 file
     QuitWithoutSaving = 207,
     NotOpened = 208,     // %1 file
-    FolderReadOnly = 209 // %1 reason
+    FolderReadOnly = 209, // %1 reason
+    Quit = 210, // the map window's buttons, for screen readers
+    Minimise = 211,
+    Maximise = 212
 };
 QString ownText(const ProgramState& state, OwnText number);
 

@@ -83,4 +83,7 @@ void WindowDrag::move(QPoint global) {
         window_.move(global - grip_);
 }
 
+void keepOffTaskBar(QWidget&) {
+}
+
 } // namespace orvinel

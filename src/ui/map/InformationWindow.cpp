@@ -1,0 +1,70 @@
+#include "ui/map/InformationWindow.h"
+
+#include "app/modUtility.h"
+#include "ui/map/MapViewport.h"
+
+namespace orvinel {
+
+namespace {
+
+constexpr Colour ground = 0x202020; // dark enough for the white and pale texts
+constexpr Colour outerLine = 0xB4B4B4;
+constexpr Colour innerLine = 0x646464;
+constexpr int bandInset = 6;
+constexpr int separatorInset = 18;
+constexpr double mapOpacity = 80 / 255.;
+
+} // namespace
+
+InformationWindow::InformationWindow(const QString& name, int width, MapViewport& map)
+    : PictureBox(&map), map_(map) {
+    setObjectName(name);
+    setBackground(ground);
+    resize(width, 40);
+    hide();
+}
+
+void InformationWindow::dismiss() {
+    hide();
+    tag_.clear();
+}
+
+void InformationWindow::frameWithBand(Colour band, int bandHeight, const QRect& marker) {
+    clear();
+    Drawing(&surface()).filledBox(bandInset, bandInset, width() - 7, bandHeight, band);
+    frame(marker);
+}
+
+void InformationWindow::frameWithoutBand(const QRect& marker) {
+    clear();
+    frame(marker);
+}
+
+void InformationWindow::frame(const QRect& marker) {
+    move(PlaceTooltip(size(), marker, map_.size()));
+    const int w = width() - 1;
+    const int h = height() - 1;
+    Drawing drawing(&surface());
+    drawing.painter().setOpacity(mapOpacity);
+    map_.paintShown(drawing.painter(), QRect(x(), y(), w, h));
+    drawing.painter().setOpacity(1);
+    drawing.outline(0, 0, w, h, outerLine);
+    drawing.outline(bandInset, bandInset, w - bandInset, h - bandInset, innerLine);
+    update();
+    show();
+    raise();
+}
+
+void InformationWindow::separator(int y) {
+    Drawing(&surface()).line(separatorInset, y, width() - 1 - separatorInset, y, innerLine);
+    update();
+}
+
+Label* informationLabel(const QString& name, const QFont& font, Colour colour, InformationWindow& window) {
+    auto* label = new Label(name, &window);
+    label->setFont(font);
+    label->setColour(colour);
+    return label;
+}
+
+} // namespace orvinel

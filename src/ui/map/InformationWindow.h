@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ui/platform/Label.h"
+#include "ui/platform/PictureBox.h"
+
+#include <QRect>
+#include <QString>
+
+namespace orvinel {
+
+class MapViewport;
+
+// A layer's information window: a box over the map with the details of the item under the mouse. Hidden until
+// shown.
+class InformationWindow : public PictureBox {
+    Q_OBJECT
+  public:
+    // `name` is the box's fixed name; `width` pixels. Owned by the viewport.
+    InformationWindow(const QString& name, int width, MapViewport& map);
+
+    // The identifier of the item shown; empty: none.
+    const QString& tag() const { return tag_; }
+    void setTag(const QString& tag) { tag_ = tag; }
+    // Hides the box and empties its tag.
+    void dismiss();
+
+    // Where the item's marker lies, in the viewport's own pixels; set before show.
+    void frameWithBand(Colour band, int bandHeight, const QRect& marker);
+    void frameWithoutBand(const QRect& marker);
+    // A line across the finished frame at this height, pixels.
+    void separator(int y);
+
+  private:
+    void frame(const QRect& marker);
+
+    MapViewport& map_;
+    QString tag_;
+};
+
+// A child label of an information window: plain, in the given font, placed by the window.
+Label* informationLabel(const QString& name, const QFont& font, Colour colour, InformationWindow& window);
+
+} // namespace orvinel

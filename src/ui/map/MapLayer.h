@@ -1,0 +1,27 @@
+#pragma once
+
+#include "layers/Marker.h"
+#include "world/MapView.h"
+
+#include <QImage>
+
+#include <vector>
+
+namespace orvinel {
+
+// One kind of content, as the map window sees it.
+class MapLayer {
+  public:
+    virtual ~MapLayer() = default;
+
+    // Draws what never changes onto a region picture, once when it is loaded.
+    virtual void drawGround(QImage&, const MapShown&) {}
+    // Appends the markers that the layer shows now, in drawing order; nothing when the layer is switched off.
+    virtual void appendMarkers(std::vector<Marker>&) {}
+    // True when the layer has an item at the place; its information window is shown then.
+    virtual bool mouseOver(ViewPoint) { return false; }
+    // True when the layer has an item at the place, whether or not something happened.
+    virtual bool doubleClick(ViewPoint) { return false; }
+};
+
+} // namespace orvinel

@@ -1,0 +1,163 @@
+#include "ui/map/MapViewport.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace orvinel {
+
+namespace {
+
+constexpr int keyStep = 48;   // pixels per arrow key
+constexpr int wheelStep = 64; // pixels per notch
+constexpr int notch = 120;    // what a wheel reports for one
+constexpr int veryFar = 1 << 20;
+
+} // namespace
+
+MapViewport::MapViewport(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("picMap"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize MapViewport::screenPixels() const {
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
+}
+
+void MapViewport::showSurface(MapSurface* surface) {
+    surface_ = surface;
+    for (auto& selection : selections_)
+        selection.reset();
+    view_.setPicture(surface ? surface->size() : QSize());
+    update();
+}
+
+void MapViewport::setEmptyPicture(QImage picture) {
+    empty_ = std::move(picture);
+    if (!surface_)
+        update();
+}
+
+void MapViewport::setSelection(int kind, std::optional<Selection> selection, const MarkerArt& art) {
+    auto& shown = selections_[static_cast<size_t>(kind)];
+    const auto refresh = [&] {
+        if (shown)
+            update(toWidget(QRect(shown->selection.at, shown->picture.size())).adjusted(-1, -1, 1, 1));
+    };
+    refresh();
+    shown.reset();
+    if (selection) {
+        const QImage& picture = art.picture(selection->sprite);
+        // The last column and row belong to no marker.
+        shown = {*selection, picture.copy(0, 0, picture.width() - 1, picture.height() - 1)};
+    }
+    refresh();
+}
+
+QRect MapViewport::toWidget(const QRect& mapArea) const {
+    const double ratio = devicePixelRatioF();
+    const auto scaled = [&](int value) { return static_cast<int>(std::lrint(value / ratio)); };
+    return {QPoint(scaled(mapArea.left() + view_.scrollX()), scaled(mapArea.top() + view_.scrollY())),
+            QPoint(scaled(mapArea.right() + view_.scrollX()), scaled(mapArea.bottom() + view_.scrollY()))};
+}
+
+void MapViewport::paintShown(QPainter& painter, const QRect& area) {
+    const double ratio = devicePixelRatioF();
+    const QRect pixels = QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio).toAlignedRect();
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.translate(-pixels.topLeft());
+    painter.setClipRect(pixels);
+    if (!surface_) {
+        painter.fillRect(pixels, Qt::black);
+        painter.drawImage(pixels.topLeft(), empty_, pixels);
+        painter.restore();
+        return;
+    }
+    const QRect visible = view_.visible();
+    if (visible.width() < screenPixels().width() || visible.height() < screenPixels().height())
+        painter.fillRect(pixels, Qt::black);
+    const QPoint scroll(view_.scrollX(), view_.scrollY());
+    const QRect part = pixels.translated(-scroll).intersected(visible);
+    painter.drawImage(part.topLeft() + scroll, surface_->composed(part), part);
+    for (const auto& shown : selections_)
+        if (shown)
+            painter.drawImage(shown->selection.at + scroll, shown->picture);
+    painter.restore();
+}
+
+void MapViewport::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const QRect area = event->rect();
+    painter.translate(area.topLeft());
+    paintShown(painter, area);
+}
+
+void MapViewport::resizeEvent(QResizeEvent*) {
+    view_.setViewport(screenPixels());
+    emit resized();
+}
+
+ViewPoint MapViewport::toView(QPointF position) const {
+    return {position.x() * devicePixelRatioF(), position.y() * devicePixelRatioF()};
+}
+
+void MapViewport::mousePressEvent(QMouseEvent* event) {
+    emit pressed(event->button(), event->modifiers(), toView(event->position()));
+}
+
+void MapViewport::mouseMoveEvent(QMouseEvent* event) {
+    emit moved(toView(event->position()));
+}
+
+void MapViewport::mouseReleaseEvent(QMouseEvent* event) {
+    emit released(event->button());
+}
+
+// Not passed on: the base class would make a second press of it.
+void MapViewport::mouseDoubleClickEvent(QMouseEvent*) {
+    emit doubleClicked();
+}
+
+void MapViewport::wheelEvent(QWheelEvent* event) {
+    QPoint by = event->pixelDelta().isNull() ? event->angleDelta() * wheelStep / notch : event->pixelDelta();
+    if (event->modifiers() & Qt::ShiftModifier)
+        by = by.transposed();
+    emit scrollWanted(-by.x(), -by.y());
+    event->accept();
+}
+
+void MapViewport::keyPressEvent(QKeyEvent* event) {
+    const int page = std::max(keyStep, screenPixels().height() - keyStep);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return scrollWanted(-keyStep, 0);
+    case Qt::Key_Right:
+        return scrollWanted(keyStep, 0);
+    case Qt::Key_Up:
+        return scrollWanted(0, -keyStep);
+    case Qt::Key_Down:
+        return scrollWanted(0, keyStep);
+    case Qt::Key_PageUp:
+        return scrollWanted(0, -page);
+    case Qt::Key_PageDown:
+        return scrollWanted(0, page);
+    case Qt::Key_Home:
+        return scrollWanted(-veryFar, -veryFar);
+    case Qt::Key_End:
+        return scrollWanted(veryFar, veryFar);
+    case Qt::Key_Menu:
+        return menuKeyPressed();
+    case Qt::Key_Escape:
+        return escapePressed();
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace orvinel

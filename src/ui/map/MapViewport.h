@@ -1,0 +1,78 @@
+#pragma once
+
+#include "layers/Marker.h"
+#include "ui/map/MapSurface.h"
+#include "world/MapView.h"
+
+#include <QWidget>
+
+#include <array>
+#include <optional>
+
+namespace orvinel {
+
+// picMap: shows the visible part of the composition, or the empty map's picture, and tells of the mouse and
+// the keys. The picture's pixels are the screen's, whatever the scale factor; ViewPoint and MapView count in
+// them.
+class MapViewport : public QWidget {
+    Q_OBJECT
+  public:
+    explicit MapViewport(QWidget* parent);
+
+    MapView& view() { return view_; }
+    const MapView& view() const { return view_; }
+
+    // nullptr: the empty map. Not owned; must outlive its showing.
+    void showSurface(MapSurface* surface);
+    MapSurface* surface() const { return surface_; }
+    // The empty map, as large as the viewport, in screen pixels.
+    void setEmptyPicture(QImage picture);
+
+    // The blinking marker of a kind 0..4: a picture over the composition, at map pixels; nothing: not drawn.
+    struct Selection {
+        Sprite sprite = Sprite::Count;
+        QPoint at; // its top left corner
+    };
+    void setSelection(int kind, std::optional<Selection> selection, const MarkerArt& art);
+
+    // Paints what the viewport shows in `area` (its own pixels) at the painter's origin.
+    void paintShown(QPainter& painter, const QRect& area);
+    // Of a rectangle of the region picture, in the viewport's own pixels; edges inclusive on both sides.
+    QRect toWidget(const QRect& mapArea) const;
+    QSize screenPixels() const;
+
+  signals:
+    void pressed(Qt::MouseButton button, Qt::KeyboardModifiers keys, orvinel::ViewPoint at);
+    void moved(orvinel::ViewPoint at);
+    void released(Qt::MouseButton button);
+    void doubleClicked();
+    // Pixels by which the picture is to be scrolled: positive shows what lies further right or down.
+    void scrollWanted(int dx, int dy);
+    void menuKeyPressed();
+    void escapePressed();
+    void resized();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    ViewPoint toView(QPointF position) const;
+
+    MapView view_;
+    MapSurface* surface_ = nullptr;
+    QImage empty_;
+    struct Shown {
+        Selection selection;
+        QImage picture;
+    };
+    std::array<std::optional<Shown>, 5> selections_;
+};
+
+} // namespace orvinel

@@ -1,0 +1,89 @@
+#include "ui/map/MarkerArt.h"
+
+#include "ui/platform/Drawing.h"
+#include "ui/platform/Fonts.h"
+
+#include <algorithm>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::array<const char*, static_cast<size_t>(Sprite::Count)> pictureNames = {
+    "picVanquish0",     "picDungeonEntrance0",
+    "picOutpost1",      "picOutpost2",
+    "picOutpost3",      "picMission1",
+    "picMission2",      "picMission3",
+    "picTown1",         "picTown2",
+    "picTown3",         "picChallenge2",
+    "picChallenge3",    "picCollArmi",
+    "picCollArmature",  "picGreenMarker",
+    "picNote",          "picTreasure",
+    "picPet",           "picSelezione",
+    "picCollSelezione", "picGreenSelezione",
+    "picNoteSelezione", "picTreasureSelezione"};
+
+constexpr QRgb seeThrough = 0xFFFF00FF;
+constexpr int codeAbove = 1; // a code's line starts one pixel above the box
+
+QImage load(const char* name) {
+    QImage picture(u":/markers/%1.png"_s.arg(QLatin1String(name)));
+    picture = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+        std::replace(row, row + picture.width(), seeThrough, QRgb(0));
+    }
+    return picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+int codeIndent(const QString& code) {
+    return code.size() == 1 ? 3 : 1;
+}
+
+} // namespace
+
+const QImage& MarkerArt::picture(Sprite sprite) const {
+    QImage& picture = pictures_[static_cast<size_t>(sprite)];
+    if (picture.isNull())
+        picture = load(pictureNames[static_cast<size_t>(sprite)]);
+    return picture;
+}
+
+QRect MarkerArt::bounds(const Marker& marker) const {
+    if (marker.kind == Marker::Kind::Sprite)
+        return {QPoint(marker.left, marker.top), picture(marker.sprite).size()};
+    return {QPoint(marker.left, marker.top - codeAbove), box(marker).size()};
+}
+
+void MarkerArt::draw(QPainter& painter, const Marker& marker) const {
+    if (marker.kind == Marker::Kind::Sprite)
+        painter.drawImage(marker.left, marker.top, picture(marker.sprite));
+    else
+        painter.drawImage(marker.left, marker.top - codeAbove, box(marker));
+}
+
+const QImage& MarkerArt::box(const Marker& marker) const {
+    const int width = marker.right - marker.left + 1;
+    const int height = marker.bottom - marker.top + 1;
+    QImage& image = boxes_[{width, height, marker.fill, marker.code}];
+    if (!image.isNull())
+        return image;
+    const QFont font = arial(points8, true);
+    const QFontMetrics metrics(font);
+    // A wide code hangs over the right edge of its box.
+    const int textRight = codeIndent(marker.code) + metrics.horizontalAdvance(marker.code) + 1;
+    const QSize size(marker.code.isEmpty() ? width : std::max(width, textRight),
+                     codeAbove + std::max(height, marker.code.isEmpty() ? 0 : metrics.height()));
+    image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    Drawing drawing(&image);
+    drawing.setFont(font);
+    drawing.setFill(marker.fill);
+    drawing.box(0, codeAbove, width - 1, codeAbove + height - 1);
+    drawing.print(codeIndent(marker.code), 0, marker.code);
+    return image;
+}
+
+} // namespace orvinel

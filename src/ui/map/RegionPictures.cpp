@@ -1,0 +1,33 @@
+#include "ui/map/RegionPictures.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+namespace orvinel {
+
+namespace {
+
+constexpr qint64 mostBytes = 256ll * 1024 * 1024;
+
+} // namespace
+
+QImage loadPicture(const Disk& disk, const QString& path) {
+    ReadResult file = disk.read(path);
+    if (file.bytes.isEmpty())
+        return {};
+    QBuffer buffer(&file.bytes);
+    QImageReader reader(&buffer, QByteArrayLiteral("jpeg"));
+    // The header is checked before a byte is decoded: a small file can claim gigabytes.
+    const QSize size = reader.size();
+    if (size.isEmpty() || qint64(size.width()) * size.height() * 4 > mostBytes)
+        return {};
+    QImageReader::setAllocationLimit(static_cast<int>(mostBytes / (1024 * 1024)) + 1);
+    reader.setAutoTransform(false);
+    QImage picture = reader.read();
+    if (picture.format() != QImage::Format_RGB32)
+        picture = std::move(picture).convertToFormat(QImage::Format_RGB32);
+    picture.setDevicePixelRatio(1);
+    return picture;
+}
+
+} // namespace orvinel

@@ -1,0 +1,226 @@
+#include "ui/map/frmMap.h"
+
+#include "app/modLanguage.h"
+#include "ui/map/EmptyMap.h"
+#include "ui/map/RegionPictures.h"
+#include "ui/platform/EdgeResize.h"
+#include "ui/platform/PictureButton.h"
+#include "ui/platform/Windows.h"
+
+#include <QCloseEvent>
+
+#include <algorithm>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int margin = 2;    // pixels around picMap
+constexpr int smallest = 80; // 1200 twips, both ways
+constexpr QSize designSize(624 + 2 * margin, 491 + 2 * margin);
+constexpr qint64 cachedBytes = 96ll * 1024 * 1024;
+constexpr int emptyMapTitle = 12;
+
+} // namespace
+
+frmMap::frmMap(Surroundings with, QWidget* owner)
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), with_(with), cache_(cachedBytes),
+      viewport_(new MapViewport(this)) {
+    setObjectName(u"frmMap"_s);
+    setMinimumSize(smallest, smallest);
+    setCursor(programCursor(101));
+    viewport_->setCursor(programCursor(102));
+    buildButtons();
+    connectViewport();
+    new EdgeResize(*this, smallest, {viewport_});
+    resize(designSize);
+}
+
+frmMap::~frmMap() = default;
+
+void frmMap::buildButtons() {
+    const ProgramState& state = with_.state;
+    cmdMinimize_ = new PictureButton(u"cmdMinimize"_s, u":/windows/minimize.png"_s,
+                                     ownText(state, OwnText::Minimise), viewport_);
+    cmdMaximize_ = new PictureButton(u"cmdMaximize"_s, u":/windows/maximize.png"_s,
+                                     ownText(state, OwnText::Maximise), viewport_);
+    cmdClose_ =
+        new PictureButton(u"cmdClose"_s, u":/windows/close.png"_s, ownText(state, OwnText::Quit), viewport_);
+    connect(cmdClose_, &PictureButton::clicked, this, &frmMap::quitWanted);
+    connect(cmdMaximize_, &PictureButton::clicked, this, [this] {
+        emit maximiseWanted();
+        viewport_->setFocus();
+    });
+    connect(cmdMinimize_, &PictureButton::clicked, this, [this] {
+        viewport_->setFocus();
+        emit minimiseWanted();
+    });
+}
+
+void frmMap::connectViewport() {
+    connect(viewport_, &MapViewport::pressed, this, &frmMap::press);
+    connect(viewport_, &MapViewport::moved, this, &frmMap::moveTo);
+    connect(viewport_, &MapViewport::released, this, &frmMap::release);
+    connect(viewport_, &MapViewport::doubleClicked, this, &frmMap::doubleClick);
+    connect(viewport_, &MapViewport::scrollWanted, this, &frmMap::scrollBy);
+    connect(viewport_, &MapViewport::menuKeyPressed, this, &frmMap::menuKeyPressed);
+    connect(viewport_, &MapViewport::escapePressed, this, &frmMap::HideInformationWindows);
+    connect(viewport_, &MapViewport::resized, this, [this] {
+        if (!mapLoaded())
+            showEmptyMap();
+    });
+}
+
+MapShown frmMap::shown(int zoneIndex) const {
+    return {campaign_, region_,
+            zoneIndex > 0 ? zoneIdentifier(with_.state, campaign_, region_, zoneIndex) : 0};
+}
+
+void frmMap::InizializzaVariabili(const QString& picture, int campaign, int region) {
+    if (campaign != campaign_ || region != region_) {
+        dragging_ = false;
+        viewport_->showSurface(nullptr);
+        if (surface_)
+            cache_.put(surfacePath_, std::move(surface_));
+        campaign_ = campaign;
+        region_ = region;
+        surface_ = region < 0 || campaign < 0 ? nullptr : loadRegion(picture, campaign, region);
+        surfacePath_ = picture;
+        viewport_->showSurface(surface_.get());
+    } else if (region == -1 || campaign == -1) {
+        surface_.reset();
+        viewport_->showSurface(nullptr);
+    }
+    if (!mapLoaded())
+        showEmptyMap();
+    const QString name = regionName(with_.state, campaign_, region_);
+    viewport_->setAccessibleName(mapLoaded() ? name : with_.state.text(emptyMapTitle));
+    with_.desktop.processPendingEvents();
+}
+
+std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campaign, int region) {
+    if (auto cached = cache_.take(picture))
+        return cached;
+    QImage ground = loadPicture(with_.disk, picture);
+    if (ground.isNull())
+        return nullptr;
+    for (MapLayer* layer : chains_.drawing)
+        layer->drawGround(ground, {campaign, region, 0});
+    return std::make_unique<MapSurface>(std::move(ground), art_);
+}
+
+void frmMap::showEmptyMap() {
+    // Before the first layout nobody can see it.
+    if (isVisible())
+        viewport_->setEmptyPicture(drawEmptyMap(viewport_->screenPixels(), with_.state.text(emptyMapTitle)));
+}
+
+void frmMap::CenterMapOn(int x, int y) {
+    viewport_->view().centreOn({x, y});
+    UpdateMap();
+    with_.desktop.processPendingEvents();
+}
+
+void frmMap::DrawEverythingOnMap() {
+    if (!mapLoaded())
+        return;
+    std::vector<Marker> markers;
+    for (MapLayer* layer : chains_.drawing)
+        layer->appendMarkers(markers);
+    surface_->setMarkers(std::move(markers));
+    startFlashing();
+    UpdateMap();
+    with_.desktop.processPendingEvents();
+}
+
+void frmMap::UpdateMapWithNewEliteSkills() {
+    HideInformationWindows();
+    DrawEverythingOnMap();
+}
+
+void frmMap::HideInformationWindows() {
+    for (InformationWindow* window : windows_)
+        window->dismiss();
+}
+
+bool frmMap::askMouseOverChain(ViewPoint at) {
+    return mapLoaded() && std::any_of(chains_.mouseOver.begin(), chains_.mouseOver.end(),
+                                      [&](MapLayer* layer) { return layer->mouseOver(at); });
+}
+
+void frmMap::press(Qt::MouseButton button, Qt::KeyboardModifiers keys, ViewPoint at) {
+    HideInformationWindows();
+    last_ = at;
+    lastButton_ = button;
+    if (button == Qt::LeftButton && keys == Qt::NoModifier) {
+        viewport_->setCursor(programCursor(103));
+        dragging_ = true;
+        const MapPoint grip = toMap(at); // mouse minus scroll, rounded
+        drag_ = {double(grip.x), double(grip.y)};
+    }
+    if (button == Qt::RightButton && !askMouseOverChain(at))
+        emit regionMenuWanted(QCursor::pos());
+}
+
+void frmMap::moveTo(ViewPoint at) {
+    if (dragging_) {
+        viewport_->view().dragTo(static_cast<int>(std::lrint(at.x - drag_.x)),
+                                 static_cast<int>(std::lrint(at.y - drag_.y)));
+        UpdateMap();
+    } else if (with_.informationMode == 1 && !askMouseOverChain(at)) {
+        HideInformationWindows();
+    }
+}
+
+void frmMap::release(Qt::MouseButton button) {
+    if (dragging_) {
+        viewport_->setCursor(programCursor(102));
+        with_.desktop.processPendingEvents();
+        dragging_ = false;
+    } else if (button == Qt::RightButton && with_.informationMode == 0) {
+        HideInformationWindows();
+        UpdateMap();
+    }
+}
+
+void frmMap::doubleClick() {
+    if (lastButton_ != Qt::LeftButton || !mapLoaded())
+        return;
+    for (MapLayer* layer : chains_.doubleClick)
+        if (layer->doubleClick(last_))
+            return;
+}
+
+void frmMap::scrollBy(int dx, int dy) {
+    HideInformationWindows();
+    MapView& view = viewport_->view();
+    view.scrollTo(view.scrollX() - dx, view.scrollY() - dy);
+    UpdateMap();
+}
+
+void frmMap::resizeEvent(QResizeEvent*) {
+    viewport_->setGeometry(margin, margin, width() - 2 * margin, height() - 2 * margin);
+    int right = viewport_->width();
+    for (PictureButton* button : {cmdClose_, cmdMaximize_, cmdMinimize_}) {
+        right -= button->width();
+        button->move(right, 0);
+    }
+    UpdateMap();
+}
+
+void frmMap::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    keepOffTaskBar(*this);
+    if (!mapLoaded())
+        showEmptyMap();
+}
+
+void frmMap::closeEvent(QCloseEvent* event) {
+    // The window manager's way to close one window quits the whole program, as the button does.
+    event->ignore();
+    emit quitWanted();
+}
+
+} // namespace orvinel
