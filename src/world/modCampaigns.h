@@ -8,7 +8,6 @@
 
 #include <QString>
 
-#include <unordered_map>
 #include <vector>
 
 namespace orvinel {
@@ -17,11 +16,8 @@ struct ProgramState;
 
 struct Region {
     QString RegionName;
-    QString RegionPicture;                         // full path of the JPEG; empty: no picture
-    List1<Zone> RegionZones;                       // written by addZone only
-    std::unordered_map<int, int> ZoneByIdentifier; // index of the first zone with an identifier
-
-    void addZone(Zone zone);
+    QString RegionPicture; // full path of the JPEG; empty: no picture
+    List1<Zone> RegionZones;
 
     bool operator==(const Region&) const = default;
 };

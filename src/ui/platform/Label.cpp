@@ -17,7 +17,14 @@ Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
 
 void Label::setCaption(const QString& text) {
     setText(text);
+    if (named_)
+        named_->setAccessibleName(text);
     fit();
+}
+
+void Label::nameFor(QWidget* widget) {
+    named_ = widget;
+    widget->setAccessibleName(text());
 }
 
 void Label::setWrapWidth(int pixels) {

@@ -19,6 +19,8 @@ class Label : public QLabel {
     // Wraps words at this width, pixels, from now on; 0: one line per line of text.
     void setWrapWidth(int pixels);
     void setColour(Colour colour);
+    // From now on the widget's accessible name follows the label's text. `widget` lives as long as the label.
+    void nameFor(QWidget* widget);
 
   signals:
     void clicked();
@@ -34,6 +36,7 @@ class Label : public QLabel {
     void fit();
 
     int wrapWidth_ = 0;
+    QWidget* named_ = nullptr;
 };
 
 } // namespace orvinel

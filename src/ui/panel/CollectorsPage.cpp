@@ -1,0 +1,93 @@
+#include "ui/panel/CollectorsPage.h"
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::array<QRect, 3> typePlaces = {QRect(2, 22, 95, 16), QRect(2, 38, 189, 16),
+                                             QRect(2, 54, 199, 16)};
+
+} // namespace
+
+CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(1, parent) {
+    lblCollStuffType = panelLabel(u"lblCollStuffType"_s, {4, 8}, inner());
+    for (int i = 0; i < 3; ++i)
+        optCollType[size_t(i)] = panelOption(arrayName(u"optCollType"_s, i), typePlaces[size_t(i)], inner());
+    lblCollectorLevel = panelLabel(u"lblCollectorLevel"_s, {124, 8}, inner());
+    picCollLevels = new QWidget(inner());
+    picCollLevels->setObjectName(u"picCollLevels"_s);
+    picCollLevels->setGeometry(122, 24, 93, 55);
+    for (int i = 0; i < 3; ++i)
+        optCollLevel[size_t(i)] =
+            panelOption(arrayName(u"optCollLevel"_s, i), {0, 16 * i, 93, 14}, picCollLevels);
+    lblCollRequest = panelLabel(u"lblCollRequest"_s, {4, 72}, inner());
+    cmbCollReq = panelCombo(u"cmbCollReq"_s, {4, 86, 209, 22}, inner());
+    lblCollhand = panelLabel(u"lblCollhand"_s, {4, 112}, inner());
+    cmbCollHand = panelCombo(u"cmbCollHand"_s, {4, 126, 89, 22}, inner());
+    lblCollSearch = panelLabel(u"lblCollSearch"_s, {98, 112}, inner());
+    txtCollSearch = panelField(u"txtCollSearch"_s, {98, 126, 115, 21}, inner());
+    lblCollectors = panelLabel(u"lblCollectors"_s, {2, 160}, inner());
+    lstCollectors = panelList(u"lstCollectors"_s, {2, 174, 213, 360}, inner());
+    optCollType[0]->setChecked(true);
+    optCollLevel[0]->setChecked(true);
+    lblCollRequest->nameFor(cmbCollReq);
+    lblCollhand->nameFor(cmbCollHand);
+    lblCollSearch->nameFor(txtCollSearch);
+    lblCollectors->nameFor(lstCollectors);
+}
+
+void CollectorsPage::applyCaptions(const ProgramState& state) {
+    lblCollStuffType->setCaption(state.text(48));
+    lblCollectorLevel->setCaption(state.text(97));
+    for (size_t i = 0; i < 3; ++i) {
+        optCollType[i]->setText(verbatim(state.text(std::array{9, 51, 52}[i])));
+        optCollLevel[i]->setText(verbatim(state.text(std::array{9, 98, 99}[i])));
+    }
+    lblCollRequest->setCaption(state.text(46));
+    lblCollhand->setCaption(state.text(10));
+    lblCollSearch->setCaption(state.text(47));
+    lblCollectors->setCaption(state.text(44));
+    cmbCollHand->setEntries({{pinnedText(state.text(9)), 0},
+                             {state.text(54), 1},
+                             {state.text(55), 2},
+                             {state.text(56), 4},
+                             {state.text(57), 8}});
+}
+
+void CollectorsPage::applyColour(Colour colour) {
+    setColour(colour);
+    setBackground(*picCollLevels, colour);
+    for (size_t i = 0; i < 3; ++i) {
+        setBackground(*optCollType[i], colour);
+        setBackground(*optCollLevel[i], colour);
+    }
+}
+
+int CollectorsPage::level() const {
+    return optCollLevel[0]->isChecked() ? 2 : optCollLevel[1]->isChecked() ? 1 : 0;
+}
+
+void CollectorsPage::setLevel(int level) {
+    for (int i = 0; i < 3; ++i)
+        if (level == 2 - i)
+            optCollLevel[size_t(i)]->setChecked(true);
+}
+
+void CollectorsPage::read(CollectorChoice& choice) const {
+    choice.level = level();
+    choice.kind = optCollType[0]->isChecked()   ? CollectorChoice::Kind::All
+                  : optCollType[1]->isChecked() ? CollectorChoice::Kind::Objects
+                                                : CollectorChoice::Kind::Armour;
+    if (cmbCollReq->currentIndex() >= 1)
+        choice.request = cmbCollReq->currentText();
+    choice.searchText = txtCollSearch->text();
+    choice.handMask = cmbCollHand->currentIndex() >= 1 ? cmbCollHand->data() : 255;
+}
+
+void CollectorsPage::arrange() {
+    lstCollectors->resize(lstCollectors->width(), innerHeight() - lstCollectors->y() - 5);
+}
+
+} // namespace orvinel

@@ -1,0 +1,57 @@
+#include "ui/panel/Controls.h"
+
+#include "ui/platform/Drawing.h"
+#include "ui/platform/Fonts.h"
+
+namespace orvinel {
+
+Label* panelLabel(const QString& name, QPoint at, QWidget* parent) {
+    auto* label = new Label(name, parent);
+    label->setFont(arial(points8_25, true));
+    label->move(at);
+    return label;
+}
+
+ItemCombo* panelCombo(const QString& name, const QRect& place, QWidget* parent) {
+    auto* combo = new ItemCombo(name, parent);
+    combo->setGeometry(place);
+    return combo;
+}
+
+ListBox* panelList(const QString& name, const QRect& place, QWidget* parent) {
+    auto* list = new ListBox(name, parent);
+    list->setGeometry(place);
+    return list;
+}
+
+QLineEdit* panelField(const QString& name, const QRect& place, QWidget* parent) {
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(name);
+    field->setGeometry(place);
+    return field;
+}
+
+QRadioButton* panelOption(const QString& name, const QRect& place, QWidget* parent) {
+    auto* option = new QRadioButton(parent);
+    option->setObjectName(name);
+    option->setGeometry(place);
+    option->setAutoFillBackground(true);
+    return option;
+}
+
+QString arrayName(const QString& name, int index) {
+    return name + u'(' + QString::number(index) + u')';
+}
+
+QString verbatim(QString text) {
+    return text.replace(u'&', QLatin1String("&&"));
+}
+
+void setBackground(QWidget& widget, Colour colour) {
+    QPalette colours = widget.palette();
+    colours.setColor(QPalette::Window, toQColor(colour));
+    widget.setPalette(colours);
+    widget.setAutoFillBackground(true);
+}
+
+} // namespace orvinel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/platform/ItemCombo.h"
+#include "ui/platform/Label.h"
+#include "ui/platform/ListBox.h"
+
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QRect>
+
+namespace orvinel {
+
+// The panel's controls are made here, so that all look and behave alike. `place`: pixels inside the parent.
+// All are owned by the parent.
+
+// A bold label with its top left corner at (x, y).
+Label* panelLabel(const QString& name, QPoint at, QWidget* parent);
+ItemCombo* panelCombo(const QString& name, const QRect& place, QWidget* parent);
+ListBox* panelList(const QString& name, const QRect& place, QWidget* parent);
+QLineEdit* panelField(const QString& name, const QRect& place, QWidget* parent);
+QRadioButton* panelOption(const QString& name, const QRect& place, QWidget* parent);
+
+// "name(index)", the fixed name of a member of a control array.
+QString arrayName(const QString& name, int index);
+
+// A text for controls that take "&" for a mnemonic.
+QString verbatim(QString text);
+
+// Gives a widget that fills its background the colour.
+void setBackground(QWidget& widget, Colour colour);
+
+} // namespace orvinel

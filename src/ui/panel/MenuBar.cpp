@@ -1,0 +1,69 @@
+#include "ui/panel/MenuBar.h"
+
+#include "ui/panel/Controls.h"
+#include "ui/platform/Drawing.h"
+#include "ui/platform/Fonts.h"
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QRect barPlace(0, 17, 221, 19);
+constexpr QRect framePlace(40, 0, 53, 18);
+constexpr std::array<QPoint, 3> wordPlaces = {QPoint(6, 1), QPoint(46, 1), QPoint(98, 1)};
+constexpr Colour ground = 0xFF8080;
+constexpr Colour darkGrey = 0x404040;
+constexpr Colour pureBlue = 0xFF0000;
+
+} // namespace
+
+MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
+    setObjectName(u"Shape1"_s);
+    setGeometry(barPlace);
+    for (size_t i = 0; i < lblMenu.size(); ++i) {
+        const int index = static_cast<int>(i);
+        lblMenu[i] = new Label(arrayName(u"lblMenu"_s, index), this);
+        lblMenu[i]->setFont(arial(points8_25));
+        lblMenu[i]->move(wordPlaces[i]);
+        connect(lblMenu[i], &Label::pressed, this, [this, i] { lblMenu[i]->setColour(pureBlue); });
+        connect(lblMenu[i], &Label::released, this, [this, i, index] {
+            if (open_ != index)
+                lblMenu[i]->setColour(0);
+        });
+        connect(lblMenu[i], &Label::clicked, this, [this, index] { emit menuWanted(index); });
+    }
+}
+
+void MenuBar::applyCaptions(const ProgramState& state) {
+    for (size_t i = 0; i < lblMenu.size(); ++i)
+        lblMenu[i]->setCaption(state.text(std::array{111, 112, 109}[i]));
+}
+
+void MenuBar::markOpen(int index) {
+    markClosed();
+    open_ = index;
+    Label& word = *lblMenu[static_cast<size_t>(index)];
+    word.setColour(pureBlue);
+    frame_ = QRect(word.x() - 4, framePlace.y(), word.width() + 8, framePlace.height());
+    update();
+}
+
+void MenuBar::markClosed() {
+    for (Label* word : lblMenu)
+        word->setColour(0);
+    open_ = -1;
+    frame_ = {};
+    update();
+}
+
+void MenuBar::paintEvent(QPaintEvent*) {
+    Drawing drawing(this);
+    drawing.filledBox(0, 0, width() - 1, height() - 1, ground);
+    drawing.line(0, 17, 216, 17, darkGrey);
+    if (!frame_.isEmpty())
+        drawing.outline(frame_.left(), frame_.top(), frame_.right(), frame_.bottom(), darkGrey);
+}
+
+} // namespace orvinel

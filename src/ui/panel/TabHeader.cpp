@@ -1,0 +1,85 @@
+#include "ui/panel/TabHeader.h"
+
+#include "ui/panel/Controls.h"
+#include "ui/platform/Drawing.h"
+#include "ui/platform/Fonts.h"
+#include "ui/platform/Windows.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPainter>
+
+namespace orvinel {
+
+namespace {
+
+class TabHeaderAccessible : public QAccessibleWidget {
+  public:
+    explicit TabHeaderAccessible(TabHeader* header) : QAccessibleWidget(header, QAccessible::PageTab) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const auto* header = static_cast<TabHeader*>(widget());
+        state.selectable = true;
+        state.selected = !header->tag().isEmpty();
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override {
+        const auto* header = static_cast<TabHeader*>(widget());
+        return kind == QAccessible::Name ? header->text().trimmed() : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            static_cast<TabHeader*>(widget())->click();
+    }
+};
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+    auto* header = qobject_cast<TabHeader*>(object);
+    return header ? new TabHeaderAccessible(header) : nullptr;
+}
+
+} // namespace
+
+void installTabAccessibility() {
+    QAccessible::installFactory(makeAccessible);
+}
+
+TabHeader::TabHeader(int index, const QString& caption, Colour textColour, QWidget* parent)
+    : QAbstractButton(parent), textColour_(textColour) {
+    setObjectName(arrayName(QStringLiteral("lblTab"), index));
+    setText(caption);
+    setFont(arial(points8_25, true));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(programCursor(101));
+}
+
+void TabHeader::setTag(const QString& tag) {
+    tag_ = tag;
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
+void TabHeader::setColour(Colour colour) {
+    setBackground(*this, colour);
+}
+
+void TabHeader::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setPen(toQColor(textColour_));
+    // The caption ends with a blank; the check box stands at the left end.
+    painter.drawText(rect().adjusted(16, 1, -1, 0),
+                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextIncludeTrailingSpaces, text());
+    if (hasFocus()) {
+        painter.setPen(QPen(toQColor(textColour_), 1, Qt::DotLine));
+        painter.drawRect(rect().adjusted(2, 2, -3, -3));
+    }
+}
+
+} // namespace orvinel

@@ -1,0 +1,38 @@
+#include "ui/panel/TabPage.h"
+
+#include "ui/panel/Controls.h"
+#include "ui/platform/Windows.h"
+
+#include <QPainter>
+
+namespace orvinel {
+
+namespace {
+
+constexpr QRect designPlace(-1, 194, 219, 541);
+
+} // namespace
+
+TabPage::TabPage(int index, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
+    setObjectName(arrayName(QStringLiteral("picTab"), index));
+    setGeometry(designPlace);
+    setCursor(programCursor(101));
+    hide();
+}
+
+void TabPage::setColour(Colour colour) {
+    setBackground(*this, colour);
+}
+
+void TabPage::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(Qt::black);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void TabPage::resizeEvent(QResizeEvent*) {
+    inner_->setGeometry(1, 1, width() - 2, height() - 2);
+    arrange();
+}
+
+} // namespace orvinel

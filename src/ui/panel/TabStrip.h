@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/ProgramState.h"
+#include "ui/panel/TabHeader.h"
+#include "ui/panel/TabPage.h"
+#include "ui/platform/SmallCheckBox.h"
+
+#include <QObject>
+
+#include <array>
+
+namespace orvinel {
+
+inline constexpr int tabCount = 5;
+
+// The five tabs in two rows, their layer check boxes, and which page is shown. The row of the active tab
+// always lies next to the pages. The widgets are children of the panel.
+class TabStrip : public QObject {
+    Q_OBJECT
+  public:
+    TabStrip(std::array<TabPage*, tabCount> pages, QWidget* panel);
+
+    std::array<TabHeader*, tabCount> lblTab{};
+    std::array<SmallCheckBox*, tabCount> chkShowObject{};
+
+    // ApplyTabColours, as far as the strip and the pages go.
+    void applyColours(const ProgramState& state);
+    // What screen readers call the check boxes.
+    void applyCaptions(const ProgramState& state);
+    // lblTab_Click.
+    void activate(int index);
+    // -1: none yet.
+    int active() const;
+
+  signals:
+    void activated(int index);
+
+  private:
+    void swapRows(int left, int right);
+
+    std::array<TabPage*, tabCount> pages_;
+    QWidget* picFalseBorder_;
+    std::array<Colour, tabCount> colours_{};
+};
+
+} // namespace orvinel

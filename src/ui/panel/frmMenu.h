@@ -1,0 +1,132 @@
+#pragma once
+
+#include "app/Desktop.h"
+#include "app/ProgramState.h"
+#include "ui/panel/CollectorsPage.h"
+#include "ui/panel/ElitePage.h"
+#include "ui/panel/MenuBar.h"
+#include "ui/panel/OtherPages.h"
+#include "ui/panel/SelectionArea.h"
+#include "ui/panel/TabStrip.h"
+#include "ui/platform/Windows.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+namespace orvinel {
+
+// The layer filters in the order in which a change runs them.
+enum class Filter { Elites, Collectors, Greens, Notes, Treasures, Pets };
+inline constexpr int filterCount = 6;
+
+// What the panel calls; wired by the program. Each refills one list; with True it has the map redrawn
+// afterwards.
+struct PanelHooks {
+    std::array<std::function<void(bool updateMap)>, filterCount> filters;
+    // Shows a region on the map; an empty path and -1, -1 show none.
+    std::function<void(const QString& picture, int campaign, int region)> showRegion;
+    std::function<void()> updateMap; // UpdateMapWithNewEliteSkills
+    std::function<void()> drawMap;   // DrawEverythingOnMap
+    std::function<void(int layer, bool on)> switchFlashing;
+    std::function<void(int menu)> openMenu;
+    std::function<void()> quit;
+    std::function<bool()> maximised; // the pair of windows fills the screen
+};
+
+// The control panel.
+class frmMenu : public QWidget {
+    Q_OBJECT
+  public:
+    frmMenu(const ProgramState& state, Desktop& desktop);
+
+    // The load sequence: captions, lists, the remembered selection, colours, first tab. Once, after setHooks.
+    void Form_Load();
+    void setHooks(PanelHooks hooks) { hooks_ = std::move(hooks); }
+
+    int MenuRightClickNeeded = 1; // information-window mode 0, 1 or 2
+    int MenuLegendShown = 0;
+    int MenuAlwaysOnTop = 0;
+    bool MenuReady = false; // off: no filter does anything
+
+    SelectionArea& selection() { return *selection_; }
+    TabStrip& tabs() { return *tabs_; }
+    MenuBar& menuBar() { return *menuBar_; }
+    ElitePage& elitePage() { return *elitePage_; }
+    CollectorsPage& collectorsPage() { return *collectorsPage_; }
+    GreensPage& greensPage() { return *greensPage_; }
+    NotesPage& notesPage() { return *notesPage_; }
+    VariousPage& variousPage() { return *variousPage_; }
+
+    // The only readers of the controls for the filters.
+    EliteChoice eliteChoice() const;
+    CollectorChoice collectorChoice() const;
+    GreenChoice greenChoice() const;
+    NoteChoice noteChoice() const;
+    TreasureChoice treasureChoice() const { return {selection_->place()}; }
+    PetChoice petChoice() const { return {selection_->place()}; }
+    // True when the layer's check box has the value 1.
+    bool layerShown(int layer) const { return tabs_->chkShowObject[size_t(layer)]->value() == 1; }
+
+    // The protocol of every layer filter. `caption`: language entry that stands before ": count".
+    struct Refill {
+        ListBox& list;
+        Label& label;
+        int caption;
+        std::function<std::vector<ListEntry>()> entries;
+    };
+    void runFilter(const Refill& refill, bool updateMap);
+
+    // Fills cmbCharacter anew after the characters changed; the first entry is selected.
+    void FillCharacterList();
+    // The selection and options as they stand, into those that are saved.
+    void readOptions(Options& options) const;
+
+  signals:
+    // The panel was moved, or its background pressed: the map is to be attached again.
+    void attachMap();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void ApplyPanelCaptions();
+    void ApplyTabColours();
+    void RefillPanel();
+    void ApplyOptionsToPanel();
+    void connectSelection();
+    void connectElitePage();
+    void connectCollectorsPage();
+    void connectOtherPages();
+    // Runs the filters in order; the last one updates the map.
+    void runFilters(Filter first, Filter last);
+    void campaignPicked();
+    void regionPicked();
+    void zonePicked();
+    void professionPicked();
+    void collectorTypePicked(int index);
+    void layerSwitched(int layer);
+
+    const ProgramState& state_;
+    Desktop& desktop_;
+    PanelHooks hooks_;
+    WindowDrag drag_;
+    MenuBar* menuBar_;
+    SelectionArea* selection_;
+    ElitePage* elitePage_;
+    CollectorsPage* collectorsPage_;
+    GreensPage* greensPage_;
+    NotesPage* notesPage_;
+    VariousPage* variousPage_;
+    TabStrip* tabs_;
+};
+
+} // namespace orvinel
