@@ -12,7 +12,10 @@ constexpr int MarkerSpacing = 16; ///< one pixel more than the widest marker
 constexpr int ZoneSpacing = 60;
 constexpr int MarkerHalf = 8;
 constexpr int NameHeight = 16;
-constexpr int MarkerReach = 120;
+constexpr int ChestReach = 200; ///< hidden things lie farther from the villages than people stand
+constexpr int CollectorReach = 110;
+constexpr int BossReach = 170;
+constexpr int PetReach = 210;
 constexpr int TriesPerRing = 48;
 
 SiteRole roleOf(ZoneKind kind) {
@@ -59,17 +62,15 @@ bool liesIn(const SourceRegion& region, const SourceZone& zone) {
 /// Places the markers of one region layer after layer.
 class RegionFiller {
   public:
-    RegionFiller(const WorldSource& source, const SourceRegion& region, const PaintedRegion& painted,
+    RegionFiller(const WorldSource& source, const SourceRegion& region, const Ground& ground,
                  WorldPlaces& places)
         : source_(source), region_(region), places_(places),
-          finder_(
-              region.size, [&painted](QPoint place) { return painted.land(place); },
-              quint64(region.seed) * 7919 + 17),
+          finder_(region.size, ground.land, quint64(region.seed) * 7919 + 17),
           centre_(region.size.width() / 2, region.size.height() / 2) {}
 
-    void fillZones(const PaintedRegion& painted);
+    void fillZones(const Ground& ground);
     template <typename Records>
-    void fill(const Records& records, std::vector<QPoint>& places);
+    void fill(const Records& records, int reach, std::vector<QPoint>& places);
 
   private:
     QPoint place(QPoint near, int reach, int spacing);
@@ -90,12 +91,12 @@ QPoint RegionFiller::place(QPoint near, int reach, int spacing) {
     return near;
 }
 
-void RegionFiller::fillZones(const PaintedRegion& painted) {
+void RegionFiller::fillZones(const Ground& ground) {
     std::size_t site = 0;
     for (std::size_t i = 0; i < source_.zones.size(); ++i) {
         const SourceZone& zone = source_.zones[i];
         if (liesIn(region_, zone) && zone.painted) {
-            places_.zones[i] = painted.sites.at(site++);
+            places_.zones[i] = ground.sites.at(site++);
             finder_.block(zoneFootprint(zone, places_.zones[i]));
         }
     }
@@ -109,11 +110,11 @@ void RegionFiller::fillZones(const PaintedRegion& painted) {
 }
 
 template <typename Records>
-void RegionFiller::fill(const Records& records, std::vector<QPoint>& places) {
+void RegionFiller::fill(const Records& records, int reach, std::vector<QPoint>& places) {
     for (std::size_t i = 0; i < records.size(); ++i) {
         const int zone = records[i].zone;
         if (zone >= 0 && liesIn(region_, source_.zones[std::size_t(zone)])) {
-            places[i] = place(places_.zones[std::size_t(zone)], MarkerReach, MarkerSpacing);
+            places[i] = place(places_.zones[std::size_t(zone)], reach, MarkerSpacing);
         }
     }
 }
@@ -220,14 +221,14 @@ RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
     return recipe;
 }
 
-void placeRegion(const WorldSource& source, const SourceRegion& region, const PaintedRegion& painted,
+void placeRegion(const WorldSource& source, const SourceRegion& region, const Ground& ground,
                  WorldPlaces& places) {
-    RegionFiller filler(source, region, painted, places);
-    filler.fillZones(painted);
-    filler.fill(source.chests, places.chests);
-    filler.fill(source.collectors, places.collectors);
-    filler.fill(source.bosses, places.bosses);
-    filler.fill(source.petPlaces, places.petPlaces);
+    RegionFiller filler(source, region, ground, places);
+    filler.fillZones(ground);
+    filler.fill(source.chests, ChestReach, places.chests);
+    filler.fill(source.collectors, CollectorReach, places.collectors);
+    filler.fill(source.bosses, BossReach, places.bosses);
+    filler.fill(source.petPlaces, PetReach, places.petPlaces);
 }
 
 } // namespace worldgen

@@ -55,9 +55,15 @@ QRect zoneFootprint(const SourceZone& zone, QPoint place);
 /// What the painter is asked for. The wishes follow the order of the region's painted zones.
 RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region);
 
+/// What placing needs to know of a painted region.
+struct Ground {
+    std::vector<QPoint> sites; ///< of the region's painted zones, in their order
+    std::function<bool(QPoint)> land;
+};
+
 /// Fills in all places that lie in `region`, and no others, so that regions may be done side by side.
 /// Spacing is given up, step by step, only where a region is full (in scaled worlds).
-void placeRegion(const WorldSource& source, const SourceRegion& region, const PaintedRegion& painted,
+void placeRegion(const WorldSource& source, const SourceRegion& region, const Ground& ground,
                  WorldPlaces& places);
 
 } // namespace worldgen

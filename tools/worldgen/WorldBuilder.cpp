@@ -137,7 +137,8 @@ void Builder::paintRegions() {
     inParallel(source_.regions.size(), [this](std::size_t i) {
         const SourceRegion& region = source_.regions[i];
         const PaintedRegion painted = paintRegion(recipeFor(source_, region));
-        placeRegion(source_, region, painted, places_);
+        const Ground ground{painted.sites, [&](QPoint place) { return painted.land(place); }};
+        placeRegion(source_, region, ground, places_);
         savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_qs, painted.picture);
     });
 }

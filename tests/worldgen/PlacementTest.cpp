@@ -1,0 +1,102 @@
+#include "Placement.h"
+
+#include <gtest/gtest.h>
+
+namespace worldgen {
+namespace {
+
+bool everywhere(QPoint) {
+    return true;
+}
+
+int distanceSquared(QPoint a, QPoint b) {
+    const QPoint gap = a - b;
+    return gap.x() * gap.x() + gap.y() * gap.y();
+}
+
+TEST(PlaceFinder, givesFreeLandNearTheWish) {
+    const auto eastOf300 = [](QPoint place) { return place.x() > 300; };
+    PlaceFinder finder(QSize(800, 600), eastOf300, 1);
+    finder.block(QRect(380, 280, 60, 40));
+    std::vector<QPoint> places;
+    for (int i = 0; i < 60; ++i) {
+        const auto place = finder.placeNear(QPoint(400, 300), 120, 16);
+        ASSERT_TRUE(place);
+        EXPECT_GT(place->x(), 300);
+        EXPECT_FALSE(QRect(380, 280, 60, 40).contains(*place));
+        EXPECT_LE(distanceSquared(*place, QPoint(400, 300)), 190 * 190);
+        for (const QPoint other : places) {
+            EXPECT_GE(distanceSquared(*place, other), 16 * 16);
+        }
+        places.push_back(*place);
+    }
+}
+
+TEST(PlaceFinder, goesFarWhenThereIsNoRoomNearAndEndsWhenThereIsNone) {
+    const auto corner = [](QPoint place) { return place.x() > 740 && place.y() > 540; };
+    PlaceFinder finder(QSize(800, 600), corner, 1);
+    const auto place = finder.placeNear(QPoint(60, 60), 50, 16);
+    ASSERT_TRUE(place);
+    EXPECT_TRUE(corner(*place));
+    PlaceFinder sea(
+        QSize(800, 600), [](QPoint) { return false; }, 1);
+    EXPECT_FALSE(sea.placeNear(QPoint(60, 60), 50, 16));
+}
+
+TEST(PlaceFinder, dependsOnItsSeedAlone) {
+    // The numbers stand for "on every machine": another generator, or one that rounds, would give others.
+    PlaceFinder finder(QSize(800, 600), everywhere, 42);
+    PlaceFinder again(QSize(800, 600), everywhere, 42);
+    PlaceFinder other(QSize(800, 600), everywhere, 43);
+    const auto place = finder.placeNear(QPoint(400, 300), 100, 16);
+    EXPECT_EQ(place, again.placeNear(QPoint(400, 300), 100, 16));
+    EXPECT_NE(place, other.placeNear(QPoint(400, 300), 100, 16));
+    EXPECT_EQ(QPoint(443, 348), place);
+}
+
+/// Two regions with a town each; forty bosses live in the first town.
+WorldSource crowdedWorld() {
+    WorldSource world;
+    world.regions = {{1, 1, u"1"_qs, u"West"_qs, Theme::Frost, QSize(800, 600), 9},
+                     {1, 2, u"2"_qs, u"East"_qs, Theme::Frost, QSize(800, 600), 9}};
+    world.zones = {{1, 1, 1, ZoneKind::Town, true, true, SiteNear::Anything, u"Hythe"_qs},
+                   {2, 1, 2, ZoneKind::Town, true, true, SiteNear::Anything, u"Heath"_qs}};
+    for (int i = 0; i < 40; ++i) {
+        world.bosses.push_back({1, 0, u"Lump"_qs, {}, 0, {}});
+    }
+    world.bosses.push_back({1, 0, u"Nan"_qs, {}, 1, {}});
+    world.collectors = {{3, 1, u"Ada"_qs, false, 0, {}, {}, 0, {}},
+                        {4, 1, u"Bo"_qs, false, 0, {}, {}, -1, {}}};
+    return world;
+}
+
+TEST(PlaceRegion, keepsMarkersOffZonesAndOffEachOther) {
+    const WorldSource world = crowdedWorld();
+    WorldPlaces places(world);
+    placeRegion(world, world.regions[0], {{QPoint(400, 300)}, everywhere}, places);
+    EXPECT_EQ(QPoint(400, 300), places.zones[0]);
+    std::vector<QPoint> markers(places.bosses.begin(), places.bosses.end() - 1);
+    markers.push_back(places.collectors[0]);
+    for (std::size_t i = 0; i < markers.size(); ++i) {
+        EXPECT_FALSE(zoneFootprint(world.zones[0], places.zones[0]).contains(markers[i]));
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_GE(distanceSquared(markers[i], markers[j]), 14 * 14);
+        }
+    }
+    EXPECT_EQ(QPoint(), places.zones[1]) << "another region's zone";
+    EXPECT_EQ(QPoint(), places.bosses.back()) << "another region's boss";
+    EXPECT_EQ(QPoint(), places.collectors[1]) << "a collector who stands nowhere";
+}
+
+TEST(PlaceRegion, crowdsMarkersRatherThanLosingThem) {
+    WorldSource world = crowdedWorld();
+    const auto islet = [](QPoint place) { return place.x() >= 500 && place.x() < 540 && place.y() < 80; };
+    WorldPlaces places(world);
+    placeRegion(world, world.regions[0], {{QPoint(400, 300)}, islet}, places);
+    for (std::size_t i = 0; i + 1 < places.bosses.size(); ++i) {
+        EXPECT_TRUE(islet(places.bosses[i]));
+    }
+}
+
+} // namespace
+} // namespace worldgen
