@@ -83,7 +83,4 @@ void WindowDrag::move(QPoint global) {
         window_.move(global - grip_);
 }
 
-void keepOffTaskBar(QWidget&) {
-}
-
 } // namespace orvinel
