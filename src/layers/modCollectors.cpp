@@ -1,13 +1,295 @@
 #include "layers/modCollectors.h"
 
 #include "app/ProgramState.h"
+#include "app/TextFile.h"
+#include "app/modUtility.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
 
 namespace orvinel {
 
-void LoadCollectors(ProgramState& state, const Disk&, Complaints*) {
-    state.Collectors.reset();
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Ends each text in FoldedObjects: no search can reach over it, since UTF-8 never holds this byte.
+constexpr char textEnd = '\xFF';
+
+// Loading
+
+class CollectorReader {
+  public:
+    CollectorReader(ProgramState& state, TextFile& file, QSet<QString>& requestTypes)
+        : state_(state), file_(file), requestTypes_(requestTypes) {}
+
+    void readAll() {
+        while (file_.nextRecord()) {
+            if (file_.line().trimmed().isEmpty())
+                continue;
+            if (!readBlock())
+                passOverBlock();
+        }
+    }
+
+  private:
+    // False when the header cannot be used.
+    bool readBlock() {
+        if (!file_.split(3))
+            return false;
+        const auto id = file_.integer(0, "collector", 0, largestIdentifier);
+        const auto level = file_.fieldCount() == 4 ? file_.integer(3, "level", 0, 255) : 0;
+        if (!id || !level)
+            return false;
+        Collector collector;
+        collector.Exists = true;
+        collector.Name = file_.text(1);
+        collector.IsArmour = file_.field(2) == u"1";
+        collector.Level = *level;
+        if (!file_.nextLine())
+            return complainOfEnd();
+        collector.LocationText = file_.line().toString();
+        if (!file_.nextLine())
+            return complainOfEnd();
+        collector.setRequest(file_.line().toString());
+        addRequestType(collector.Request, collector.Level);
+        readObjects(collector);
+        state_.Collectors.grow(*id) = std::move(collector);
+        return true;
+    }
+
+    bool complainOfEnd() {
+        file_.skip(u"collector"_s, u"the file ends before the request"_s);
+        return false;
+    }
+
+    void readObjects(Collector& collector) {
+        while (file_.nextLine() && !file_.line().isEmpty()) {
+            if (file_.line().trimmed().isEmpty() || !file_.split(2))
+                continue;
+            const auto mask = file_.integer(1, "hand mask", -32768, 32767);
+            if (!mask)
+                continue;
+            std::vector<QString> stats;
+            for (size_t i = 2; i < file_.fieldCount(); ++i)
+                stats.push_back(file_.text(i));
+            collector.addObject(file_.text(0), *mask, std::move(stats));
+        }
+    }
+
+    // Else the lines of a block without a header would be taken for headers themselves.
+    void passOverBlock() {
+        while (file_.nextLine() && !file_.line().isEmpty()) {
+        }
+    }
+
+    void addRequestType(const QString& request, int level) {
+        const QString type = request.sliced(request.indexOf(u' ') + 1);
+        const auto known = requestTypes_.size();
+        requestTypes_.insert(type.toLower());
+        if (requestTypes_.size() > known)
+            state_.RequestTypes.append({type, level});
+    }
+
+    ProgramState& state_;
+    TextFile& file_;
+    QSet<QString>& requestTypes_; // lower-cased texts of those that are in the table
+};
+
+void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
+    using Limits = std::numeric_limits<int>;
+    TextFile file(disk, campaignFolder(state, campaign) + u"/CollectorsLocations.txt"_s, complaints);
+    while (file.nextLine()) {
+        if (!file.split(5))
+            continue;
+        const auto id = file.integer(0, "collector", 0, largestIdentifier);
+        const auto region = id ? file.integer(1, "region", 0, 255) : id;
+        const auto x = region ? file.integer(2, "x", -largestCoordinate, largestCoordinate) : region;
+        const auto y = x ? file.integer(3, "y", -largestCoordinate, largestCoordinate) : x;
+        const auto zone = y ? file.whole(4, "zone", Limits::min(), Limits::max()) : y;
+        if (!zone)
+            continue;
+        if (!state.Collectors.has(*id) || !state.Collectors[*id].Exists) {
+            file.skip(u"collector"_s, u"no collector %1"_s.arg(*id));
+            continue;
+        }
+        MapLocation& at = state.Collectors[*id].Location;
+        at.Campaign = campaign;
+        at.Region = *region;
+        at.Zone = *zone;
+        at.placeAt(*x, *y, bossReach);
+    }
 }
-void LoadCollectorLocations(ProgramState&, const Disk&, Complaints*) {
+
+std::vector<int> orderByName(const IndexedTable<Collector>& collectors) {
+    std::vector<QString> names;
+    for (int id = 1; id <= collectors.highest(); ++id)
+        names.push_back(collectors[id].Name);
+    std::vector<int> order = alphabeticalOrder(names);
+    for (int& position : order)
+        ++position;
+    return order;
+}
+
+// Searching
+
+// A choice made ready for looking at many collectors.
+struct Search {
+    const CollectorChoice& choice;
+    int zone;
+    std::string request;
+    std::string text;
+
+    Search(const CollectorChoice& asked, int zoneIdentifier)
+        : choice(asked), zone(zoneIdentifier), request(folded(asked.request.value_or(QString()))),
+          text(folded(asked.searchText)) {}
+
+    bool admits(const Collector& collector) const {
+        const MapLocation& at = collector.Location;
+        return at.placed() &&
+               (choice.level == CollectorChoice::anyLevel || collector.Level == choice.level) &&
+               passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone) && admitsKind(collector) &&
+               collector.FoldedRequest.find(request) != std::string::npos && admitsObjects(collector);
+    }
+
+    bool admits(const Collector& collector, const CollectorObject& object) const {
+        if ((choice.handMask & object.HandMask) == 0)
+            return false;
+        const std::string_view all = collector.FoldedObjects;
+        const std::string_view stats = between(all, object.FoldedStats, object.FoldedEnd);
+        if (!choice.attributeWords.empty() &&
+            (stats.empty() || !ContainsAnyWord(stats, choice.attributeWords)))
+            return false;
+        return text.empty() ||
+               between(all, object.FoldedName, object.FoldedEnd).find(text) != std::string_view::npos;
+    }
+
+  private:
+    static std::string_view between(std::string_view all, int begin, int end) {
+        return all.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
+    }
+
+    bool admitsKind(const Collector& collector) const {
+        return choice.kind == CollectorChoice::Kind::All ||
+               collector.IsArmour == (choice.kind == CollectorChoice::Kind::Armour);
+    }
+
+    // Most collectors fall at the one search through all their texts.
+    bool admitsObjects(const Collector& collector) const {
+        return collector.FoldedObjects.find(text) != std::string::npos &&
+               std::any_of(collector.Objects.begin(), collector.Objects.end(),
+                           [&](const CollectorObject& object) { return admits(collector, object); });
+    }
+};
+
+template <typename Visit>
+void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+    for (const int id : listed) {
+        if (!state.Collectors.has(id))
+            continue;
+        const Collector& collector = state.Collectors[id];
+        if (shown.shows(collector.Location.Campaign, collector.Location.Region))
+            visit(id, collector);
+    }
+}
+
+QString statsText(const std::vector<QString>& stats) {
+    QString text;
+    for (size_t m = 0; m < stats.size(); ++m) {
+        if (stats[m].trimmed().isEmpty())
+            continue;
+        text += u"- "_s + stats[m];
+        if (m + 1 < stats.size())
+            text += u"\r\n"_s;
+    }
+    return text;
+}
+
+} // namespace
+
+void Collector::setRequest(const QString& text) {
+    Request = text;
+    FoldedRequest = folded(text);
+}
+
+void Collector::addObject(const QString& name, int handMask, std::vector<QString> stats) {
+    CollectorObject object{name, handMask, std::move(stats), 0, 0, 0};
+    object.FoldedName = static_cast<int>(FoldedObjects.size());
+    FoldedObjects += folded(name) + textEnd;
+    object.FoldedStats = static_cast<int>(FoldedObjects.size());
+    for (const QString& line : object.Stats)
+        if (!line.trimmed().isEmpty())
+            FoldedObjects += folded(line) + textEnd;
+    object.FoldedEnd = static_cast<int>(FoldedObjects.size());
+    Objects.push_back(std::move(object));
+}
+
+// Records own their lists from the start, so a number that no line fills has empty ones and the tables need
+// no pass that makes them so after loading.
+void LoadCollectors(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    state.Collectors.reset();
+    state.RequestTypes.clear();
+    QSet<QString> requestTypes;
+    for (int n = 0; n <= state.Campaigns.highest(); ++n) {
+        TextFile file(disk, campaignFolder(state, n) + u"/Collectors.txt"_s, complaints);
+        CollectorReader(state, file, requestTypes).readAll();
+    }
+    state.CollectorOrder = orderByName(state.Collectors);
+}
+
+void LoadCollectorLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    for (int n = 0; n <= state.Campaigns.highest(); ++n)
+        loadLocations(state, n, disk, complaints);
+}
+
+std::vector<ListEntry> collectorEntries(const ProgramState& state, const CollectorChoice& choice) {
+    const Search search(choice, zoneIdentifier(state, choice.place));
+    std::vector<ListEntry> entries;
+    for (const int id : state.CollectorOrder)
+        if (search.admits(state.Collectors[id]))
+            entries.push_back({state.Collectors[id].Name, id});
+    return entries;
+}
+
+std::vector<ListEntry> requestTypeEntries(const ProgramState& state, int level) {
+    std::vector<ListEntry> entries;
+    for (int i = 1; i <= state.RequestTypes.count(); ++i)
+        if (level == CollectorChoice::anyLevel || state.RequestTypes[i].Level == level)
+            entries.push_back({state.RequestTypes[i].Text, i});
+    sortAlphabetically(entries);
+    entries.insert(entries.begin(), {pinnedText(state.text(9)), 0});
+    return entries;
+}
+
+std::vector<Marker> collectorMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<Marker> markers;
+    forEachShown(state, listed, shown, [&](int, const Collector& collector) {
+        const MapLocation& at = collector.Location;
+        if (shown.passesZone(at.Zone))
+            markers.push_back(Marker::picture(collector.IsArmour ? Sprite::CollArmature : Sprite::CollArmi,
+                                              at.Left, at.Top));
+    });
+    return markers;
+}
+
+std::vector<HitArea> collectorHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<HitArea> areas;
+    forEachShown(state, listed, shown, [&](int id, const Collector& collector) {
+        areas.push_back(HitArea::of(collector.Location, id));
+    });
+    return areas;
+}
+
+CollectorTooltip collectorTooltip(const ProgramState& state, int id, const CollectorChoice& choice) {
+    const Collector& collector = state.Collectors[id];
+    const Search search(choice, 0);
+    CollectorTooltip tooltip{collector.Name, collector.Request, collector.LocationText, {}};
+    for (const CollectorObject& object : collector.Objects)
+        tooltip.objects.push_back({object.Name, statsText(object.Stats), search.admits(collector, object)});
+    return tooltip;
 }
 
 } // namespace orvinel

@@ -40,7 +40,7 @@ struct Collector {
     MapLocation Location;
     std::vector<CollectorObject> Objects; // written by addObject only
     std::string FoldedRequest;
-    std::string FoldedObjects; // names and stat lines that are not blank, each ended by '\n'
+    std::string FoldedObjects; // names and stat lines that are not blank, each ended by 0xFF
 
     void setRequest(const QString& text);
     void addObject(const QString& name, int handMask, std::vector<QString> stats);

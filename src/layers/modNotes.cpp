@@ -1,11 +1,198 @@
 #include "layers/modNotes.h"
 
 #include "app/ProgramState.h"
+#include "app/TextFile.h"
 
 namespace orvinel {
 
-void LoadNotes(ProgramState& state, PlayerFiles&, Complaints*) {
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String writtenLineBreak("{#ENTER#}");
+constexpr QLatin1String lineBreak("\r\n");
+constexpr size_t fieldsOfNote = 6;
+
+std::optional<Note> readNote(TextFile& file) {
+    const auto x = file.integer(2, "x", -largestCoordinate, largestCoordinate);
+    const auto y = x ? file.integer(3, "y", -largestCoordinate, largestCoordinate) : x;
+    const auto campaign = y ? file.integer(4, "campaign", 0, 255) : y;
+    const auto region = campaign ? file.integer(5, "region", 0, 255) : campaign;
+    if (!region)
+        return std::nullopt;
+    Note note;
+    note.setTexts(file.field(0).trimmed().toString(), file.text(1).replace(writtenLineBreak, lineBreak));
+    note.At.Campaign = *campaign;
+    note.At.Region = *region;
+    note.At.placeAt(*x, *y, treasureReach);
+    return note;
+}
+
+void readLine(ProgramState& state, TextFile& file) {
+    const QStringView line = file.line().trimmed();
+    if (line.isEmpty() || line.startsWith(u';') || !file.split(fieldsOfNote))
+        return;
+    if (file.fieldCount() > fieldsOfNote)
+        file.skip({}, u"%1 fields instead of %2"_s.arg(file.fieldCount()).arg(fieldsOfNote));
+    else if (file.field(0).trimmed().isEmpty())
+        file.skip(u"title"_s, u"a note without a title"_s); // its body shall not vanish with the next save
+    else if (auto note = readNote(file))
+        state.Notes.append(std::move(*note));
+}
+
+void sortNotes(ProgramState& state) {
+    std::vector<QString> titles;
+    for (const Note& note : state.Notes)
+        titles.push_back(note.ShortDesc);
+    state.NoteOrder = alphabeticalOrder(titles);
+    for (int& position : state.NoteOrder)
+        ++position;
+}
+
+QString textOf(const List1<Note>& notes) {
+    QString text;
+    for (const Note& note : notes) {
+        if (note.ShortDesc.isEmpty())
+            continue;
+        QString body = note.Body;
+        text += note.ShortDesc + u'\t' + body.replace(lineBreak, writtenLineBreak);
+        for (const int number : {note.At.X, note.At.Y, note.At.Campaign, note.At.Region})
+            text += u'\t' + QString::number(number);
+        text += lineBreak;
+    }
+    return text;
+}
+
+// The file first: the table changes only when that has worked.
+SaveResult replaceNotes(ProgramState& state, PlayerFiles& files, List1<Note> notes, bool evenIfChanged) {
+    const SaveResult result = files.save(notesPath(state), textOf(notes), evenIfChanged);
+    if (result.saved()) {
+        state.Notes = std::move(notes);
+        sortNotes(state);
+    }
+    return result;
+}
+
+bool breaksLine(QChar c) {
+    return c == u'\n' || c == u'\r' || c == u'\v' || c == u'\f' || c == QChar(0x85) ||
+           c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+// As a line of the file can hold it: one kind of line break, no TAB; blanks at both ends trimmed.
+QString storedBody(QString body) {
+    body.replace(lineBreak, "\n"_L1);
+    QString stored;
+    for (const QChar c : body) {
+        if (breaksLine(c))
+            stored += lineBreak;
+        else
+            stored += c == u'\t' ? QChar(u' ') : c;
+    }
+    while (stored.startsWith(u' '))
+        stored.remove(0, 1);
+    while (stored.endsWith(u' '))
+        stored.chop(1);
+    return stored;
+}
+
+template <typename Visit>
+void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+    for (const int index : listed) {
+        if (!state.Notes.has(index))
+            continue;
+        const MapLocation& at = state.Notes[index].At;
+        if (shown.shows(at.Campaign, at.Region))
+            visit(index, at);
+    }
+}
+
+} // namespace
+
+void Note::setTexts(const QString& title, const QString& body) {
+    ShortDesc = title;
+    Body = body;
+    FoldedShortDesc = folded(title);
+    FoldedBody = folded(body);
+}
+
+void LoadNotes(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
     state.Notes.clear();
+    TextFile file(files.disk(), notesPath(state), complaints);
+    while (file.nextLine())
+        readLine(state, file);
+    files.loaded(notesPath(state), file);
+    sortNotes(state);
+}
+
+QString notesPath(const ProgramState& state) {
+    return state.AppPath + u"Personal/Notes.txt"_s;
+}
+
+QString notesFile(const ProgramState& state) {
+    return textOf(state.Notes);
+}
+
+SaveResult SaveNotes(const ProgramState& state, PlayerFiles& files, bool evenIfChanged) {
+    return files.save(notesPath(state), notesFile(state), evenIfChanged);
+}
+
+std::vector<ListEntry> noteEntries(const ProgramState& state, const NoteChoice& choice) {
+    const std::string title = folded(QStringView(choice.titleText).trimmed());
+    const std::string body = folded(QStringView(choice.bodyText).trimmed());
+    std::vector<ListEntry> entries;
+    for (const int index : state.NoteOrder) {
+        const Note& note = state.Notes[index];
+        if (!note.ShortDesc.isEmpty() && passesPlace(choice.place, 0, note.At.Campaign, note.At.Region, 0) &&
+            note.FoldedShortDesc.find(title) != std::string::npos &&
+            note.FoldedBody.find(body) != std::string::npos)
+            entries.push_back({note.ShortDesc, index});
+    }
+    return entries;
+}
+
+std::vector<Marker> noteMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<Marker> markers;
+    forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
+        markers.push_back(Marker::picture(Sprite::Note, at.Left, at.Top));
+    });
+    return markers;
+}
+
+std::vector<HitArea> noteHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<HitArea> areas;
+    forEachShown(state, listed, shown,
+                 [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
+    return areas;
+}
+
+NoteProblem checkNote(const QString& title) {
+    const QString stored = oneLine(title).trimmed();
+    if (stored.isEmpty())
+        return NoteProblem::EmptyTitle;
+    return stored.startsWith(u';') ? NoteProblem::CommentTitle : NoteProblem::None;
+}
+
+SaveResult storeNote(ProgramState& state, PlayerFiles& files, NoteEdit& edit, bool evenIfChanged) {
+    List1<Note> notes = state.Notes;
+    int index = edit.index;
+    if (!notes.has(index)) {
+        index = notes.append({});
+        notes[index].At.placeAt(edit.x, edit.y, treasureReach);
+    }
+    Note& note = notes[index];
+    note.setTexts(oneLine(edit.title).trimmed(), storedBody(edit.body));
+    note.At.Campaign = edit.campaign;
+    note.At.Region = edit.region;
+    SaveResult result = replaceNotes(state, files, std::move(notes), evenIfChanged);
+    if (result.saved())
+        edit.index = index;
+    return result;
+}
+
+SaveResult deleteNote(ProgramState& state, PlayerFiles& files, int index, bool evenIfChanged) {
+    List1<Note> notes = state.Notes;
+    notes[index].setTexts({}, notes[index].Body);
+    return replaceNotes(state, files, std::move(notes), evenIfChanged);
 }
 
 } // namespace orvinel

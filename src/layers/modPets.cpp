@@ -1,13 +1,134 @@
 #include "layers/modPets.h"
 
 #include "app/ProgramState.h"
+#include "app/TextFile.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace orvinel {
 
-void LoadPets(ProgramState& state, const Disk&, Complaints*) {
-    state.Pets.reset();
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
+    using Limits = std::numeric_limits<int>;
+    TextFile file(disk, campaignFolder(state, campaign) + u"/PetsLocations.txt"_s, complaints);
+    while (file.nextRecord()) {
+        if (!file.split(5))
+            continue;
+        const auto id = file.integer(0, "pet", 0, largestIdentifier);
+        const auto region = id ? file.integer(1, "region", 0, 255) : id;
+        const auto zone = region ? file.integer(2, "zone", Limits::min(), Limits::max()) : region;
+        const auto x = zone ? file.integer(3, "x", -largestCoordinate, largestCoordinate) : zone;
+        const auto y = x ? file.integer(4, "y", -largestCoordinate, largestCoordinate) : x;
+        if (!y)
+            continue;
+        if (!state.Pets.has(*id)) {
+            file.skip(u"pet"_s, u"no pet %1"_s.arg(*id));
+            continue;
+        }
+        MapLocation at;
+        at.Campaign = campaign;
+        at.Region = *region;
+        at.Zone = *zone;
+        at.placeAt(*x, *y, treasureReach);
+        state.Pets[*id].Locations.append(at);
+    }
 }
-void LoadPetLocations(ProgramState&, const Disk&, Complaints*) {
+
+// The panel's choice made ready for looking at many locations.
+struct Search {
+    const Place& place;
+    int zone;
+
+    Search(const ProgramState& state, const PetChoice& choice)
+        : place(choice.place), zone(zoneIdentifier(state, choice.place)) {}
+
+    bool admits(const MapLocation& at) const {
+        return passesPlace(place, zone, at.Campaign, at.Region, at.Zone);
+    }
+    bool admits(const Pet& pet) const {
+        return std::any_of(pet.Locations.begin(), pet.Locations.end(),
+                           [&](const MapLocation& at) { return admits(at); });
+    }
+};
+
+template <typename Visit>
+void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+    for (const int id : listed) {
+        if (!state.Pets.has(id))
+            continue;
+        const auto& locations = state.Pets[id].Locations;
+        for (int k = 1; k <= locations.count(); ++k)
+            if (shown.shows(locations[k].Campaign, locations[k].Region))
+                visit(id, k, locations[k]);
+    }
+}
+
+} // namespace
+
+void LoadPets(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    state.Pets.reset();
+    const QString folder = campaignFolder(state, 0);
+    TextFile file(disk, folder + u"/PetsList.txt"_s, complaints);
+    while (file.nextRecord()) {
+        if (!file.split(3))
+            continue;
+        const auto id = file.integer(0, "pet", 0, largestIdentifier);
+        if (!id)
+            continue;
+        Pet& pet = state.Pets.grow(*id);
+        pet = {file.text(1), {}, {}};
+        if (isPlainFileName(file.field(0)))
+            pet.Picture = folder + u"/imgPets/"_s + file.text(0) + u".jpg"_s;
+    }
+}
+
+void LoadPetLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    for (int n = 0; n <= state.Campaigns.highest(); ++n)
+        loadLocations(state, n, disk, complaints);
+}
+
+std::vector<ListEntry> petEntries(const ProgramState& state, const PetChoice& choice) {
+    const Search search(state, choice);
+    std::vector<ListEntry> entries;
+    for (int id = 1; id <= state.Pets.highest(); ++id)
+        if (search.admits(state.Pets[id]))
+            entries.push_back({state.Pets[id].Name, id});
+    return entries;
+}
+
+std::vector<ListEntry> petLocationEntries(const ProgramState& state, int id, const PetChoice& choice) {
+    const Search search(state, choice);
+    const auto& locations = state.Pets[id].Locations;
+    std::vector<ListEntry> entries;
+    for (int k = 1; k <= locations.count(); ++k) {
+        const MapLocation& at = locations[k];
+        if (search.admits(at))
+            entries.push_back({ZoneName(state, at.Campaign, at.Region, at.Zone) + u" - "_s +
+                                   regionName(state, at.Campaign, at.Region) + u" - "_s +
+                                   campaignName(state, at.Campaign),
+                               k});
+    }
+    return entries;
+}
+
+std::vector<Marker> petMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<Marker> markers;
+    forEachShown(state, listed, shown, [&](int, int, const MapLocation& at) {
+        if (shown.passesZone(at.Zone))
+            markers.push_back(Marker::picture(Sprite::Pet, at.Left, at.Top));
+    });
+    return markers;
+}
+
+std::vector<HitArea> petHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<HitArea> areas;
+    forEachShown(state, listed, shown,
+                 [&](int id, int k, const MapLocation& at) { areas.push_back(HitArea::of(at, id, k)); });
+    return areas;
 }
 
 } // namespace orvinel

@@ -1,11 +1,129 @@
 #include "layers/modTreasures.h"
 
 #include "app/ProgramState.h"
+#include "app/TextFile.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace orvinel {
 
-void LoadTreasures(ProgramState& state, const Disk&, Complaints*) {
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Written out: chests are looked for in this folder only, whatever other folder has the number 3.
+constexpr QLatin1String treasuresFile("Campaign.03.Sunhollow/Treasures.txt");
+
+std::optional<Treasure> readTreasure(TextFile& file) {
+    using Limits = std::numeric_limits<int>;
+    const auto x = file.integer(1, "x", -largestCoordinate, largestCoordinate);
+    const auto y = x ? file.integer(2, "y", -largestCoordinate, largestCoordinate) : x;
+    const auto region = y ? file.integer(3, "region", 0, 255) : y;
+    const auto zone = region ? file.whole(4, "zone", Limits::min(), Limits::max()) : region;
+    if (!zone)
+        return std::nullopt;
+    Treasure treasure;
+    treasure.Name = file.text(0);
+    treasure.Location.Campaign = treasureCampaign;
+    treasure.Location.Region = *region;
+    treasure.Location.Zone = *zone;
+    treasure.Location.placeAt(*x, *y, treasureReach);
+    return treasure;
+}
+
+template <typename Visit>
+void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+    for (const int index : listed) {
+        if (!state.Treasures.has(index))
+            continue;
+        const MapLocation& at = state.Treasures[index].Location;
+        if (shown.shows(at.Campaign, at.Region))
+            visit(index, at);
+    }
+}
+
+} // namespace
+
+void LoadTreasures(ProgramState& state, const Disk& disk, Complaints* complaints) {
     state.Treasures.clear();
+    TextFile file(disk, state.AppPath + treasuresFile, complaints);
+    while (file.nextRecord()) {
+        if (!file.split(5))
+            continue;
+        if (state.Treasures.count() == largestIdentifier) {
+            file.skip({}, u"more than %1 chests"_s.arg(largestIdentifier));
+            continue;
+        }
+        if (auto treasure = readTreasure(file)) {
+            treasure->OpenedOn.resize(static_cast<size_t>(state.Characters.highest()) + 1);
+            state.Treasures.append(std::move(*treasure));
+        }
+    }
+}
+
+std::vector<ListEntry> treasureEntries(const ProgramState& state, const TreasureChoice& choice) {
+    const int zone = zoneIdentifier(state, choice.place);
+    std::vector<ListEntry> entries;
+    for (int t = 1; t <= state.Treasures.count(); ++t) {
+        const Treasure& treasure = state.Treasures[t];
+        const MapLocation& at = treasure.Location;
+        if (passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone))
+            entries.push_back(
+                {treasure.Name + u" ("_s + ZoneName(state, at.Campaign, at.Region, at.Zone) + u')', t});
+    }
+    return entries;
+}
+
+std::vector<Marker> treasureMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<Marker> markers;
+    forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
+        if (shown.passesZone(at.Zone))
+            markers.push_back(Marker::picture(Sprite::Treasure, at.Left, at.Top));
+    });
+    return markers;
+}
+
+std::vector<HitArea> treasureHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+    std::vector<HitArea> areas;
+    forEachShown(state, listed, shown,
+                 [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
+    return areas;
+}
+
+TreasureTooltip treasureTooltip(const ProgramState& state, int index) {
+    const Treasure& treasure = state.Treasures[index];
+    TreasureTooltip tooltip{treasure.Name, state.text(85), state.text(106), {}, {}};
+    for (int c = 1; c <= state.Characters.highest(); ++c) {
+        const TreasureTooltip::Line line{state.Characters[c], treasure.openedBy(c)};
+        // Nameless characters leave a gap between the lines, but none above the first.
+        if (!tooltip.lines.empty() || !line.character.isEmpty() || line.openedOn.isValid())
+            tooltip.lines.push_back(line);
+    }
+    if (tooltip.lines.empty())
+        tooltip.instead = state.text(state.Characters.highest() == 0 ? 87 : 88);
+    return tooltip;
+}
+
+QString padBetween(const QString& left, const QString& right, int target,
+                   const std::function<int(const QString&)>& width) {
+    const auto padded = [&](int blanks) { return left + QString(blanks, u' ') + right; };
+    // A blank is at least a pixel wide in every font, so more blanks than pixels are never needed.
+    const int most = std::max(1, target);
+    int tooFew = 0;
+    int enough = 1;
+    while (enough < most && width(padded(enough)) < target) {
+        tooFew = enough;
+        enough = std::min(most, enough * 2);
+    }
+    while (enough - tooFew > 1) {
+        const int middle = tooFew + (enough - tooFew) / 2;
+        if (width(padded(middle)) < target)
+            tooFew = middle;
+        else
+            enough = middle;
+    }
+    return padded(enough);
 }
 
 } // namespace orvinel
