@@ -56,6 +56,11 @@ void loadRegions(Campaign& campaign, const QString& folder, const Disk& disk, Co
 
 } // namespace
 
+void Region::addZone(Zone zone) {
+    const int identifier = zone.ZoneID;
+    ZoneByIdentifier.try_emplace(identifier, RegionZones.append(std::move(zone)));
+}
+
 void LoadCampaigns(ProgramState& state, const Disk& disk, Complaints* complaints) {
     discover(state, disk, complaints);
     for (int n = 0; n <= state.Campaigns.highest(); ++n)

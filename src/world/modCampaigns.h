@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <unordered_map>
 #include <vector>
 
 namespace orvinel {
@@ -16,8 +17,11 @@ struct ProgramState;
 
 struct Region {
     QString RegionName;
-    QString RegionPicture; // full path of the JPEG; empty: no picture
-    List1<Zone> RegionZones;
+    QString RegionPicture;                         // full path of the JPEG; empty: no picture
+    List1<Zone> RegionZones;                       // written by addZone only
+    std::unordered_map<int, int> ZoneByIdentifier; // index of the first zone with an identifier
+
+    void addZone(Zone zone);
 
     bool operator==(const Region&) const = default;
 };

@@ -56,7 +56,7 @@ void loadZones(ProgramState& state, int campaign, const Disk& disk, Complaints* 
         else if (*type < 1 || *type > 6)
             file.skip(u"type"_s, u"no zone type %1"_s.arg(*type));
         else
-            regions[*region].RegionZones.append({*id, file.text(6), *type, *flag, *x, *y});
+            regions[*region].addZone({*id, file.text(6), *type, *flag, *x, *y});
     }
 }
 
@@ -100,11 +100,11 @@ QRect zoneLabelRect(int campaign, const Zone& zone, int width, int height) {
 }
 
 QString ZoneName(const ProgramState& state, int campaign, int region, int identifier) {
-    if (const Region* found = findRegion(state, campaign, region))
-        for (const Zone& zone : found->RegionZones)
-            if (zone.ZoneID == identifier)
-                return zone.ZoneName;
-    return {};
+    const Region* found = findRegion(state, campaign, region);
+    if (!found)
+        return {};
+    const auto zone = found->ZoneByIdentifier.find(identifier);
+    return zone == found->ZoneByIdentifier.end() ? QString() : found->RegionZones[zone->second].ZoneName;
 }
 
 int zoneIdentifier(const ProgramState& state, int campaign, int region, int zoneIndex) {
