@@ -56,14 +56,18 @@ TEST_F(SourceTables, becomeTheProgramsFiles) {
     ASSERT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
     auto moor = files(world, 1);
     EXPECT_EQ("01\tMoor\r\n", moor[u"Regions.txt"_qs]);
-    EXPECT_EQ("1\t1\t4\t1\t100\t200\tHythe\r\n2\t1\t1\t0\t300\t400\tHeath\r\n", moor[u"Zones.txt"_qs]);
+    EXPECT_EQ("; number, region, kind, marker, x, y, "
+              "name\r\n1\t1\t4\t1\t100\t200\tHythe\r\n2\t1\t1\t0\t300\t400\tHeath\r\n",
+              moor[u"Zones.txt"_qs]);
     EXPECT_EQ(
         "7\t1\t1650\t3150\tN\xE1n\tP\t2\r\n0\t1\t4650\t6165\tLump\t\t1\tonly during rain\\nand snow\r\n",
         moor[u"EliteLocations.txt"_qs]);
     EXPECT_EQ(0U, moor.count(u"Collectors.txt"_qs));
     auto common = files(world, 0);
     EXPECT_EQ("1\tTinker\t&H0180FF\tTi\tTongs\tGlue\r\n", common[u"Professions.txt"_qs]);
-    EXPECT_EQ("7\t1\tBend\tTongs\tSpell\t-1\t0\t5\t1/4\t20\tBends it.\r\n", common[u"EliteList.txt"_qs]);
+    EXPECT_EQ("; number, profession, name, attribute, type, upkeep, adrenaline, energy, cast time, recharge, "
+              "description\r\n7\t1\tBend\tTongs\tSpell\t-1\t0\t5\t1/4\t20\tBends it.\r\n",
+              common[u"EliteList.txt"_qs]);
 }
 
 TEST_F(SourceTables, sayInWhichUnitTheBossesStand) {
@@ -112,9 +116,11 @@ TEST_F(SourceTables, keepCollectorsAndTheirRewardsTogether) {
     WorldPlaces places(world);
     places.collectors = {{50, 60}, {}};
     auto moor = campaignFiles(world, places, world.campaigns[1], problems);
-    EXPECT_EQ("4\tAda\t1\t1\r\nAt home\r\n5 Pins\r\nCap\t8\tWarm\tNone\r\nHat\t8\r\n\r\n"
-              "9\tBo\t0\t0\r\nGone\r\n1 Nail\r\n\r\n",
-              moor[u"Collectors.txt"_qs]);
+    EXPECT_EQ(
+        "; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty "
+        "line\r\n4\tAda\t1\t1\r\nAt home\r\n5 Pins\r\nCap\t8\tWarm\tNone\r\nHat\t8\r\n\r\n"
+        "9\tBo\t0\t0\r\nGone\r\n1 Nail\r\n\r\n",
+        moor[u"Collectors.txt"_qs]);
     EXPECT_EQ("4\t1\t50\t60\t1\r\n", moor[u"CollectorsLocations.txt"_qs]);
 }
 

@@ -17,6 +17,7 @@ constexpr int CollectorReach = 110;
 constexpr int BossReach = 170;
 constexpr int PetReach = 210;
 constexpr int TriesPerRing = 48;
+constexpr int CellSize = 64;
 
 SiteRole roleOf(ZoneKind kind) {
     switch (kind) {
@@ -123,7 +124,8 @@ void RegionFiller::fill(const Records& records, int reach, std::vector<QPoint>& 
 
 PlaceFinder::PlaceFinder(QSize picture, std::function<bool(QPoint)> land, quint64 seed)
     : inner_(QRect(QPoint(0, 0), picture).adjusted(BorderGap, BorderGap, -BorderGap, -BorderGap)),
-      land_(std::move(land)), state_(seed) {
+      land_(std::move(land)), state_(seed), columns_(picture.width() / CellSize + 1),
+      taken_(std::size_t(columns_) * std::size_t(picture.height() / CellSize + 1)), fullFrom_(CellSize + 1) {
 }
 
 quint32 PlaceFinder::random() {
@@ -134,14 +136,35 @@ quint32 PlaceFinder::random() {
     return quint32(mixed >> 32);
 }
 
-bool PlaceFinder::isFree(QPoint place, int spacing) const {
-    const auto covers = [&](const QRect& area) { return area.contains(place); };
+std::vector<QPoint>& PlaceFinder::cellOf(QPoint place) {
+    return taken_[std::size_t(place.y() / CellSize) * std::size_t(columns_) +
+                  std::size_t(place.x() / CellSize)];
+}
+
+/// A spacing is never larger than a cell, so that the neighbouring cells hold all that can be too near.
+bool PlaceFinder::isCrowded(QPoint place, int spacing) const {
     const auto tooNear = [&](QPoint other) {
         const QPoint gap = other - place;
         return gap.x() * gap.x() + gap.y() * gap.y() < spacing * spacing;
     };
+    const int rows = int(taken_.size()) / columns_;
+    const int column = place.x() / CellSize;
+    const int row = place.y() / CellSize;
+    for (int y = std::max(0, row - 1); y <= std::min(rows - 1, row + 1); ++y) {
+        for (int x = std::max(0, column - 1); x <= std::min(columns_ - 1, column + 1); ++x) {
+            const std::vector<QPoint>& cell = taken_[std::size_t(y) * std::size_t(columns_) + std::size_t(x)];
+            if (std::any_of(cell.begin(), cell.end(), tooNear)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool PlaceFinder::isFree(QPoint place, int spacing) const {
+    const auto covers = [&](const QRect& area) { return area.contains(place); };
     return inner_.contains(place) && std::none_of(blocked_.begin(), blocked_.end(), covers) &&
-           std::none_of(taken_.begin(), taken_.end(), tooNear) && land_(place);
+           !isCrowded(place, spacing) && land_(place);
 }
 
 /// Draws points from the square around the centre and keeps those inside the circle: whole numbers only, so
@@ -175,6 +198,9 @@ std::optional<QPoint> PlaceFinder::searchAll(QPoint centre, int spacing) const {
 }
 
 std::optional<QPoint> PlaceFinder::placeNear(QPoint centre, int reach, int spacing) {
+    if (spacing >= fullFrom_) {
+        return std::nullopt;
+    }
     const int farthest = std::max(inner_.width(), inner_.height());
     std::optional<QPoint> found;
     for (int radius = reach; !found && radius < 2 * farthest; radius += radius / 2 + 1) {
@@ -184,7 +210,9 @@ std::optional<QPoint> PlaceFinder::placeNear(QPoint centre, int reach, int spaci
         found = searchAll(centre, spacing);
     }
     if (found) {
-        taken_.push_back(*found);
+        cellOf(*found).push_back(*found);
+    } else {
+        fullFrom_ = spacing;
     }
     return found;
 }

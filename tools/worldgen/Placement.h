@@ -27,6 +27,8 @@ class PlaceFinder {
 
   private:
     bool isFree(QPoint place, int spacing) const;
+    bool isCrowded(QPoint place, int spacing) const;
+    std::vector<QPoint>& cellOf(QPoint place);
     quint32 random();
     std::optional<QPoint> tryRing(QPoint centre, int reach, int spacing);
     std::optional<QPoint> searchAll(QPoint centre, int spacing) const;
@@ -35,7 +37,9 @@ class PlaceFinder {
     std::function<bool(QPoint)> land_;
     quint64 state_;
     std::vector<QRect> blocked_;
-    std::vector<QPoint> taken_;
+    int columns_;
+    std::vector<std::vector<QPoint>> taken_; ///< by cell, row after row
+    int fullFrom_;                           ///< no place is left for this spacing or a larger one
 };
 
 /// Coordinates (pixels of the region picture) for the tables of a WorldSource, entry by entry.

@@ -14,13 +14,16 @@ QString field(int number) {
 /// Collects the lines of one file.
 class Lines {
   public:
+    /// `remark` opens the file, but for itself makes no file.
+    explicit Lines(const QString& remark = {}) : remark_(remark) {}
+
     void add(const QStringList& fields) { lines_.append(fields.join(u'\t')); }
     void addLine(const QString& line) { lines_.append(line); }
     bool isEmpty() const { return lines_.isEmpty(); }
 
     QByteArray bytes(const QString& fileName, QStringList& problems) const {
         QByteArray all;
-        for (const QString& line : lines_) {
+        for (const QString& line : remark_.isEmpty() ? lines_ : QStringList(remark_) + lines_) {
             QStringEncoder codePage("windows-1252");
             all += QByteArray(codePage.encode(line)) + "\r\n";
             if (!codePage.isValid() || codePage.hasError()) {
@@ -31,6 +34,7 @@ class Lines {
     }
 
   private:
+    QString remark_;
     QStringList lines_;
 };
 
@@ -76,7 +80,7 @@ Lines CampaignWriter::regions() const {
 }
 
 Lines CampaignWriter::zones() const {
-    Lines lines;
+    Lines lines(u"; number, region, kind, marker, x, y, name"_qs);
     for (std::size_t i = 0; i < source_.zones.size(); ++i) {
         const SourceZone& zone = source_.zones[i];
         const QPoint place = places_.zones[i];
@@ -109,7 +113,8 @@ Lines CampaignWriter::professions() const {
 }
 
 Lines CampaignWriter::skills() const {
-    Lines lines;
+    Lines lines(
+        u"; number, profession, name, attribute, type, upkeep, adrenaline, energy, cast time, recharge, description"_qs);
     for (const SourceSkill& skill : source_.skills) {
         if (isMine(skill)) {
             lines.add({field(skill.id), field(skill.profession), skill.name, skill.attribute, skill.type,
@@ -152,7 +157,8 @@ Lines CampaignWriter::bosses() const {
 }
 
 Lines CampaignWriter::collectors() const {
-    Lines lines;
+    Lines lines(
+        u"; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty line"_qs);
     for (const SourceCollector& collector : source_.collectors) {
         if (!isMine(collector)) {
             continue;
@@ -183,7 +189,7 @@ Lines CampaignWriter::collectorPlaces() const {
 }
 
 Lines CampaignWriter::greens() const {
-    Lines lines;
+    Lines lines(u"; name, boss, what it does"_qs);
     for (const SourceGreen& green : source_.greens) {
         if (isMine(green)) {
             lines.add(QStringList{green.name, green.boss} + green.stats);
@@ -193,7 +199,7 @@ Lines CampaignWriter::greens() const {
 }
 
 Lines CampaignWriter::chests() const {
-    Lines lines;
+    Lines lines(u"; name, x, y, region, zone"_qs);
     for (std::size_t i = 0; campaign_.number == 3 && i < source_.chests.size(); ++i) {
         const SourceChest& chest = source_.chests[i];
         const QPoint place = places_.chests[i];
@@ -204,7 +210,7 @@ Lines CampaignWriter::chests() const {
 }
 
 Lines CampaignWriter::pets() const {
-    Lines lines;
+    Lines lines(u"; number, name, remark"_qs);
     for (const SourcePet& pet : source_.pets) {
         if (campaign_.number == 0) {
             lines.add({pet.idText, pet.name, pet.remark});
@@ -214,7 +220,7 @@ Lines CampaignWriter::pets() const {
 }
 
 Lines CampaignWriter::petPlaces() const {
-    Lines lines;
+    Lines lines(u"; pet, region, zone, x, y, remark"_qs);
     for (std::size_t i = 0; i < source_.petPlaces.size(); ++i) {
         const SourcePetPlace& petPlace = source_.petPlaces[i];
         const QPoint place = places_.petPlaces[i];
