@@ -17,8 +17,8 @@ Sprite paintedTent(Rng& rng);
 Sprite paintedBanner(Rng& rng);
 Sprite paintedStandingStone(double scale, Rng& rng);
 Sprite paintedRuin(Rng& rng);
-/// A dark mouth in a mound of rock, open to the south.
-Sprite paintedCave(Colour rock, Rng& rng);
+/// A crag with a dark mouth, open to the south.
+Sprite paintedCave(const Palette& palette, Rng& rng);
 Sprite paintedWindmill(Rng& rng);
 Sprite paintedObelisk(Rng& rng);
 Sprite paintedShrine(BuildingStyle style, Rng& rng);

@@ -166,7 +166,7 @@ QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoin
     return box;
 }
 
-void paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
+QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
     QPoint best;
     double widest = 0;
     for (int y = 90; y < picture.height() - 90; y += 8)
@@ -179,11 +179,14 @@ void paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
             }
         }
     if (widest < 62)
-        return;
+        return {};
+    const double radius = std::min(widest * 0.66, 84.0);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(best);
-    paintRose(painter, std::min(widest * 0.74, 84.0));
+    paintRose(painter, radius);
+    const int reach = int(radius * 1.4);
+    return {best - QPoint(reach, reach), QSize(2 * reach, 2 * reach)};
 }
 
 } // namespace worldgen

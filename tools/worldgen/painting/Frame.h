@@ -12,8 +12,8 @@ void paintFrame(QImage& picture);
 /// In a chancery face, where it covers the fewest sites and the least land. Returns the ground it covers.
 QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoint>& sites,
                  const QString& title);
-/// A compass in the widest open water, clear of \a taken; none where there is no room.
-void paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
+/// A compass in the widest open water, clear of \a taken; none where there is no room. Returns its box.
+QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
 
 /// Darkens the whole until its mean relative luminance is at most \a mean.
 void limitLuminance(QImage& picture, double mean);

@@ -67,7 +67,7 @@ double lightOn(const Landscape& land, int x, int y) {
     return 0.50 + 0.86 * lambert + std::clamp(open * 1.6, -0.22, 0.20);
 }
 
-/// What only one theme has: drifts of snow on frozen land, glowing cracks in ash, ripples of sand.
+/// What only one theme has: drifts of snow on frozen land, ripples of sand.
 Colour themed(const Landscape& land, const GroundLayers& layers, QPoint at, Colour colour) {
     const Noises& n = land.noises;
     const double height = land.height.at(at.x(), at.y());
@@ -76,15 +76,6 @@ Colour themed(const Landscape& land, const GroundLayers& layers, QPoint at, Colo
                              0.5 * layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0);
         return mixed(colour, land.palette.snow.times(0.78),
                      smoothStep(0.10, 0.38, drift + 0.5 * height) * 0.55);
-    }
-    if (land.theme == Theme::Ash) {
-        const double where =
-            smoothStep(0.16, 0.34, height + 0.5 * layers.shade.sampled(at.x() / 4.0, at.y() / 4.0));
-        if (where <= 0)
-            return colour;
-        const double crack = 1 - std::fabs(n.c.fbm(at.x() / 46.0, at.y() / 46.0, 3));
-        colour = mixed(colour, colour.times(0.55), smoothStep(0.88, 0.97, crack) * where);
-        return mixed(colour, Colour{232, 104, 34}, smoothStep(0.955, 0.985, crack) * where * 0.8);
     }
     if (land.theme == Theme::Desert) {
         const double dunes = smoothStep(0.02, 0.25, layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0)) *

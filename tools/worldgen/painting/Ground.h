@@ -17,4 +17,11 @@ QImage brushed(const QImage& picture, int radius, double strength);
 void paintCoast(QImage& picture, const Landscape& land);
 void paintRivers(QImage& picture, const Landscape& land);
 
+/// Cliffs where steep land meets the sea, and glowing cracks in the heights of ash country.
+void paintCliffs(QImage& picture, const Landscape& land);
+void paintCracks(QImage& picture, const Landscape& land);
+
+/// A ship or two and a sea serpent, where the sea is wide; nothing inside \a taken.
+void paintSeafarers(QImage& picture, const Landscape& land, const std::vector<QRect>& taken);
+
 } // namespace worldgen

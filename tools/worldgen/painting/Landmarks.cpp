@@ -95,36 +95,28 @@ Sprite paintedRuin(Rng& rng) {
     return canvas.finished();
 }
 
-Sprite paintedCave(Colour rock, Rng& rng) {
-    SpriteCanvas canvas(64, 46, {32, 34});
+Sprite paintedCave(const Palette& palette, Rng& rng) {
+    Sprite cave = paintedPeak(palette, {PeakStyle::Alpine, 1.15, 0, {}}, rng);
+    SpriteCanvas canvas(30, 30, {15, 25});
     QPainter& p = canvas.painter();
-    shadowUnder(p, 25, 7);
-    const Colour stone = mixed(rock, kStone, 0.35);
-    for (int layer = 0; layer < 3; ++layer) {
-        QPolygonF mound{QPointF(-25 + 3 * layer, 4)};
-        for (int k = 1; k < 12; ++k) {
-            const double angle = kPi + k * kPi / 12;
-            mound << QPointF(cosineOf(angle) * (24 - 4 * layer) - layer * 1.5 + rng.range(-1, 1),
-                             sineOf(angle) * (26 - 4 * layer) + rng.range(-1.5, 1.5) - layer);
-        }
-        mound << QPointF(24 - 6 * layer, 4);
-        p.setPen(layer == 0 ? QPen(QColor(20, 16, 14, 170), 0.9) : QPen(Qt::NoPen));
-        p.setBrush(inked(stone.times(0.55 + 0.25 * layer), layer == 2 ? 170 : 255));
-        p.drawPolygon(mound);
-    }
-    p.setPen(Qt::NoPen);
-    p.setBrush(inked(stone.times(0.42), 190));
-    p.drawPolygon(QPolygonF{{9, 4}, {12, -18}, {18, -12}, {24, 4}});
-    QPainterPath mouth(QPointF(-9, 6));
-    mouth.cubicTo(-10, -9, -4, -14, 0, -14);
-    mouth.cubicTo(5, -14, 10, -9, 9, 6);
-    p.setPen(QPen(inked(stone.times(1.35)), 2.2));
-    p.setBrush(QColor(12, 8, 8));
+    QPainterPath mouth(QPointF(-9.5, 3));
+    mouth.cubicTo(-11, -9, -5, -17, 0.5, -17);
+    mouth.cubicTo(7, -16, 10.5, -8, 9, 3);
+    const Colour rock = palette.rock;
+    p.setPen(QPen(inked(rock.times(0.5)), 4.6, Qt::SolidLine, Qt::RoundCap));
+    p.drawPath(mouth);
+    p.setPen(QPen(inked(rock.times(1.55)), 1.8, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(QColor(10, 7, 8));
     p.drawPath(mouth);
     p.setPen(Qt::NoPen);
-    p.setBrush(QColor(196, 110, 44, 70));
-    p.drawEllipse(QPointF(0, 3), 5, 5);
-    return canvas.finished();
+    p.setBrush(QColor(214, 120, 44, 60));
+    p.drawEllipse(QPointF(0, 1), 6.5, 6);
+    p.setBrush(QColor(232, 150, 60, 90));
+    p.drawEllipse(QPointF(0, 2), 3.5, 3.4);
+    const Sprite door = canvas.finished();
+    QPainter onto(&cave.image);
+    onto.drawImage((cave.anchor + QPointF(0, 7) - door.anchor).toPoint(), door.image);
+    return cave;
 }
 
 Sprite paintedWindmill(Rng& rng) {

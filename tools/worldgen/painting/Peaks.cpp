@@ -163,7 +163,7 @@ double PeakRaster::lightAt(int column, int step) const {
 
 Colour PeakRaster::rockAt(double x, double height, double light) const {
     if (shape_.style == PeakStyle::Hill)
-        return shape_.ground.times(0.30 + 0.9 * light);
+        return shape_.ground.times(0.44 + 0.66 * light);
     Colour rock =
         mixed(palette_.rock, palette_.high, 0.35 * smoothStep(-0.2, 0.3, grain_.at(x * 4, height * 6)));
     if (shape_.style == PeakStyle::Mesa)

@@ -78,9 +78,9 @@ void lightRim(QPainter& painter, const QPainterPath& body, Colour light) {
     painter.save();
     painter.setClipPath(body);
     painter.setBrush(Qt::NoBrush);
-    for (const double width : {5.0, 3.0, 1.6}) {
-        painter.setPen(QPen(inked(light, 70), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(body.subtracted(body.translated(0.6, 1.6)));
+    for (const double width : {1.8, 0.7}) {
+        painter.setPen(QPen(inked(light, 60), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(body.subtracted(body.translated(0, 1.0)));
     }
     painter.restore();
 }

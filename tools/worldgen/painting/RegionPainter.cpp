@@ -61,7 +61,9 @@ PaintedRegion paintRegion(const RegionRecipe& recipe) {
     const RoadNet net = builtRoads(land, result.sites);
 
     QImage picture = paintedGround(land);
+    paintCracks(picture, land);
     paintCoast(picture, land);
+    paintCliffs(picture, land);
     paintRivers(picture, land);
     Scene scene;
     Rng rng(recipe.seed * 5ULL);
@@ -80,7 +82,8 @@ PaintedRegion paintRegion(const RegionRecipe& recipe) {
         quietenGround(picture, nameBox(result.sites[k], recipe.sites[k], recipe.campaign));
     paintFrame(picture);
     const QRect title = paintTitle(picture, land, result.sites, recipe.title);
-    paintCompass(picture, land, title);
+    const QRect rose = paintCompass(picture, land, title);
+    paintSeafarers(picture, land, {title, rose});
     result.picture = std::move(picture);
     return result;
 }

@@ -37,6 +37,7 @@ class PathFinder {
     std::vector<float> height_;
     std::vector<float> cost_;
     std::vector<int> from_;
+    std::vector<char> trodden_; // cells with a road
 };
 
 PathFinder::PathFinder(const Landscape& land)
@@ -81,6 +82,9 @@ QPolygonF PathFinder::traced(int end) {
     QPolygonF way;
     for (int cell = end; cell >= 0; cell = from_[std::size_t(cell)]) {
         way.append(QPointF((cell % columns_ + 0.5) * kPace, (cell / columns_ + 0.5) * kPace));
+        if (trodden_[std::size_t(cell)] && way.size() > 1)
+            break; // from here on an older road leads to the goal
+        trodden_[std::size_t(cell)] = 1;
         toll_[std::size_t(cell)] = std::min(toll_[std::size_t(cell)], 0.5F);
     }
     for (int pass = 0; pass < 4; ++pass) {
@@ -92,6 +96,7 @@ QPolygonF PathFinder::traced(int end) {
 }
 
 QPolygonF PathFinder::way(QPoint from, QPoint to) {
+    trodden_.resize(toll_.size(), 0);
     cost_.assign(toll_.size(), 1e9F);
     from_.assign(toll_.size(), -1);
     const int start = cellOf(from);

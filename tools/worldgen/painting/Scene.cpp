@@ -130,7 +130,7 @@ void Nature::growAt(QPointF at) {
 PeakShape Nature::shapeAt(double height, double scale) {
     PeakShape shape{PeakStyle::Alpine, scale, 0, {}};
     const double line = land_.palette.snowline;
-    const double snow = line > 1.2 ? 0 : clamp01(0.25 + 1.6 * (height - (line - 0.42)));
+    const double snow = line > 1.2 ? 0 : std::clamp(0.25 + 1.6 * (height - (line - 0.42)), 0.0, 0.82);
     shape.snow = snow > 0.25 ? snow : 0;
     if (land_.theme == Theme::Desert && rng_.chance(height < 0.44 ? 0.6 : 0.12))
         shape.style = PeakStyle::Mesa;
@@ -167,7 +167,7 @@ void Nature::raisePeaks() {
 }
 
 void Nature::raiseHills(const QImage& ground) {
-    const int attempts = land_.size.width() * land_.size.height() / 900;
+    const int attempts = land_.size.width() * land_.size.height() / 1500;
     for (int k = 0; k < attempts; ++k) {
         const double wantedX = rng_.range(44, land_.size.width() - 44);
         const QPointF at(wantedX, rng_.range(56, land_.size.height() - 40));
@@ -179,10 +179,10 @@ void Nature::raiseHills(const QImage& ground) {
             !free(at + QPointF(16, 0)) || !free(at - QPointF(16, 0)))
             continue;
         const double scale = rng_.range(0.7, 1.15);
-        if (crowded(at, 40 * scale) || rng_.chance(0.3))
+        if (crowded(at, 62 * scale) || rng_.chance(0.4))
             continue;
-        raised_.emplace_back(at, 40 * scale);
-        const PeakShape shape{PeakStyle::Hill, scale, 0, colourOf(ground.pixel(x, y)).times(1.12)};
+        raised_.emplace_back(at, 62 * scale);
+        const PeakShape shape{PeakStyle::Hill, scale, 0, colourOf(ground.pixel(x, y)).times(1.04)};
         scene_.standNew(paintedPeak(land_.palette, shape, rng_), at);
     }
 }

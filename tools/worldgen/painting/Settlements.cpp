@@ -60,9 +60,7 @@ class Builder {
     void mission();
     void challenge();
     void area();
-    void dungeon() {
-        scene_.standNew(paintedCave(land_.palette.rock, rng_), QPointF(place_.at) + QPointF(0, 4));
-    }
+    void dungeon() { scene_.standNew(paintedCave(land_.palette, rng_), QPointF(place_.at)); }
 
   private:
     QPointF onRing(double angle, double rx, double ry) const {

@@ -130,9 +130,9 @@ QPoint Finder::place(const SiteWish& wish) {
     for (int attempt = 0; attempt < 1400; ++attempt) {
         const QPoint p = randomPoint();
         const double here = room(p) < kNarrowest ? -1 : suitability(p, wish) + rng_.range(0, 0.12);
-        // Without any suitable place, dry ground with the most room still takes the site.
-        const double fallback =
-            -1.5 + (land_.water(p.x(), p.y()) ? 0 : 0.2) + std::min(room(p), 60.0) * 0.005;
+        // Without any suitable place, solid ground with the most room still takes the site.
+        const bool solid = land_.toWater.clamped(p.x(), p.y()) > 4 && !land_.highGround(p.x(), p.y());
+        const double fallback = -1.9 + (solid ? 0.4 : 0) + std::min(room(p), 60.0) * 0.005;
         const double score = std::round((here < 0 ? fallback : here) * 4096);
         if (score > bestScore || attempt == 0) {
             bestScore = score;

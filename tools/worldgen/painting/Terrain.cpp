@@ -109,10 +109,11 @@ double LandMaker::landShare(double u, double v) const {
                smoothStep(0, 0.17, across + 0.55 * std::max(0.0, first - 0.25));
     }
     case Shore::Island: {
-        double share = 1;
-        for (int side = 0; side < 4; ++side)
-            share *= smoothStep(0.02, 0.22, edge(u, v, side));
-        return share;
+        const double du = 2 * u / width_ - 1;
+        const double dv = 2 * v / depth_ - 1;
+        return smoothStep(1.04, 0.66,
+                          std::sqrt(std::sqrt(du * du * du * du + dv * dv * dv * dv)) +
+                              0.20 * n_.c.fbm(u * 2.2 + 40, v * 2.2, 3));
     }
     case Shore::Inland:
         break;

@@ -1,0 +1,115 @@
+#include "RegionPainter.h"
+
+#include <QCryptographicHash>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+#include <thread>
+
+using namespace worldgen;
+
+namespace {
+
+RegionRecipe smallRecipe(quint32 seed, Theme theme) {
+    using enum SiteRole;
+    RegionRecipe recipe{seed, QSize(460, 360), theme, int(seed % 5), QStringLiteral("Trial"), {}};
+    recipe.sites = {{QStringLiteral("First"), Town, SiteNear::Coast},
+                    {QStringLiteral("Second"), Outpost, SiteNear::Ridge},
+                    {QStringLiteral("Third"), DungeonEntrance, SiteNear::Forest}};
+    return recipe;
+}
+
+QByteArray fingerprint(const QImage& picture) {
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    for (int y = 0; y < picture.height(); ++y)
+        hash.addData(QByteArrayView(reinterpret_cast<const char*>(picture.constScanLine(y)),
+                                    qsizetype(picture.width()) * 4));
+    return hash.result();
+}
+
+double luminance(QRgb colour) {
+    const auto linear = [](int value) {
+        const double s = value / 255.0;
+        return s <= 0.03928 ? s / 12.92 : std::pow((s + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+}
+
+double meanLuminance(const QImage& picture, QRect part) {
+    part &= picture.rect();
+    double sum = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            sum += luminance(picture.pixel(x, y));
+    return sum / (double(part.width()) * part.height());
+}
+
+double distance(QPoint a, QPoint b) {
+    return std::hypot(a.x() - b.x(), a.y() - b.y());
+}
+
+} // namespace
+
+TEST(Painter, GivesTheSameBytesAgainAlsoBesideAnotherThread) {
+    const RegionRecipe recipe = smallRecipe(11, Theme::Temperate);
+    const PaintedRegion first = paintRegion(recipe);
+    PaintedRegion other;
+    std::thread beside([&] { other = paintRegion(smallRecipe(12, Theme::Temperate)); });
+    const PaintedRegion second = paintRegion(recipe);
+    beside.join();
+    EXPECT_EQ(fingerprint(first.picture), fingerprint(second.picture));
+    EXPECT_EQ(first.sites, second.sites);
+    EXPECT_NE(fingerprint(first.picture), fingerprint(other.picture));
+}
+
+TEST(Painter, KeepsPicturesDarkAndSitesApartInEveryTheme) {
+    constexpr double creamLuminance = 0.84;
+    for (const Theme theme : {Theme::Desert, Theme::Frost, Theme::Ash}) {
+        const RegionRecipe recipe = smallRecipe(30 + quint32(theme), theme);
+        const PaintedRegion region = paintRegion(recipe);
+        ASSERT_EQ(region.picture.size(), recipe.size);
+        EXPECT_LE(meanLuminance(region.picture, region.picture.rect()), 0.14);
+        ASSERT_EQ(region.sites.size(), recipe.sites.size());
+        for (std::size_t k = 0; k < region.sites.size(); ++k) {
+            const QPoint site = region.sites[k];
+            EXPECT_TRUE(region.land(site)) << k;
+            EXPECT_TRUE(region.picture.rect().adjusted(80, 80, -80, -80).contains(site)) << k;
+            for (std::size_t other = 0; other < k; ++other)
+                EXPECT_GE(distance(site, region.sites[other]), 60) << k << ' ' << other;
+            const QRect name(site + QPoint(-20, 19), QSize(40, 10));
+            EXPECT_GE((creamLuminance + 0.05) / (meanLuminance(region.picture, name) + 0.05), 4.5) << k;
+        }
+    }
+}
+
+TEST(Painter, PlacesEvenMoreSitesThanThereIsRoomFor) {
+    RegionRecipe recipe{5, QSize(260, 240), Theme::Temperate, 1, {}, {}};
+    recipe.sites.resize(14);
+    const PaintedRegion region = paintRegion(recipe);
+    ASSERT_EQ(region.sites.size(), 14U);
+    for (const QPoint& site : region.sites)
+        EXPECT_TRUE(region.picture.rect().contains(site));
+}
+
+TEST(Painter, TellsSkillsAndAnimalsApart) {
+    const auto icon = [](quint32 seed, QRgb colour, const char* kind) {
+        return paintSkillIcon(seed, colour, QString::fromLatin1(kind));
+    };
+    const QRgb red = qRgb(200, 80, 40);
+    std::set<QByteArray> seen;
+    for (const char* kind : {"Hex", "Stance", "Sword attack", "Signet", "never heard of"}) {
+        EXPECT_EQ(icon(4, red, kind).size(), QSize(64, 64));
+        EXPECT_EQ(fingerprint(icon(4, red, kind)), fingerprint(icon(4, red, kind)));
+        seen.insert(fingerprint(icon(4, red, kind)));
+    }
+    seen.insert(fingerprint(icon(5, red, "Hex")));
+    seen.insert(fingerprint(icon(4, qRgb(40, 80, 200), "Hex")));
+    EXPECT_EQ(seen.size(), 7U);
+
+    const QByteArray bear = fingerprint(paintPet(3, QStringLiteral("Moss Bear")));
+    EXPECT_EQ(paintPet(3, {}).size(), QSize(160, 120));
+    EXPECT_EQ(bear, fingerprint(paintPet(3, QStringLiteral("bear"))));
+    EXPECT_NE(bear, fingerprint(paintPet(3, QStringLiteral("wolf"))));
+}
