@@ -1,0 +1,134 @@
+#include "WorldBuilder.h"
+#include "WorldFiles.h"
+
+#include "app/ProgramState.h"
+#include "app/modData.h"
+#include "app/modLanguage.h"
+#include "support/MemoryDisk.h"
+
+#include <QDirIterator>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace worldgen;
+
+struct Loud : orvinel::Complaints {
+    void add(const orvinel::Complaint& complaint) override {
+        ADD_FAILURE() << complaint.file.toStdString() << ':' << complaint.line << ' '
+                      << complaint.field.toStdString() << ": " << complaint.reason.toStdString();
+    }
+};
+
+/// The shipped tables, written at made-up places (painting takes minutes) and read by the program's own
+/// loaders.
+struct ShippedWorld : testing::Test {
+    static QString folder() { return QString::fromUtf8(WORLDGEN_WORLD); }
+
+    WorldSource source;
+    QStringList problems;
+    orvinel::MemoryDisk disk;
+    orvinel::PlayerFiles files{disk};
+    orvinel::ProgramState state;
+    Loud complaints;
+
+    ShippedWorld() : source(readWorldSource(folder(), noAttributeCaption(folder()), problems)) {
+        WorldPlaces places(source);
+        for (const SourceRegion& region : source.regions) {
+            std::vector<QPoint> sites;
+            for (std::size_t i = 0; i < recipeFor(source, region).sites.size(); ++i) {
+                sites.emplace_back(200 + 320 * int(i % 4), 200 + 300 * int(i / 4));
+            }
+            placeRegion(source, region, {sites, [](QPoint) { return true; }}, places);
+        }
+        for (const SourceCampaign& campaign : source.campaigns) {
+            for (const auto& [name, bytes] : campaignFiles(source, places, campaign, problems)) {
+                disk.put(u"/o/"_qs + campaignFolder(campaign) + u'/' + name, bytes);
+            }
+        }
+        putData();
+        state.AppPath = u"/o/"_qs;
+        orvinel::LoadLanguage(state, disk);
+        orvinel::loadTables(state, files, &complaints);
+    }
+
+    void putData() {
+        QDirIterator data(folder() + u"/Data"_qs, {u"*.txt"_qs}, QDir::Files);
+        while (data.hasNext()) {
+            QFile file(data.next());
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            const QByteArray content = file.readAll();
+            EXPECT_EQ(content.count('\n'), content.count("\r\n")) << file.fileName().toStdString();
+            const bool players = data.fileName() == u"Characters.txt";
+            disk.put((players ? u"/o/Personal/"_qs : u"/o/Data/"_qs) + data.fileName(), content);
+        }
+    }
+
+    bool zoneExists(const orvinel::MapLocation& place) const {
+        return std::any_of(source.zones.begin(), source.zones.end(), [&](const SourceZone& zone) {
+            return zone.id == place.Zone && zone.region == place.Region && zone.campaign == place.Campaign;
+        });
+    }
+};
+
+TEST_F(ShippedWorld, isReadWithoutAComplaint) {
+    EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
+    EXPECT_EQ(4, state.Campaigns.highest());
+    EXPECT_EQ(u"Sunhollow"_qs, state.Campaigns[3].CampaignName);
+    EXPECT_EQ(8, state.Campaigns[1].Regions.highest());
+    EXPECT_EQ(4, state.Campaigns[2].Regions.highest());
+    EXPECT_EQ(10, state.Professions.highest());
+    EXPECT_LE(25, state.Treasures.count());
+    EXPECT_EQ(3, state.Characters.highest());
+}
+
+TEST_F(ShippedWorld, letsEveryCollectorAndPetBeFound) {
+    int collectors = 0;
+    for (int id = 1; id <= state.Collectors.highest(); ++id) {
+        const orvinel::Collector& collector = state.Collectors[id];
+        collectors += collector.Exists ? 1 : 0;
+        EXPECT_TRUE(!collector.Exists || zoneExists(collector.Location)) << collector.Name.toStdString();
+        EXPECT_TRUE(!collector.Exists || !collector.Objects.empty()) << collector.Name.toStdString();
+    }
+    EXPECT_LE(60, collectors);
+    EXPECT_LE(20, state.Pets.highest());
+    for (int id = 1; id <= state.Pets.highest(); ++id) {
+        EXPECT_LT(1, state.Pets[id].Locations.count()) << state.Pets[id].Name.toStdString();
+    }
+}
+
+TEST_F(ShippedWorld, givesEveryCollectorFilterHitsAndMisses) {
+    const auto expectSome = [&](const auto& listed, const std::string& what) {
+        const auto some = std::count_if(source.collectors.begin(), source.collectors.end(), listed);
+        EXPECT_LT(0, some) << what;
+        EXPECT_GT(std::ssize(source.collectors), some) << what;
+    };
+    const auto expectReward = [&](const auto& matches, const std::string& what) {
+        expectSome(
+            [&](const SourceCollector& collector) {
+                return std::any_of(collector.rewards.begin(), collector.rewards.end(), matches);
+            },
+            what);
+    };
+    expectSome([](const SourceCollector& collector) { return collector.armour; }, "armour");
+    expectSome([](const SourceCollector& collector) { return collector.level == 1; }, "level");
+    for (const int hand : {1, 2, 4, 8}) {
+        expectReward([&](const SourceReward& reward) { return (reward.hands & hand) != 0; },
+                     "hand " + std::to_string(hand));
+    }
+    QStringList words{state.text(45)};
+    for (const SourceProfession& profession : source.professions) {
+        words += profession.attributes;
+    }
+    for (const QString& word : words) {
+        expectReward(
+            [&](const SourceReward& reward) {
+                return !reward.stats.filter(word, Qt::CaseInsensitive).isEmpty();
+            },
+            word.toStdString());
+    }
+}
+
+} // namespace
