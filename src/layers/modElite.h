@@ -61,14 +61,14 @@ QString eliteListText(const ProgramState& state, int id);
 
 // What the panel asks of the skills; a default asks nothing.
 struct EliteChoice {
-    Place place;
+    Place place{};
     int profession = 0; // 0: all
     int secondary = 0;  // 0: none; widens the choice of a profession, alone it does nothing
     int character = 0;  // 0: all; matters with uncapturedOnly
     bool uncapturedOnly = false;
-    std::optional<QString> attribute;
-    QString bossText; // both as they stand in the fields
-    QString nameText;
+    std::optional<QString> attribute{};
+    QString bossText{}; // both as they stand in the fields
+    QString nameText{};
 };
 
 // Entries of lstElite, in its alphabetical order; the item data is the skill's ID.

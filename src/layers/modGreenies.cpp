@@ -1,11 +1,139 @@
 #include "layers/modGreenies.h"
 
 #include "app/ProgramState.h"
+#include "app/TextFile.h"
+#include "app/modUtility.h"
+
+#include <algorithm>
 
 namespace orvinel {
 
-void LoadGreens(ProgramState& state, const Disk&, Complaints*) {
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int barHeight = 3;
+
+void readGreens(ProgramState& state, TextFile& file) {
+    while (file.nextLine()) {
+        const QStringView line = file.line().trimmed();
+        if (line.isEmpty() || line.startsWith(u';') || !file.split(2))
+            continue;
+        std::vector<QString> stats;
+        for (size_t i = 2; i < file.fieldCount(); ++i)
+            stats.push_back(file.text(i).trimmed());
+        GreenItem item;
+        item.setTexts(file.text(0).trimmed(), file.text(1).trimmed(), std::move(stats));
+        const std::string boss = folded(item.Boss);
+        state.GreensOfBosses[boss].push_back(state.GreenItems.append(std::move(item)));
+    }
+}
+
+// The panel's choice, prepared once for all items.
+struct Search {
+    const GreenChoice& choice;
+    int zone;
+    std::string name;
+    std::string additional;
+
+    Search(const ProgramState& state, const GreenChoice& c)
+        : choice(c), zone(zoneIdentifier(state, c.place)), name(folded(c.nameText.trimmed())),
+          additional(folded(c.additionalText)) {}
+
+    bool lists(const GreenItem& item, const MapLocation& at) const {
+        return passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone) &&
+               item.FoldedName.find(name) != std::string::npos &&
+               (additional.empty() || item.FoldedStats.find(additional) != std::string::npos) &&
+               (choice.attributeWords.empty() || hasAttribute(item));
+    }
+    // An empty word would be found even where there is no line at all.
+    bool hasAttribute(const GreenItem& item) const {
+        return !item.FoldedStats.empty() && ContainsAnyWord(item.FoldedStats, choice.attributeWords);
+    }
+};
+
+} // namespace
+
+void GreenItem::setTexts(const QString& name, const QString& boss, std::vector<QString> stats) {
+    Name = name;
+    Boss = boss;
+    Stats = name.isEmpty() ? std::vector<QString>() : std::move(stats);
+    FoldedName = folded(Name);
+    FoldedStats.clear();
+    for (const QString& line : Stats)
+        if (!line.trimmed().isEmpty())
+            FoldedStats += folded(line) + '\n';
+}
+
+void LoadGreens(ProgramState& state, const Disk& disk, Complaints* complaints) {
     state.GreenItems.clear();
+    state.GreensOfBosses.clear();
+    for (int n = 0; n <= state.Campaigns.highest(); ++n) {
+        TextFile file(disk, campaignFolder(state, n) + u"/Greens.txt"_s, complaints);
+        readGreens(state, file);
+    }
+    std::vector<QString> names;
+    for (const GreenItem& item : state.GreenItems)
+        names.push_back(item.Name);
+    state.GreenOrder = alphabeticalOrder(names);
+    for (int& green : state.GreenOrder)
+        ++green;
+}
+
+std::vector<int> LinkGreensToBoss(ProgramState& state, int elite, int location, const QString& boss) {
+    const auto found = state.GreensOfBosses.find(folded(boss.trimmed()));
+    if (found == state.GreensOfBosses.end())
+        return {};
+    for (const int green : found->second) {
+        state.GreenItems[green].EliteID = elite;
+        state.GreenItems[green].LocationIndex = location;
+    }
+    return found->second;
+}
+
+const MapLocation* greenLocation(const ProgramState& state, int green) {
+    if (!state.GreenItems.has(green))
+        return nullptr;
+    const GreenItem& item = state.GreenItems[green];
+    if (item.EliteID < 0 || !state.EliteSkills.has(item.EliteID))
+        return nullptr;
+    const List1<MapLocation>& locations = state.EliteSkills[item.EliteID].Locations;
+    return locations.has(item.LocationIndex) ? &locations[item.LocationIndex] : nullptr;
+}
+
+std::vector<ListEntry> greenEntries(const ProgramState& state, const GreenChoice& choice) {
+    const Search search(state, choice);
+    std::vector<ListEntry> entries;
+    for (const int green : state.GreenOrder) {
+        const MapLocation* at = greenLocation(state, green);
+        if (at && search.lists(state.GreenItems[green], *at))
+            entries.push_back({state.GreenItems[green].Name, green});
+    }
+    return entries;
+}
+
+std::vector<Marker> greenMarkers(const ProgramState& state, ListedItems greens, ListedItems elite,
+                                 const MapShown& shown, bool eliteShown) {
+    std::vector<bool> boxed(static_cast<size_t>(state.EliteSkills.highest()) + 1);
+    if (eliteShown) {
+        boxed[0] = true;
+        for (const int id : elite)
+            if (state.EliteSkills.has(id))
+                boxed[static_cast<size_t>(id)] = true;
+    }
+    std::vector<Marker> markers;
+    for (const int green : greens) {
+        const MapLocation* at = greenLocation(state, green);
+        if (!at || !shown.shows(at->Campaign, at->Region) || !shown.passesZone(at->Zone) ||
+            at->Greens.empty())
+            continue;
+        if (boxed[static_cast<size_t>(state.GreenItems[green].EliteID)])
+            markers.push_back(
+                Marker::box(at->Left, at->Bottom, at->Right, at->Bottom + barHeight, greenItemGreen));
+        else
+            markers.push_back(Marker::picture(Sprite::GreenMarker, at->Left, at->Top));
+    }
+    return markers;
 }
 
 } // namespace orvinel

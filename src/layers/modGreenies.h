@@ -48,10 +48,10 @@ const MapLocation* greenLocation(const ProgramState& state, int green);
 
 // What the panel asks of the green items; a default asks nothing.
 struct GreenChoice {
-    Place place;
-    QString nameText;                        // as it stands in the field; blanks at its ends do not count
-    QString additionalText;                  // as it stands in the field; blanks count
-    std::vector<std::string> attributeWords; // folded; empty: no restriction
+    Place place{};
+    QString nameText{};                        // as it stands in the field; blanks at its ends do not count
+    QString additionalText{};                  // as it stands in the field; blanks count
+    std::vector<std::string> attributeWords{}; // folded; empty: no restriction
 };
 
 // Entries of lstGreens, in its alphabetical order; the item data is the item's index.

@@ -59,6 +59,18 @@ std::vector<ListEntry> attributeEntries(const ProgramState& state, int professio
     return entries;
 }
 
+std::vector<std::string> attributeWords(const ProgramState& state, int profession,
+                                        const std::optional<QString>& attribute) {
+    if (profession < 1)
+        return {};
+    if (attribute)
+        return {folded(*attribute)};
+    std::vector<std::string> words = {folded(state.text(noAttributeText))};
+    for (const QString& name : professionOf(state, profession).Attributes)
+        words.push_back(folded(name));
+    return words;
+}
+
 const Profession& professionOf(const ProgramState& state, int number) {
     static const Profession none;
     return state.Professions.has(number) ? state.Professions[number] : none;

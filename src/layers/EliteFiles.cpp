@@ -1,0 +1,163 @@
+#include "layers/modElite.h"
+
+#include "app/ProgramState.h"
+#include "app/TextFile.h"
+
+#include <limits>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr size_t fullListLine = 11;
+constexpr size_t locationLineWithNote = 8;
+constexpr int twipsPerPixel = 15;
+constexpr int anyIntLow = std::numeric_limits<int>::min();
+constexpr int anyIntHigh = std::numeric_limits<int>::max();
+
+// The numbers of a list line that is complete.
+struct Costs {
+    int upkeep = 0;
+    int adrenaline = 0;
+    int energy = 0;
+    int recharge = 0;
+};
+
+std::optional<Costs> readCosts(TextFile& file) {
+    const auto upkeep = file.integer(5, "upkeep", -32768, 32767);
+    const auto adrenaline = file.integer(6, "adrenaline", 0, 255);
+    const auto energy = file.integer(7, "energy", 0, 255);
+    const auto recharge = file.integer(9, "recharge", -32768, 32767);
+    if (!upkeep || !adrenaline || !energy || !recharge)
+        return std::nullopt;
+    return Costs{*upkeep, *adrenaline, *energy, *recharge};
+}
+
+void readSkill(ProgramState& state, TextFile& file, int campaign) {
+    const auto id = file.integer(0, "skill", 0, largestIdentifier);
+    const auto profession = file.whole(1, "profession", 0, 255);
+    const bool full = file.fieldCount() == fullListLine;
+    const std::optional<Costs> costs = full ? readCosts(file) : Costs{};
+    if (!id || !profession || !costs)
+        return;
+    EliteSkill& skill = state.EliteSkills.grow(*id);
+    skill.Campaign = campaign;
+    skill.Profession = *profession;
+    skill.setName(file.text(2).trimmed());
+    skill.Picture.clear();
+    if (!full)
+        return;
+    skill.setAttribute(file.text(3));
+    skill.Type = file.text(4);
+    skill.Upkeep = costs->upkeep;
+    skill.Adrenaline = costs->adrenaline;
+    skill.Energy = costs->energy;
+    skill.CastTime = file.text(8);
+    skill.Recharge = costs->recharge;
+    skill.Description = file.text(10);
+    skill.Picture = campaignFolder(state, campaign) + u"/imgElite/"_s + fixedDigits(*id, 4) + u".jpg"_s;
+}
+
+void sortSkills(ProgramState& state) {
+    std::vector<QString> texts;
+    for (int id = 1; id <= state.EliteSkills.highest(); ++id)
+        texts.push_back(eliteListText(state, id));
+    state.EliteOrder = alphabeticalOrder(texts);
+    for (int& id : state.EliteOrder)
+        ++id;
+}
+
+// Coordinates are twips until a comment names another version than 1.0.
+class LocationFile {
+  public:
+    LocationFile(const ProgramState& state, const Disk& disk, int campaign, Complaints* complaints)
+        : file_(disk, campaignFolder(state, campaign) + u"/EliteLocations.txt"_s, complaints),
+          campaign_(campaign) {}
+
+    // Calls store(skill, location) for every line that can be used.
+    template <typename Store>
+    void read(const ProgramState& state, Store store) {
+        while (file_.nextLine()) {
+            if (file_.isComment()) {
+                if (file_.line().sliced(1).startsWith(u"[Version]"))
+                    twips_ = file_.line().last(3) == u"1.0";
+                continue;
+            }
+            if (!file_.split(7))
+                continue;
+            const auto id = file_.integer(0, "skill", 0, state.EliteSkills.highest());
+            const std::optional<MapLocation> location = id ? readLocation() : std::nullopt;
+            if (location)
+                store(*id, *location);
+        }
+    }
+
+  private:
+    std::optional<int> coordinate(size_t position, const char* name) {
+        const int scale = twips_ ? twipsPerPixel : 1;
+        const int limit = largestCoordinate * scale;
+        const auto value = file_.integer(position, name, -limit, limit);
+        return value ? std::optional(*value / scale) : value;
+    }
+
+    std::optional<MapLocation> readLocation() {
+        const auto region = file_.whole(1, "region", 0, 255);
+        const auto x = coordinate(2, "x");
+        const auto y = coordinate(3, "y");
+        const auto zone = file_.integer(6, "zone", anyIntLow, anyIntHigh);
+        if (!region || !x || !y || !zone)
+            return std::nullopt;
+        MapLocation location;
+        location.Campaign = campaign_;
+        location.Region = *region;
+        location.Zone = *zone;
+        location.placeAt(*x, *y, bossReach);
+        location.setBoss(file_.text(4));
+        location.MarkerCode = file_.text(5);
+        if (file_.fieldCount() == locationLineWithNote)
+            location.Note = withLineBreaks(file_.field(7));
+        return location;
+    }
+
+    TextFile file_;
+    int campaign_;
+    bool twips_ = true;
+};
+
+// Bosses that stand there only during an event, and those with code "D", carry no green items; one boss does
+// whatever its line says.
+bool carriesGreens(const MapLocation& at) {
+    return (!at.Note.toLower().startsWith(u"only during") && at.MarkerCode != u"D") ||
+           at.Boss == u"Quillon Brackfin";
+}
+
+} // namespace
+
+void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    state.EliteSkills.reset();
+    for (int n = 0; n <= state.Campaigns.highest(); ++n) {
+        TextFile file(disk, campaignFolder(state, n) + u"/EliteList.txt"_s, complaints);
+        while (file.nextRecord())
+            if (file.split(3))
+                readSkill(state, file, n);
+    }
+    for (EliteSkill& skill : state.EliteSkills)
+        skill.Captured.assign(static_cast<size_t>(state.Characters.highest()) + 1, false);
+    sortSkills(state);
+}
+
+void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+    for (int n = 0; n <= state.Campaigns.highest(); ++n) {
+        LocationFile file(state, disk, n, complaints);
+        file.read(state, [&](int id, const MapLocation& location) {
+            const int index = state.EliteSkills[id].Locations.append(location);
+            if (carriesGreens(location))
+                state.EliteSkills[id].Locations[index].Greens =
+                    LinkGreensToBoss(state, id, index, location.Boss);
+        });
+    }
+}
+
+} // namespace orvinel
