@@ -159,8 +159,25 @@ std::vector<QStringView> splitFields(QStringView line) {
     return fields;
 }
 
-std::string folded(QStringView text) {
+namespace {
+
+std::string foldedUnicode(QStringView text) {
     return text.toString().toLower().toStdString();
+}
+
+} // namespace
+
+// Nearly all texts are ASCII; folding those without the detour counts at the start.
+std::string folded(QStringView text) {
+    std::string result;
+    result.reserve(static_cast<size_t>(text.size()));
+    for (const QChar c : text) {
+        if (c.unicode() >= 0x80)
+            return foldedUnicode(text);
+        const char byte = static_cast<char>(c.unicode());
+        result += byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+    }
+    return result;
 }
 
 QString withLineBreaks(QStringView text) {

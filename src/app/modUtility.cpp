@@ -1,5 +1,7 @@
 #include "app/modUtility.h"
 
+#include "app/TextSearch.h"
+
 #include <algorithm>
 
 namespace orvinel {
@@ -24,7 +26,7 @@ int placeAlong(int preferred, int otherSide, int extent, int room) {
 
 bool ContainsAnyWord(std::string_view text, std::span<const std::string> words) {
     return std::any_of(words.begin(), words.end(),
-                       [&](const std::string& word) { return text.find(word) != std::string_view::npos; });
+                       [&](const std::string& word) { return occursIn(text, word); });
 }
 
 QPoint PlaceTooltip(QSize tooltip, const QRect& marker, QSize view) {

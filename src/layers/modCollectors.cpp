@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "app/TextFile.h"
+#include "app/TextSearch.h"
 #include "app/modUtility.h"
 
 #include <QSet>
@@ -152,7 +153,7 @@ struct Search {
         return at.placed() &&
                (choice.level == CollectorChoice::anyLevel || collector.Level == choice.level) &&
                passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone) && admitsKind(collector) &&
-               collector.FoldedRequest.find(request) != std::string::npos && admitsObjects(collector);
+               occursIn(collector.FoldedRequest, request) && admitsObjects(collector);
     }
 
     bool admits(const Collector& collector, const CollectorObject& object) const {
@@ -163,8 +164,7 @@ struct Search {
         if (!choice.attributeWords.empty() &&
             (stats.empty() || !ContainsAnyWord(stats, choice.attributeWords)))
             return false;
-        return text.empty() ||
-               between(all, object.FoldedName, object.FoldedEnd).find(text) != std::string_view::npos;
+        return occursIn(between(all, object.FoldedName, object.FoldedEnd), text);
     }
 
   private:
@@ -179,7 +179,7 @@ struct Search {
 
     // Most collectors fall at the one search through all their texts.
     bool admitsObjects(const Collector& collector) const {
-        return collector.FoldedObjects.find(text) != std::string::npos &&
+        return occursIn(collector.FoldedObjects, text) &&
                std::any_of(collector.Objects.begin(), collector.Objects.end(),
                            [&](const CollectorObject& object) { return admits(collector, object); });
     }

@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "app/TextFile.h"
+#include "app/TextSearch.h"
 
 namespace orvinel {
 
@@ -143,8 +144,7 @@ std::vector<ListEntry> noteEntries(const ProgramState& state, const NoteChoice& 
     for (const int index : state.NoteOrder) {
         const Note& note = state.Notes[index];
         if (!note.ShortDesc.isEmpty() && passesPlace(choice.place, 0, note.At.Campaign, note.At.Region, 0) &&
-            note.FoldedShortDesc.find(title) != std::string::npos &&
-            note.FoldedBody.find(body) != std::string::npos)
+            occursIn(note.FoldedShortDesc, title) && occursIn(note.FoldedBody, body))
             entries.push_back({note.ShortDesc, index});
     }
     return entries;

@@ -1,4 +1,5 @@
 #include "app/TextFile.h"
+#include "app/TextSearch.h"
 #include "support/MemoryDisk.h"
 
 #include <gtest/gtest.h>
@@ -53,6 +54,27 @@ TEST(TextRules, theCodePageIsWindows1252AndNothingIsLostBeyondIt) {
 
 TEST(TextRules, textFromFieldsBecomesOneLine) {
     EXPECT_EQ(u"a b c d"_s, oneLine(u"a\tb\r\nc\u2028d"_s));
+}
+
+TEST(TextRules, foldingIgnoresCaseInEveryAlphabet) {
+    EXPECT_EQ("az[@`0", folded(u"AZ[@`0"));
+    EXPECT_EQ("aé€я", folded(u"AÉ€Я"));
+    EXPECT_EQ(3u, folded(QStringView(u"A\0B", 3)).size());
+}
+
+TEST(TextSearch, agreesWithThePlainSearchWhereverTheNeedleLies) {
+    const std::string alphabet = "ab\xFF";
+    std::string text;
+    for (unsigned i = 0, bits = 12345; i < 90; ++i, bits = bits * 1103515245u + 12345u)
+        text += alphabet[(bits >> 16) % alphabet.size()];
+    for (size_t end = 0; end <= text.size(); ++end)
+        for (size_t from = 0; from + 40 <= text.size(); from += 7)
+            for (size_t length = 0; length <= 12; ++length) {
+                const std::string_view haystack = std::string_view(text).substr(0, end);
+                const std::string_view needle = std::string_view(text).substr(from, length);
+                ASSERT_EQ(haystack.find(needle) != std::string_view::npos, occursIn(haystack, needle))
+                    << end << ' ' << from << ' ' << length;
+            }
 }
 
 TEST(TextFile, linesEndWithAnyLineEnd) {
