@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 using namespace worldgen;
@@ -34,7 +36,8 @@ struct ShippedWorld : testing::Test {
     orvinel::ProgramState state;
     Loud complaints;
 
-    ShippedWorld() : source(readWorldSource(folder(), noAttributeCaption(folder()), problems)) {
+    explicit ShippedWorld(int factor = 1)
+        : source(multiplied(readWorldSource(folder(), noAttributeCaption(folder()), problems), factor)) {
         WorldPlaces places(source);
         for (const SourceRegion& region : source.regions) {
             std::vector<QPoint> sites;
@@ -82,6 +85,49 @@ TEST_F(ShippedWorld, isReadWithoutAComplaint) {
     EXPECT_EQ(10, state.Professions.highest());
     EXPECT_LE(25, state.Treasures.count());
     EXPECT_EQ(3, state.Characters.highest());
+}
+
+struct ScaledWorld : ShippedWorld {
+    ScaledWorld() : ShippedWorld(4) {}
+};
+
+TEST_F(ScaledWorld, isReadWithoutAComplaint) {
+    EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
+    EXPECT_LE(100, state.Treasures.count());
+    EXPECT_LE(320, state.GreenItems.count());
+    for (const orvinel::GreenItem& green : state.GreenItems) {
+        EXPECT_NE(-1, green.EliteID) << green.Name.toStdString();
+    }
+    EXPECT_EQ(8, state.Campaigns[1].Regions.highest());
+    EXPECT_EQ(10, state.Professions.highest());
+}
+
+TEST_F(ShippedWorld, tellsOfASkillEverythingThatItsWindowShows) {
+    int skills = 0;
+    std::set<QString> codes;
+    for (int id = 1; id <= state.EliteSkills.highest(); ++id) {
+        const orvinel::EliteSkill& skill = state.EliteSkills[id];
+        skills += skill.Exists ? 1 : 0;
+        EXPECT_TRUE(!skill.Exists || !skill.Locations.empty()) << skill.Name.toStdString() << " has no boss";
+        EXPECT_TRUE(!skill.Exists || !skill.Description.isEmpty()) << skill.Name.toStdString();
+        for (const orvinel::MapLocation& place : skill.Locations) {
+            EXPECT_TRUE(zoneExists(place)) << place.Boss.toStdString();
+            codes.insert(place.MarkerCode);
+        }
+    }
+    EXPECT_LE(150, skills);
+    EXPECT_LE(20, state.EliteSkills[0].Locations.count()) << "bosses without a skill";
+    for (const char* code : {"", "?", "1", "a", "P", "C", "D"}) {
+        EXPECT_EQ(1U, codes.count(QString::fromUtf8(code))) << code;
+    }
+}
+
+TEST_F(ShippedWorld, letsEveryGreenItemBeFound) {
+    EXPECT_LE(80, state.GreenItems.count());
+    for (const orvinel::GreenItem& green : state.GreenItems) {
+        EXPECT_NE(-1, green.EliteID) << green.Name.toStdString();
+        EXPECT_FALSE(green.Stats.empty()) << green.Name.toStdString();
+    }
 }
 
 TEST_F(ShippedWorld, letsEveryCollectorAndPetBeFound) {

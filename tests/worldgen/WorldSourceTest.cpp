@@ -190,6 +190,7 @@ TEST(ShippedTables, giveProfessionsColoursThatStayApartForColourBlindEyes) {
                 EXPECT_GT(difference(perceived(colours[i], vision), perceived(colours[j], vision)), 18)
                     << "colours " << i << " and " << j;
             }
+            EXPECT_GT(perceived(colours[i], visions[0])[0], 50) << "black codes stand on it";
         }
     }
 }
