@@ -67,4 +67,17 @@ Label* informationLabel(const QString& name, const QFont& font, Colour colour, I
     return label;
 }
 
+Label* informationPicture(const QString& name, const QRect& place, InformationWindow& window) {
+    auto* label = new Label(name, &window);
+    label->setAlignment(Qt::AlignCenter);
+    label->setGeometry(place);
+    return label;
+}
+
+void setPicture(Label& place, const QImage& picture) {
+    const bool fits = picture.width() <= place.width() && picture.height() <= place.height();
+    place.setPixmap(QPixmap::fromImage(
+        fits ? picture : picture.scaled(place.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+}
+
 } // namespace orvinel

@@ -40,4 +40,9 @@ class InformationWindow : public PictureBox {
 // A child label of an information window: plain, in the given font, placed by the window.
 Label* informationLabel(const QString& name, const QFont& font, Colour colour, InformationWindow& window);
 
+// A child picture at a place of the window's own, pixels; the window shows through where it is transparent.
+Label* informationPicture(const QString& name, const QRect& place, InformationWindow& window);
+// Shrinks a picture that is larger than its place. A null picture: nothing is seen.
+void setPicture(Label& place, const QImage& picture);
+
 } // namespace orvinel

@@ -1,0 +1,105 @@
+#include "support/ProgramFixture.h"
+
+#include "app/modData.h"
+#include "app/modLanguage.h"
+
+#include <QBuffer>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+QByteArray jpeg(QSize size, QColor colour) {
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(colour);
+    QByteArray content;
+    QBuffer buffer(&content);
+    picture.save(&buffer, "JPG", 95);
+    return content;
+}
+
+ProgramFixture::ProgramFixture() {
+    state.AppPath = u"/o/"_s;
+    QByteArray language;
+    for (int n = 1; n <= 115; ++n)
+        language += QByteArray::number(n) + "\tText " + QByteArray::number(n) + "\r\n";
+    disk.put(u"/o/Data/Language.txt"_s, language);
+    disk.putFolder(u"/o/Campaign.00.Core"_s);
+    putFile("Regions.txt", "1\tFjord\r\n2\tGlacier\r\n3\tVoid\r\n");
+    putFile("Zones.txt", "11\t1\t1\t0\t700\t550\tHarbour\r\n12\t1\t1\t0\t700\t500\tCliffs\r\n"
+                         "21\t2\t1\t0\t250\t150\tRift\r\n");
+    putFile("Professions.txt", "1\tMage\t&HFF\tM\tFire\tIce\r\n2\tBard\t&HFF0000\tB\tSong\r\n");
+    disk.put(u"/o/Campaign.03.Frost/1.jpg"_s, jpeg({800, 600}, QColor(40, 60, 80)));
+    disk.put(u"/o/Campaign.03.Frost/2.jpg"_s, jpeg({300, 200}, QColor(90, 90, 90)));
+}
+
+ProgramFixture::~ProgramFixture() = default;
+
+void ProgramFixture::putFile(const char* name, const char* text) {
+    disk.put(u"/o/Campaign.03.Frost/"_s + QLatin1String(name), text);
+}
+
+void ProgramFixture::start() {
+    ASSERT_TRUE(LoadLanguage(state, disk));
+    loadTables(state, files);
+    panel = std::make_unique<frmMenu>(state, desktop);
+    map = std::make_unique<frmMap>(frmMap::Surroundings{state, disk, desktop, panel->MenuRightClickNeeded},
+                                   panel.get());
+    wire();
+    map->InizializzaVariabili({}, -1, -1);
+    panel->Form_Load();
+    panel->show();
+    map->show();
+}
+
+void ProgramFixture::wire() {
+    PanelHooks hooks;
+    hooks.filters.fill([](bool) {});
+    hooks.showRegion = [this](const QString& picture, int campaign, int region) {
+        map->InizializzaVariabili(picture, campaign, region);
+    };
+    hooks.updateMap = [this] { map->UpdateMapWithNewEliteSkills(); };
+    hooks.drawMap = [this] { map->DrawEverythingOnMap(); };
+    hooks.switchFlashing = [](int, bool) {};
+    hooks.openMenu = [](int) {};
+    hooks.quit = [] {};
+    hooks.maximised = [] { return false; };
+    panel->setHooks(std::move(hooks));
+}
+
+void ProgramFixture::choose(ItemCombo& combo, const QString& text) {
+    const int index = combo.findText(text);
+    ASSERT_GE(index, 0) << text.toStdString();
+    combo.select(index);
+}
+
+void ProgramFixture::showFjord() {
+    chooseCampaign(u"Frost"_s);
+    chooseRegion(u"Fjord"_s);
+}
+
+QPoint ProgramFixture::inViewport(QPoint at) const {
+    return map->picMap().toWidget(QRect(at, at)).topLeft();
+}
+void ProgramFixture::hover(QPoint at) {
+    QTest::mouseMove(&map->picMap(), inViewport(at));
+}
+void ProgramFixture::press(QPoint at, Qt::MouseButton button) {
+    QTest::mousePress(&map->picMap(), button, {}, inViewport(at));
+}
+void ProgramFixture::release(QPoint at, Qt::MouseButton button) {
+    QTest::mouseRelease(&map->picMap(), button, {}, inViewport(at));
+}
+void ProgramFixture::doubleClick(QPoint at) {
+    QTest::mouseClick(&map->picMap(), Qt::LeftButton, {}, inViewport(at));
+    QTest::mouseDClick(&map->picMap(), Qt::LeftButton, {}, inViewport(at));
+}
+
+QStringList ProgramFixture::texts(const ListBox& list) {
+    QStringList result;
+    for (int i = 0; i < list.count(); ++i)
+        result << list.entry(i).text;
+    return result;
+}
+
+} // namespace orvinel
