@@ -245,11 +245,17 @@ void LoadCollectorLocations(ProgramState& state, const Disk& disk, Complaints* c
         loadLocations(state, n, disk, complaints);
 }
 
+// Looks through the records in the order in which they lie in memory, which is several times as fast, and
+// only then walks the list's order.
 std::vector<ListEntry> collectorEntries(const ProgramState& state, const CollectorChoice& choice) {
     const Search search(choice, zoneIdentifier(state, choice.place));
+    std::vector<bool> admitted;
+    admitted.reserve(state.CollectorOrder.size() + 1);
+    for (const Collector& collector : state.Collectors)
+        admitted.push_back(search.admits(collector));
     std::vector<ListEntry> entries;
     for (const int id : state.CollectorOrder)
-        if (search.admits(state.Collectors[id]))
+        if (admitted[static_cast<size_t>(id)])
             entries.push_back({state.Collectors[id].Name, id});
     return entries;
 }
