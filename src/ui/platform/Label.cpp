@@ -54,13 +54,17 @@ void Label::fit() {
 
 void Label::mousePressEvent(QMouseEvent* event) {
     event->accept();
+    pressed_ = true;
     emit pressed();
 }
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
+    // A release without its press is the end of a click that closed a menu over the label.
+    const bool whole = pressed_ && rect().contains(event->position().toPoint());
+    pressed_ = false;
     emit released();
-    if (rect().contains(event->position().toPoint()))
+    if (whole)
         emit clicked();
 }
 

@@ -37,6 +37,7 @@ class Label : public QLabel {
 
     int wrapWidth_ = 0;
     QWidget* named_ = nullptr;
+    bool pressed_ = false;
 };
 
 } // namespace orvinel

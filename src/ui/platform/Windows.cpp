@@ -28,6 +28,18 @@ class ProgramStyle : public QProxyStyle {
                   QStyleHintReturn* more) const override {
         return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
     }
+    // The boxes and buttons that stand alone are 13 pixels wide; one more would be cut off.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return 13;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
 };
 
 QPalette lightColours() {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/platform/Label.h"
+
+namespace orvinel {
+
+// The text of a row of a drop-down menu. A command's text takes the focus and is a menu item to a screen
+// reader; that of a check box or option button only stands beside it.
+class MenuCaption : public Label {
+    Q_OBJECT
+  public:
+    using Label::Label;
+
+    void setCommand(bool command);
+    bool isCommand() const { return focusPolicy() != Qt::NoFocus; }
+};
+
+// Makes screen readers take MenuCaption for a menu item and frmPopupMenu for a menu. Once is enough, more
+// do no harm.
+void installMenuAccessibility();
+
+} // namespace orvinel
