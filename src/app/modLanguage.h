@@ -28,9 +28,9 @@ enum class OwnText {
     SkillNumberTooLarge = 205,
     ChangedOutside = 206, // %1 file
     QuitWithoutSaving = 207,
-    NotOpened = 208,     // %1 file
+    NotOpened = 208,      // %1 file
     FolderReadOnly = 209, // %1 reason
-    Quit = 210, // the map window's buttons, for screen readers
+    Quit = 210,           // the map window's buttons, for screen readers
     Minimise = 211,
     Maximise = 212
 };

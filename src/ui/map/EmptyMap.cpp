@@ -1,5 +1,6 @@
 #include "ui/map/EmptyMap.h"
 
+#include "app/About.h"
 #include "ui/map/CreditsList.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
@@ -11,10 +12,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr Colour cream = 0xCBECF5;
-
-QString signature() {
-    return u"by Corwin Aldermoor"_s;
-}
 
 } // namespace
 
@@ -31,7 +28,7 @@ QImage drawEmptyMap(QSize size, const QString& title) {
         const int height = drawing.lineHeight();
         const int left = (size.width() - width) / 2;
         drawing.print(left, height / 2, title);
-        drawing.print(left + width - drawing.textWidth(signature()), height / 2 + height, signature());
+        drawing.print(left + width - drawing.textWidth(byLine()), height / 2 + height, byLine());
     }
     DrawCreditsList(picture, 1);
     return picture;

@@ -1,5 +1,6 @@
 #include "ui/panel/frmMenu.h"
 
+#include "app/About.h"
 #include "app/modLanguage.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
@@ -22,7 +23,7 @@ constexpr Colour pureBlue = 0xFF0000;
 constexpr Colour white = 0xFFFFFF;
 
 QString titleText() {
-    return u"Orvinel v4.0.0    by Corwin Aldermoor"_s;
+    return u"Orvinel v4.0.0    "_s + byLine();
 }
 
 // Turns MenuReady off for a while; whatever happens it ends as it was.

@@ -66,6 +66,14 @@ QPoint hotSpot(int number) {
 
 } // namespace
 
+void chooseWindowSystem() {
+#ifdef Q_OS_LINUX
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
+#endif
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
 QCursor programCursor(int number) {
     const QPoint at = hotSpot(number);
     return QCursor(QPixmap(u":/cursors/%1.png"_s.arg(number)), at.x(), at.y());

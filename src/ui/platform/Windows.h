@@ -13,6 +13,10 @@ namespace orvinel {
 // dragging.
 QCursor programCursor(int number);
 
+// To be called before the application object is made: windows can be placed and kept on top under X11 only,
+// so it is preferred to Wayland.
+void chooseWindowSystem();
+
 // Light colours and the same widgets on every desktop, texts of the boxes in the player's language, program
 // icon.
 void applyAppearance(QApplication& application);

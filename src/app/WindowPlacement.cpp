@@ -1,0 +1,48 @@
+#include "app/WindowPlacement.h"
+
+#include "app/Desktop.h"
+
+#include <cmath>
+
+namespace orvinel {
+
+namespace {
+
+// QRect::right() is the last column; the rules speak of the edge behind it.
+int rightEdge(const QRect& area) {
+    return area.left() + area.width();
+}
+
+QRect shrunk(const QRect& area) {
+    const int m = rightEdge(area) / 20;
+    return area.adjusted(m, m, -m, -m);
+}
+
+} // namespace
+
+WindowPair maximisedPair(const QRect& workArea, int panelWidth, bool inset) {
+    const QRect area = inset ? shrunk(workArea) : workArea;
+    const int mapLeft = area.left() + panelWidth;
+    return {QRect(area.left(), area.top(), panelWidth, area.height()),
+            QRect(mapLeft, area.top(), rightEdge(area) - mapLeft, area.height())};
+}
+
+std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, int screenWidth,
+                                         int panelWidth) {
+    const qint64 needed = qint64(options.PosX) + options.DimX + twipsOf(panelWidth);
+    if (options.PosX == -1 || needed > twipsOf(screenWidth))
+        return std::nullopt;
+    const QRect panel(pixelsOf(options.PosX), pixelsOf(options.PosY), panelWidth, shrunk(workArea).height());
+    return WindowPair{
+        panel, QRect(panel.left() + panelWidth, panel.top(), pixelsOf(options.DimX), pixelsOf(options.DimY))};
+}
+
+int pixelsOf(int twips) {
+    return static_cast<int>(std::lrint(double(twips) / twipsPerPixel));
+}
+
+int twipsOf(int pixels) {
+    return pixels * twipsPerPixel;
+}
+
+} // namespace orvinel

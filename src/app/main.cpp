@@ -1,0 +1,25 @@
+#include "app/FileDisk.h"
+#include "app/modOrvinel.h"
+#include "ui/platform/QtDesktop.h"
+#include "ui/platform/SingleInstance.h"
+#include "ui/platform/Windows.h"
+
+#include <QApplication>
+
+int main(int, char** argv) {
+    // The program takes no options; Qt would take its own from them.
+    int argc = 1;
+    orvinel::chooseWindowSystem();
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication application(argc, argv);
+    orvinel::applyAppearance(application);
+
+    const QString folder = QCoreApplication::applicationDirPath() + u'/';
+    const orvinel::SingleInstance instance(folder);
+    if (!instance.first())
+        return 0;
+    orvinel::FileDisk disk(folder);
+    orvinel::QtDesktop desktop(folder);
+    orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
+    return program.Main() ? QApplication::exec() : 1;
+}
