@@ -51,6 +51,7 @@ void setBackground(QWidget& widget, Colour colour) {
     QPalette colours = widget.palette();
     colours.setColor(QPalette::Window, toQColor(colour));
     widget.setPalette(colours);
+    widget.setBackgroundRole(QPalette::Window); // option buttons would fill with their button colour
     widget.setAutoFillBackground(true);
 }
 
