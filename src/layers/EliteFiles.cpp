@@ -62,8 +62,11 @@ void readSkill(ProgramState& state, TextFile& file, int campaign) {
 
 void sortSkills(ProgramState& state) {
     std::vector<QString> texts;
-    for (int id = 1; id <= state.EliteSkills.highest(); ++id)
-        texts.push_back(eliteListText(state, id));
+    for (int id = 1; id <= state.EliteSkills.highest(); ++id) {
+        EliteSkill& skill = state.EliteSkills[id];
+        skill.ListText = skill.Name + u" ["_s + professionOf(state, skill.Profession).Abbreviation + u']';
+        texts.push_back(skill.ListText);
+    }
     state.EliteOrder = alphabeticalOrder(texts);
     for (int& id : state.EliteOrder)
         ++id;
@@ -152,7 +155,7 @@ void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* compl
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         LocationFile file(state, disk, n, complaints);
         file.read(state, [&](int id, const MapLocation& location) {
-            const int index = state.EliteSkills[id].Locations.append(location);
+            const int index = state.EliteSkills[id].addLocation(location);
             if (carriesGreens(location))
                 state.EliteSkills[id].Locations[index].Greens =
                     LinkGreensToBoss(state, id, index, location.Boss);

@@ -26,12 +26,19 @@ struct Search {
         return boss.empty() || at.FoldedBoss.find(boss) != std::string::npos;
     }
     // A skill of campaign 0 is everybody's: wherever its bosses stand, they count for campaign 0.
-    bool passesPlaceOf(const EliteSkill& skill, const MapLocation& at) const {
-        return (choice.place.campaign == 0 && skill.Campaign == 0) ||
-               passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone);
+    bool anyPlaceWillDo(const EliteSkill& skill) const {
+        return choice.place.campaign < 0 || (choice.place.campaign == 0 && skill.Campaign == 0);
     }
     bool passes(const EliteSkill& skill, const MapLocation& at) const {
-        return passesPlaceOf(skill, at) && passesBoss(at);
+        return (anyPlaceWillDo(skill) || passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone)) &&
+               passesBoss(at);
+    }
+    // The bosses' names lie together, the locations far apart: most skills are told without a look at them.
+    bool passesLocations(const EliteSkill& skill) const {
+        if (skill.Locations.empty() || skill.FoldedBosses.find(boss) == std::string::npos)
+            return false;
+        return anyPlaceWillDo(skill) || std::any_of(skill.Locations.begin(), skill.Locations.end(),
+                                                    [&](const MapLocation& at) { return passes(skill, at); });
     }
     bool passesProfession(const EliteSkill& skill) const {
         return choice.profession <= 0 || skill.Profession == choice.profession ||
@@ -47,11 +54,9 @@ struct Search {
     }
     // The cheap tests first: only what is left looks through its locations.
     bool lists(const EliteSkill& skill) const {
-        return !skill.Locations.empty() && passesProfession(skill) &&
-               (!choice.attribute || skill.FoldedAttribute == attribute) &&
+        return passesProfession(skill) && (!choice.attribute || skill.FoldedAttribute == attribute) &&
                (name.empty() || skill.FoldedName.find(name) != std::string::npos) && passesCapture(skill) &&
-               std::any_of(skill.Locations.begin(), skill.Locations.end(),
-                           [&](const MapLocation& at) { return passes(skill, at); });
+               passesLocations(skill);
     }
 };
 
@@ -104,9 +109,9 @@ void EliteSkill::setAttribute(const QString& attribute) {
     FoldedAttribute = folded(attribute);
 }
 
-QString eliteListText(const ProgramState& state, int id) {
-    const EliteSkill& skill = state.EliteSkills[id];
-    return skill.Name + u" ["_s + professionOf(state, skill.Profession).Abbreviation + u']';
+int EliteSkill::addLocation(const MapLocation& location) {
+    FoldedBosses += location.FoldedBoss + '\n';
+    return Locations.append(location);
 }
 
 std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice& choice) {
@@ -114,7 +119,7 @@ std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice
     std::vector<ListEntry> entries;
     for (const int id : state.EliteOrder)
         if (search.lists(state.EliteSkills[id]))
-            entries.push_back({eliteListText(state, id), id});
+            entries.push_back({state.EliteSkills[id].ListText, id});
     return entries;
 }
 

@@ -33,14 +33,18 @@ struct EliteSkill {
     QString Description;
     QString Picture; // full path of the JPEG, whether or not it exists; empty: none
     int Profession = 0;
-    int Campaign = 0;           // whose list defined the skill
-    std::vector<bool> Captured; // by character number, 0..highest
-    List1<MapLocation> Locations;
+    int Campaign = 0;             // whose list defined the skill
+    std::vector<bool> Captured;   // by character number, 0..highest
+    List1<MapLocation> Locations; // written by addLocation only
+    QString ListText;             // "Name [Abbr]": how every list shows the skill; kept by the loader
     std::string FoldedName;
     std::string FoldedAttribute;
+    std::string FoldedBosses; // of all locations, each ended by '\n'
 
     void setName(const QString& name);
     void setAttribute(const QString& attribute);
+    // Returns the location's index.
+    int addLocation(const MapLocation& location);
     // Also for characters that the skill knows nothing of.
     bool capturedBy(int character) const {
         const auto c = static_cast<size_t>(character);
@@ -55,9 +59,6 @@ void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complain
 // Links the green items too. A location of a number within the table that no line named is kept: its skill
 // has no name.
 void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
-
-// "Name [Abbr]": how every list shows the skill `id`, which exists.
-QString eliteListText(const ProgramState& state, int id);
 
 // What the panel asks of the skills; a default asks nothing.
 struct EliteChoice {

@@ -141,7 +141,7 @@ std::vector<ListEntry> editorSkillEntries(const ProgramState& state, int campaig
         const EliteSkill& skill = state.EliteSkills[id];
         if ((campaign < 0 || skill.Campaign == campaign) &&
             (profession < 0 || skill.Profession == profession))
-            entries.push_back({eliteListText(state, id), id});
+            entries.push_back({skill.ListText, id});
     }
     return entries;
 }
