@@ -4,11 +4,6 @@ namespace worldgen {
 
 namespace {
 
-// Copies keep clear of each other and of the originals.
-constexpr int SkillStep = 600;
-constexpr int CollectorStep = 600;
-constexpr int PetStep = 600;
-
 /// Appends `factor` - 1 changed copies of every record.
 template <typename Record, typename Change>
 void multiply(std::vector<Record>& records, int factor, const Change& change) {
@@ -28,7 +23,7 @@ QString copyName(const QString& name, int copy) {
 }
 
 QString petId(const QString& idText, int copy) {
-    return u"%1"_qs.arg(idText.toInt() + copy * PetStep, 4, 10, QLatin1Char('0'));
+    return u"%1"_qs.arg(idText.toInt() + copy * NumberStep, 4, 10, QLatin1Char('0'));
 }
 
 } // namespace
@@ -43,16 +38,16 @@ WorldSource multiplied(const WorldSource& source, int factor) {
     });
     multiply(world.skills, factor, [](SourceSkill& skill, int copy) {
         skill.pictureOf = skill.id;
-        skill.id += copy * SkillStep;
+        skill.id += copy * NumberStep;
         skill.name = copyName(skill.name, copy);
     });
     multiply(world.bosses, factor, [&](SourceBoss& boss, int copy) {
-        boss.skill += boss.skill == 0 ? 0 : copy * SkillStep;
+        boss.skill += boss.skill == 0 ? 0 : copy * NumberStep;
         boss.name = copyName(boss.name, copy);
         boss.zone += copy * zoneCount;
     });
     multiply(world.collectors, factor, [&](SourceCollector& collector, int copy) {
-        collector.id += copy * CollectorStep;
+        collector.id += copy * NumberStep;
         collector.name = copyName(collector.name, copy);
         collector.zone += collector.zone < 0 ? 0 : copy * zoneCount;
     });

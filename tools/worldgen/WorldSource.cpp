@@ -11,7 +11,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr int HighestNumber = 65535;
+constexpr int HighestNumber = NumberStep - 1;
 
 /// Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
 bool kindFitsCampaign(ZoneKind kind, int campaign) {
@@ -315,6 +315,7 @@ void SourceReader::readChests() {
 
 void SourceReader::readPets() {
     for (const SourceRow& row : rows(0, u"pets.txt", 4)) {
+        numberIn(row, 0, 1, HighestNumber, problems_);
         world_.pets.push_back({row.fields[0], row.fields[1], row.fields[2], row.fields[3], {}});
     }
 }

@@ -13,6 +13,10 @@ namespace worldgen {
 /// Kinds of zones in the numbering of the zone files.
 enum class ZoneKind { Area = 1, Outpost = 2, Mission = 3, Town = 4, Challenge = 5, DungeonEntrance = 6 };
 
+/// Numbers of skills, collectors and pets in the tables stay below this, so that multiplied copies, which add
+/// multiples of it, get numbers of their own.
+constexpr int NumberStep = 600;
+
 struct SourceCampaign {
     int number = 0;
     QString name;    ///< the word after the number in the folder name; holds no dot
