@@ -53,7 +53,8 @@ double distance(QPoint a, QPoint b) {
 } // namespace
 
 TEST(Painter, GivesTheSameBytesAgainAlsoBesideAnotherThread) {
-    const RegionRecipe recipe = smallRecipe(11, Theme::Temperate);
+    RegionRecipe recipe = smallRecipe(11, Theme::Temperate);
+    recipe.size = QSize(320, 280);
     const PaintedRegion first = paintRegion(recipe);
     PaintedRegion other;
     std::thread beside([&] { other = paintRegion(smallRecipe(12, Theme::Temperate)); });

@@ -240,7 +240,8 @@ QRect zoneFootprint(const SourceZone& zone, QPoint place) {
 }
 
 RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
-    RegionRecipe recipe{region.seed, region.size, region.theme, region.campaign, region.name, {}};
+    RegionRecipe recipe{region.seed, region.size, region.theme,   region.campaign,
+                        region.name, {},          region.landform};
     for (const SourceZone& zone : source.zones) {
         if (liesIn(region, zone) && zone.painted) {
             recipe.sites.push_back({zone.name, roleOf(zone.kind), zone.nearTo});

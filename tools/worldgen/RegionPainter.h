@@ -17,6 +17,9 @@
 namespace worldgen {
 
 enum class Theme { Temperate, Desert, Frost, Ash };
+/// The lie of the land. Mountains: one great range or two; Hills and Plain: lower and fewer; Fens: flat, wet,
+/// full of pools; Isles: an archipelago.
+enum class Landform { Mountains, Hills, Plain, Fens, Isles };
 enum class SiteRole { Town, Outpost, Mission, Challenge, Area, DungeonEntrance };
 enum class SiteNear { Anything, Coast, Lake, River, Ridge, Forest };
 
@@ -33,6 +36,7 @@ struct RegionRecipe {
     int campaign = 1; ///< 0..4: building style and season
     QString title;    ///< written into the picture; empty: none
     std::vector<SiteWish> sites;
+    Landform landform = Landform::Mountains;
 };
 
 struct Landscape;

@@ -52,6 +52,11 @@ constexpr std::pair<QStringView, SiteNear> NearWords[] = {
     {u"river", SiteNear::River}, {u"ridge", SiteNear::Ridge}, {u"forest", SiteNear::Forest},
 };
 
+constexpr std::pair<QStringView, Landform> LandformWords[] = {
+    {u"mountains", Landform::Mountains}, {u"hills", Landform::Hills}, {u"plain", Landform::Plain},
+    {u"fens", Landform::Fens},           {u"isles", Landform::Isles},
+};
+
 constexpr std::pair<QStringView, Theme> ThemeWords[] = {
     {u"temperate", Theme::Temperate},
     {u"desert", Theme::Desert},
@@ -211,6 +216,9 @@ void SourceReader::readRegions(int campaign) {
         region.theme = word(row, 2, ThemeWords);
         region.size = QSize(numberIn(row, 3, 200, 4000, problems_), numberIn(row, 4, 200, 4000, problems_));
         region.seed = quint32(numberIn(row, 5, 1, 1'000'000, problems_));
+        if (row.fields.size() > 6) {
+            region.landform = word(row, 6, LandformWords);
+        }
         world_.regions.push_back(region);
     }
 }

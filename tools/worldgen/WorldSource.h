@@ -31,6 +31,7 @@ struct SourceRegion {
     Theme theme = Theme::Temperate;
     QSize size; ///< pixels
     quint32 seed = 0;
+    Landform landform = Landform::Mountains;
 };
 
 struct SourceZone {

@@ -75,7 +75,7 @@ Colour themed(const Landscape& land, const GroundLayers& layers, QPoint at, Colo
         const double drift = layers.upland.sampled(at.x() / 4.0, at.y() / 4.0) +
                              0.5 * layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0);
         return mixed(colour, land.palette.snow.times(0.78),
-                     smoothStep(0.10, 0.38, drift + 0.5 * height) * 0.55);
+                     smoothStep(0.02, 0.45, drift + 0.5 * height) * 0.42);
     }
     if (land.theme == Theme::Desert) {
         const double dunes = smoothStep(0.02, 0.25, layers.meadow.sampled(at.x() / 4.0, at.y() / 4.0)) *
@@ -94,7 +94,7 @@ Colour landColour(const Landscape& land, const GroundLayers& layers, int x, int 
     const double jitter = layers.jitter.sampled(x / 2.0, y / 2.0);
     colour = mixed(colour, p.rock, smoothStep(0.035, 0.085, slope) * 0.8);
     const double snow = land.height.at(x, y) + jitter * 1.2 - slope * 1.5;
-    colour = mixed(colour, p.snow, smoothStep(p.snowline - 0.16, p.snowline + 0.06, snow));
+    colour = mixed(colour, p.snow.times(0.80), smoothStep(p.snowline - 0.16, p.snowline + 0.06, snow));
     colour = themed(land, layers, {x, y}, colour);
     const double shore = land.toWater.at(x, y) + jitter * 50 + 60 * std::max(0.0, slope - 0.02);
     colour = mixed(p.beach, colour, smoothStep(2, 12, shore));

@@ -79,8 +79,13 @@ Drainage drained(const Field& height, const Noise& wobble) {
     return result;
 }
 
-Field settledLakes(Field& height, Drainage& drainage, Theme theme) {
-    const std::size_t kept = theme == Theme::Desert ? 2 : theme == Theme::Ash ? 4 : 5;
+Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& recipe) {
+    const bool fens = recipe.landform == Landform::Fens;
+    const std::size_t kept = fens                            ? 22
+                             : recipe.theme == Theme::Desert ? 2
+                             : recipe.theme == Theme::Ash    ? 4
+                                                             : 5;
+    const std::size_t smallest = fens ? 40 : 90;
     std::vector<char> open(std::size_t(height.count()), 0);
     for (int cell = 0; cell < height.count(); ++cell)
         open[std::size_t(cell)] = height[cell] > 0 && drainage.filled[cell] - height[cell] > kLakeDepth;
@@ -93,7 +98,7 @@ Field settledLakes(Field& height, Drainage& drainage, Theme theme) {
     Field cover(height.width(), height.height());
     for (std::size_t k = 0; k < lakes.size(); ++k)
         for (const int cell : lakes[k])
-            if (k < kept && lakes[k].size() > 90)
+            if (k < kept && lakes[k].size() > smallest)
                 cover[cell] = 1;
             else
                 height[cell] = drainage.filled[cell];
@@ -104,8 +109,11 @@ namespace {
 
 constexpr double kMeanderReach = 5;
 
-double riverThreshold(Theme theme) {
-    return theme == Theme::Desert ? 2600 : theme == Theme::Ash ? 1500 : 1100;
+/// Cells that must drain through a place before it carries a river.
+double riverThreshold(const Landscape& land) {
+    if (land.landform == Landform::Fens)
+        return 800;
+    return land.theme == Theme::Desert ? 2600 : land.theme == Theme::Ash ? 1500 : 1100;
 }
 
 /// Springs, highest first: cells that carry a river while none of the cells above them does.
@@ -195,7 +203,7 @@ River riverAlong(const Landscape& land, const std::vector<int>& course, double t
 } // namespace
 
 std::vector<River> tracedRivers(const Landscape& land) {
-    const double threshold = riverThreshold(land.theme);
+    const double threshold = riverThreshold(land);
     RiverBeds beds(land.cells);
     std::vector<River> rivers;
     for (const int spring : springs(land, threshold)) {

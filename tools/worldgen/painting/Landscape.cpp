@@ -65,11 +65,12 @@ Field riverDistances(const Landscape& land) {
 } // namespace
 
 Landscape::Landscape(const RegionRecipe& recipe)
-    : size(recipe.size), theme(recipe.theme), palette(paletteOf(recipe.theme, recipe.campaign)),
-      noises(recipe.seed), cells(raisedLand(recipe, noises)) {
+    : size(recipe.size), theme(recipe.theme), landform(recipe.landform),
+      palette(paletteOf(recipe.theme, recipe.campaign)), noises(recipe.seed),
+      cells(raisedLand(recipe, noises)) {
     erode(cells, recipe.seed);
     drainage = drained(cells, noises.d);
-    lakes = blurred(settledLakes(cells, drainage, theme), 2);
+    lakes = blurred(settledLakes(cells, drainage, recipe), 2);
     rivers = tracedRivers(*this);
     toRiver = riverDistances(*this);
     surround = blurred(blurred(cells, 10), 10);
@@ -79,7 +80,8 @@ Landscape::Landscape(const RegionRecipe& recipe)
     const int h = size.height();
     moisture = coarseLayer(w, h, kPatch, [&](double x, double y) {
         const double shore = std::min<double>(toWater.clamped(int(x), int(y)), riverDistance(x, y) + 6);
-        return palette.moisture + 0.5 * noises.b.fbm(x / 330, y / 330, 4) + 0.25 * expOf(-shore / 60) -
+        return palette.moisture + (landform == Landform::Fens ? 0.16 : 0) +
+               0.5 * noises.b.fbm(x / 330, y / 330, 4) + 0.25 * expOf(-shore / 60) -
                0.25 * height.clamped(int(x), int(y));
     });
     woods = coarseLayer(w, h, kPatch, [&](double x, double y) {

@@ -38,6 +38,7 @@ struct Landscape {
 
     QSize size;
     Theme theme;
+    Landform landform;
     Palette palette;
     Noises noises;
     Field cells; ///< eroded height per terrain cell
@@ -72,7 +73,7 @@ void erode(Field& height, quint32 seed);
 Drainage drained(const Field& height, const Noise& wobble);
 /// Fills all hollows but the few largest, so that the map shows lakes and not puddles; returns the lakes'
 /// cells as 1.
-Field settledLakes(Field& height, Drainage& drainage, Theme theme);
+Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& recipe);
 std::vector<River> tracedRivers(const Landscape& land);
 
 } // namespace worldgen

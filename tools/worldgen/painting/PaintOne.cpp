@@ -11,14 +11,15 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     const QStringList words = application.arguments();
-    if (words.size() != 7) {
-        std::fputs("paint-one SEED THEME CAMPAIGN WIDTH HEIGHT FILE\n", stderr);
+    if (words.size() != 8) {
+        std::fputs("paint-one SEED THEME CAMPAIGN LANDFORM WIDTH HEIGHT FILE\n", stderr);
         return 2;
     }
     using namespace worldgen;
     RegionRecipe recipe{
-        words[1].toUInt(), QSize(words[4].toInt(), words[5].toInt()), Theme(words[2].toInt() & 3),
+        words[1].toUInt(), QSize(words[5].toInt(), words[6].toInt()), Theme(words[2].toInt() & 3),
         words[3].toInt(),  QStringLiteral("Vale of Embers"),          {}};
+    recipe.landform = Landform(words[4].toInt() % 5);
     using enum SiteRole;
     using enum SiteNear;
     recipe.sites = {{QStringLiteral("Hallowmere"), Town, Coast},
@@ -35,5 +36,5 @@ int main(int argc, char** argv) {
     timer.start();
     const PaintedRegion region = paintRegion(recipe);
     std::printf("%lld ms\n", static_cast<long long>(timer.elapsed()));
-    return region.picture.save(words[6], "JPG", 90) ? 0 : 1;
+    return region.picture.save(words[7], "JPG", 90) ? 0 : 1;
 }

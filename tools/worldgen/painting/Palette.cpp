@@ -72,7 +72,7 @@ Season seasonOf(int campaign) {
     case 3: // high summer
         return {{1.06, 1.02, 0.88}, {qRgb(84, 96, 40), qRgb(66, 86, 40), qRgb(104, 100, 48)}, 0.35};
     case 4: // first cold
-        return {{0.94, 0.98, 1.06}, {qRgb(88, 84, 56), qRgb(52, 72, 62), qRgb(104, 84, 52)}, 0.40};
+        return {{0.97, 0.99, 1.02}, {qRgb(88, 84, 56), qRgb(52, 72, 62), qRgb(104, 84, 52)}, 0.40};
     default: // spring
         return {{0.98, 1.03, 0.97}, {qRgb(52, 82, 40), qRgb(40, 70, 42), qRgb(74, 92, 46)}, 0.30};
     }

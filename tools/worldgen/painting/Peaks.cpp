@@ -183,8 +183,8 @@ QRgb PeakRaster::colourAt(int column, int step) const {
     if (shape_.snow > 0) {
         const double white =
             height + 0.10 * grain_.fbm(x * 6, depth * 6, 3) - 0.05 * std::max(0.0, 0.3 - lambert);
-        const double bright = 0.42 + 0.62 * clamp01(lambert + 0.15);
-        colour = mixed(colour, palette_.snow.times(bright * 0.97, bright, bright * 1.02 + 0.04),
+        const double bright = 0.44 + 0.68 * clamp01(lambert + 0.15);
+        colour = mixed(colour, palette_.snow.times(bright, bright, bright * 0.98 + 0.05),
                        smoothStep(1 - shape_.snow - 0.05, 1 - shape_.snow + 0.05, white));
     }
     colour = mixed(colour, Colour{226, 98, 30}, model_.glowAt(x, depth) * 0.85);

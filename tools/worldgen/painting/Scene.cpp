@@ -70,6 +70,7 @@ class Nature {
     void grow(const QImage& ground);
 
   private:
+    bool reedy(QPoint at) const;
     void growAt(QPointF at);
     PeakShape shapeAt(double height, double scale);
     bool crowded(QPointF at, double gap) const;
@@ -105,6 +106,13 @@ const Sprite& Nature::treeFor(double height) {
     return height + rng_.range(-0.035, 0.035) > border ? upland_.any(rng_) : lowland_.any(rng_);
 }
 
+bool Nature::reedy(QPoint at) const {
+    const bool fens = land_.landform == Landform::Fens;
+    const bool low =
+        land_.height.at(at.x(), at.y()) < (fens ? 0.18 : 0.12) && land_.slope(at.x(), at.y(), 4) < 0.014;
+    return low && land_.moistureAt(at.x(), at.y()) > 0.14 && (fens || land_.toWater.at(at.x(), at.y()) < 60);
+}
+
 void Nature::growAt(QPointF at) {
     const int x = int(at.x());
     const int y = int(at.y());
@@ -114,13 +122,12 @@ void Nature::growAt(QPointF at) {
     const double height = land_.height.at(x, y);
     const double slope = land_.slope(x, y, 4);
     const double woods = std::round(land_.woodsAt(x, y) * 4096) / 4096;
-    const double wet = land_.moistureAt(x, y);
     if (woods > 0.16 && slope < 0.07 && height < 0.42) {
         if (rng_.chance(0.94))
             scene_.stand(treeFor(height), at);
     } else if (woods > 0.02 && slope < 0.05 && height < 0.36 && rng_.chance(0.10)) {
         scene_.stand(treeFor(height), at);
-    } else if (wet > 0.14 && height < 0.12 && slope < 0.012 && shore < 60 && rng_.chance(0.30)) {
+    } else if (reedy({x, y}) && rng_.chance(0.30)) {
         scene_.stand(*rng_.pick(reeds_), at);
     } else if (height < 0.32 && rng_.chance(height > 0.2 ? 0.02 : 0.005)) {
         scene_.stand(*rng_.pick(rocks_), at);

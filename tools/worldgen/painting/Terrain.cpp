@@ -7,7 +7,28 @@ namespace worldgen {
 
 namespace {
 
-enum class Shore { OneSide, Corner, Gulf, Island, Inland };
+enum class Shore { OneSide, Corner, Gulf, Island, Isles, Inland };
+
+/// How strongly each kind of country shows in a region; 1 is a region of mountains.
+struct Build {
+    double mountains, breadth, hills, rise;
+};
+
+Build buildOf(Landform landform) {
+    switch (landform) {
+    case Landform::Hills:
+        return {0.62, 0.8, 2.6, 1};
+    case Landform::Plain:
+        return {0.46, 0.6, 1, 0.85};
+    case Landform::Fens:
+        return {0.30, 0.6, 0.6, 0.5};
+    case Landform::Isles:
+        return {0.66, 0.8, 1.2, 0.9};
+    case Landform::Mountains:
+        break;
+    }
+    return {1, 1, 1, 1};
+}
 
 /// Raises the land of one region. Positions are in units of about 1600 pixels, so that a larger picture shows
 /// more land and not larger hills.
@@ -23,7 +44,7 @@ class LandMaker {
     void growSpine(Rng& rng, QPointF from, double angle, int joints);
 
     const Noises& n_;
-    Theme theme_;
+    Build build_;
     double width_;
     double depth_;
     Shore shore_;
@@ -39,16 +60,18 @@ double unitOf(QSize size) {
 }
 
 LandMaker::LandMaker(const RegionRecipe& recipe, const Noises& noises)
-    : n_(noises), theme_(recipe.theme), width_(recipe.size.width() / unitOf(recipe.size)),
+    : n_(noises), build_(buildOf(recipe.landform)), width_(recipe.size.width() / unitOf(recipe.size)),
       depth_(recipe.size.height() / unitOf(recipe.size)) {
     Rng rng(recipe.seed * 5ULL + 3);
     constexpr std::array shores{Shore::OneSide, Shore::OneSide, Shore::Corner, Shore::Corner,
                                 Shore::Gulf,    Shore::Gulf,    Shore::Island, Shore::Inland};
     shore_ = rng.pick(shores);
+    if (recipe.landform == Landform::Isles)
+        shore_ = Shore::Isles;
     side_ = rng.whole(0, 3);
     secondSide_ = (side_ < 2 ? 2 : 0) + rng.whole(0, 1);
     gulfAt_ = rng.range(0.35, 0.65);
-    breadth_ = rng.range(0.052, 0.080);
+    breadth_ = rng.range(0.052, 0.080) * build_.breadth;
     const double angle = rng.range(-0.5, 0.5) + (rng.chance(0.5) ? 0.75 : -0.75);
     const double reach = 0.36 * width_;
     const QPointF middle(width_ * rng.range(0.42, 0.58), depth_ * rng.range(0.40, 0.58));
@@ -115,6 +138,12 @@ double LandMaker::landShare(double u, double v) const {
                           std::sqrt(std::sqrt(du * du * du * du + dv * dv * dv * dv)) +
                               0.20 * n_.c.fbm(u * 2.2 + 40, v * 2.2, 3));
     }
+    case Shore::Isles: {
+        double share = smoothStep(-0.04, 0.20, n_.c.fbm(u * 2.7 + 60, v * 2.7, 3));
+        for (int side = 0; side < 4; ++side)
+            share *= smoothStep(0.02, 0.14, edge(u, v, side));
+        return share;
+    }
     case Shore::Inland:
         break;
     }
@@ -137,8 +166,10 @@ double LandMaker::heightAt(double x, double y) const {
     const double mountain = expOf(-away * away) * smoothStep(0.25, 0.85, land);
     const double hills = smoothStep(0.1, 0.4, n_.c.fbm(u * 2.3 + 9, v * 2.3, 3) + 0.15) * 0.5 * land;
     const double crests = n_.d.ridged(u * 5.2, v * 5.2, 6);
-    return height + mountain * (0.16 + 0.62 * crests) + hills * 0.18 * crests +
-           0.02 * n_.a.fbm(x * 22, y * 22, 4);
+    height += mountain * build_.mountains * (0.16 + 0.62 * crests) + hills * build_.hills * 0.18 * crests;
+    if (height > 0)
+        height *= lerp(build_.rise, 1, smoothStep(0.15, 0.5, height));
+    return height + 0.02 * n_.a.fbm(x * 22, y * 22, 4);
 }
 
 } // namespace
