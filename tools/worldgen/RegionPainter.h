@@ -58,6 +58,8 @@ struct PaintedRegion {
     double height(QPoint point) const;
     /// Pixels from a point on land to the nearest sea, lake or frame-side water; 0 on water.
     double distanceToWater(QPoint point) const;
+    /// Pixels to the middle of the nearest river.
+    double distanceToRiver(QPoint point) const;
 };
 
 PaintedRegion paintRegion(const RegionRecipe& recipe);

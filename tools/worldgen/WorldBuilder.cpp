@@ -36,6 +36,13 @@ void inParallel(std::size_t count, const std::function<void(std::size_t)>& work)
     }
 }
 
+/// Whether a marker has its feet on the ground all around.
+bool isDry(const PaintedRegion& painted, QPoint place) {
+    constexpr double MarkerHalf = 8;
+    return painted.land(place) && painted.distanceToWater(place) > MarkerHalf &&
+           painted.distanceToRiver(place) > MarkerHalf;
+}
+
 class Builder {
   public:
     Builder(const WorldSource& source, const QString& worldFolder, const QString& outFolder)
@@ -137,7 +144,7 @@ void Builder::paintRegions() {
     inParallel(source_.regions.size(), [this](std::size_t i) {
         const SourceRegion& region = source_.regions[i];
         const PaintedRegion painted = paintRegion(recipeFor(source_, region));
-        const Ground ground{painted.sites, [&](QPoint place) { return painted.land(place); }};
+        const Ground ground{painted.sites, [&](QPoint place) { return isDry(painted, place); }};
         placeRegion(source_, region, ground, places_);
         savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_qs, painted.picture);
     });
@@ -188,7 +195,9 @@ QStringList Builder::build() {
     paintRegions();
     paintSkills();
     paintPets();
-    writeTables();
+    if (problems_.isEmpty()) {
+        writeTables(); // last, so that tables never promise what is not there
+    }
     return problems_;
 }
 

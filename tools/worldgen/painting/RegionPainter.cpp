@@ -52,6 +52,10 @@ double PaintedRegion::distanceToWater(QPoint point) const {
     return landscape->toWater.clamped(point.x(), point.y());
 }
 
+double PaintedRegion::distanceToRiver(QPoint point) const {
+    return landscape->riverDistance(point.x(), point.y());
+}
+
 PaintedRegion paintRegion(const RegionRecipe& recipe) {
     PaintedRegion result;
     const auto shared = std::make_shared<const Landscape>(recipe);
