@@ -6,10 +6,10 @@ namespace orvinel {
 
 // Who made the program and where it lives on the web: the same in every language.
 inline QString authorName() {
-    return QStringLiteral("Orrel Tavinbeck");
+    return QStringLiteral("Orrel Tarn");
 }
 inline QString guildName() {
-    return QStringLiteral("The Lantern Wardens");
+    return QStringLiteral("Lantern Wardens");
 }
 inline QString byLine() {
     return QStringLiteral("by ") + authorName();

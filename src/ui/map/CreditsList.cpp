@@ -26,7 +26,7 @@ constexpr int thanksLines = 2;
 
 const std::array<Credit, 9>& credits() {
     static const std::array<Credit, 9> list = {{
-        {u"Orrel Tavinbeck"_s, u"Program, windows and everything in between"_s},
+        {u"Orrel Tarn"_s, u"Program, windows and everything in between"_s},
         {u"Ferrowyn"_s, u"Region pictures, rivers, ruins, a moon and far too many trees"_s},
         {u"Old Brackwater"_s, u"Boss walks, counted step by step"_s},
         {u"Sorrel Ninthwatch"_s, u"Collectors and what they ask for"_s},

@@ -1,0 +1,196 @@
+#include "app/About.h"
+#include "support/MemoryDisk.h"
+#include "support/RecordingDesktop.h"
+#include "ui/dialogs/frmCredits.h"
+#include "ui/dialogs/frmFAKE.h"
+#include "ui/dialogs/frmInformation.h"
+#include "ui/platform/Fonts.h"
+
+#include <QAccessible>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+struct DialogFixture : testing::Test {
+    ProgramState state;
+    MemoryDisk disk;
+    PlayerFiles files{disk};
+    RecordingDesktop desktop;
+    int alwaysOnTop = 0;
+
+    DialogFixture() {
+        for (int i = 1; i <= 115; ++i)
+            state.LanguageTable.append(u"T%1"_s.arg(i));
+    }
+    DialogContext context() { return {state, files, desktop, alwaysOnTop}; }
+};
+
+struct InformationTest : DialogFixture {
+    frmInformation window{context(), nullptr};
+    QWidget* container = window.findChild<QWidget*>(u"picOntainer"_s);
+
+    InformationTest() { window.show(); }
+    // The control that is under the mouse at a place of the container.
+    QWidget* under(QPoint place) {
+        QWidget* child = container->childAt(place);
+        return child ? child : container;
+    }
+    void moveTo(QPoint place) {
+        QWidget* target = under(place);
+        QTest::mouseMove(target, target->mapFrom(container, place));
+    }
+    void clickAt(QPoint place) {
+        QWidget* target = under(place);
+        QTest::mouseClick(target, Qt::LeftButton, {}, target->mapFrom(container, place));
+    }
+    QStringList opened() const { return desktop.log.filter(u"open "_s); }
+};
+
+TEST_F(InformationTest, hasItsControlsInTheirPlaces) {
+    EXPECT_EQ(QSize(612, 463), window.size());
+    const std::pair<QString, QRect> places[] = {{u"picOntainer"_s, {0, 0, 607, 457}},
+                                                {u"imgScene"_s, {116, 14, 518, 443}},
+                                                {u"imgLogo"_s, {2, 2, 177, 45}},
+                                                {u"lblCharPos(0)"_s, {250, 142, 57, 167}},
+                                                {u"lblCharPos(3)"_s, {484, 180, 55, 179}}};
+    for (const auto& [name, place] : places)
+        EXPECT_EQ(place, window.findChild<QWidget*>(name)->geometry()) << name.toStdString();
+    const QImage seen = container->grab().toImage();
+    EXPECT_EQ(qRgb(0x50, 0x25, 0x12), seen.pixel(15, 60)) << "the heading's ground";
+    EXPECT_EQ(qRgb(0xC0, 0xC0, 0xC0), seen.pixel(10, 54));
+    EXPECT_EQ(qRgb(0xC0, 0xC0, 0xC0), seen.pixel(143, 441));
+    EXPECT_EQ(qRgb(0x40, 0x40, 0x40), seen.pixel(36, 344));
+}
+
+TEST_F(InformationTest, theMouseFindsTheLinksUpToTheirCorners) {
+    const std::pair<QPoint, frmInformation::Link> spots[] = {
+        {{22, 360}, frmInformation::WebPage}, {{131, 374}, frmInformation::WebPage},
+        {{80, 380}, frmInformation::NoLink},  {{22, 409}, frmInformation::Mail},
+        {{131, 423}, frmInformation::Mail},   {{132, 423}, frmInformation::NoLink},
+        {{80, 365}, frmInformation::WebPage}, {{40, 20}, frmInformation::NoLink},
+        {{80, 415}, frmInformation::Mail},    {{300, 400}, frmInformation::NoLink}};
+    for (const auto& [place, link] : spots) {
+        moveTo(place);
+        EXPECT_EQ(link, window.linkHot()) << place.x() << ", " << place.y();
+    }
+}
+
+TEST_F(InformationTest, aClickOpensALinkOrClosesTheWindow) {
+    clickAt({60, 365});
+    clickAt({60, 415});
+    EXPECT_EQ((QStringList{u"open "_s + guildPage(), u"open "_s + mailAddress()}), opened());
+    EXPECT_TRUE(window.isVisible());
+    for (const QPoint place : {QPoint(60, 200), QPoint(300, 60), QPoint(30, 20), QPoint(270, 200)}) {
+        window.show();
+        clickAt(place);
+        EXPECT_FALSE(window.isVisible()) << place.x() << ", " << place.y();
+    }
+}
+
+TEST_F(InformationTest, showsTheCaptionOfTheFigureUnderTheMouseOnly) {
+    auto* first = window.findChild<QWidget*>(u"lblCharName(0)"_s);
+    auto* last = window.findChild<QWidget*>(u"imgChar(3)"_s);
+    moveTo({300, 60});
+    EXPECT_EQ(-1, window.shownCaption());
+    moveTo({270, 200});
+    EXPECT_EQ(0, window.shownCaption());
+    EXPECT_TRUE(first->isVisible());
+    moveTo({510, 250});
+    EXPECT_FALSE(first->isVisible());
+    EXPECT_TRUE(last->isVisible());
+    EXPECT_TRUE(container->rect().contains(last->geometry()));
+    moveTo({360, 60});
+    EXPECT_EQ(-1, window.shownCaption());
+    EXPECT_FALSE(last->isVisible());
+}
+
+TEST_F(InformationTest, isUsableByKeysAlone) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto* mail = window.findChild<QPushButton*>(u"lnkMail"_s);
+    mail->setFocus();
+    QTest::keyClick(mail, Qt::Key_Return);
+    EXPECT_EQ(QStringList(u"open "_s + mailAddress()), opened());
+    window.findChild<QWidget*>(u"lblCharPos(2)"_s)->setFocus();
+    EXPECT_EQ(2, window.shownCaption());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(InformationTest, everyTextFitsItsPlaceAndIsReadOut) {
+    const QFontMetrics bold(arial(points8_25, true));
+    for (const QString& name : {u"lnkWebPage"_s, u"lnkMail"_s}) {
+        auto* link = window.findChild<QPushButton*>(name);
+        EXPECT_LE(bold.horizontalAdvance(link->text()), 109);
+        EXPECT_EQ(link->text(), QAccessible::queryAccessibleInterface(link)->text(QAccessible::Name));
+    }
+    for (int i = 0; i < frmInformation::figures; ++i) {
+        const QRect strip = window.findChild<QWidget*>(u"imgChar(%1)"_s.arg(i))->geometry();
+        for (const QString& name : {u"lblCharName(%1)"_s, u"lblCharWords(%1)"_s, u"lblZbq(%1)"_s})
+            EXPECT_TRUE(strip.contains(window.findChild<QWidget*>(name.arg(i))->geometry()));
+    }
+    const QFontMetrics plain(arial(points8_25));
+    const QString text = container->accessibleDescription();
+    EXPECT_LE(plain.boundingRect(0, 0, 109, 1000, Qt::AlignHCenter | Qt::TextWordWrap, text).height(), 217);
+}
+
+TEST_F(DialogFixture, theCreditsWindowShowsItsListAndCloses) {
+    alwaysOnTop = 1;
+    frmCredits window(context(), nullptr);
+    window.show();
+    EXPECT_EQ(u"T102"_s, window.windowTitle());
+    EXPECT_EQ(QSize(514, 253), window.size());
+    EXPECT_TRUE(desktop.log.contains(u"top 1"_s));
+    auto* picture = window.findChild<QWidget*>(u"picCredits"_s);
+    EXPECT_EQ(QRect(4, 6, 507, 205), picture->geometry());
+    EXPECT_TRUE(picture->accessibleDescription().contains(authorName()));
+    auto* cmdCancel = window.findChild<QPushButton*>(u"cmdCancel"_s);
+    EXPECT_EQ(QRect(430, 216, 79, 31), cmdCancel->geometry());
+    cmdCancel->click();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST(TaskBar, hidesAndShowsAllWindowsTogether) {
+    const WindowsShown all{true, true, true};
+    const WindowsShown pair{true, true, false};
+    const WindowsShown none{false, false, false};
+    EXPECT_EQ(all, afterTaskBarUse(pair, true, true)) << "at first the windows only come to the front";
+    EXPECT_EQ(pair, afterTaskBarUse(pair, true, false));
+    EXPECT_EQ(none, afterTaskBarUse(all, false, true));
+    EXPECT_EQ(none, afterTaskBarUse(pair, false, false));
+    EXPECT_EQ(all, afterTaskBarUse(none, false, true));
+    EXPECT_EQ(pair, afterTaskBarUse(none, false, false));
+    EXPECT_EQ(pair, afterTaskBarUse({false, true, false}, false, false)) << "the map follows the panel";
+}
+
+TEST(TaskBar, minimisingAndRestoringTheButtonsWindowDoesIt) {
+    QWidget panel;
+    QWidget map;
+    QWidget legend;
+    int legendShown = 1;
+    panel.show();
+    map.show();
+    frmFAKE fake({panel, map, legend, legendShown});
+    fake.showOutside({1280, 1024});
+    EXPECT_EQ(QPoint(2560, 2048), fake.pos());
+    EXPECT_TRUE(panel.isVisible() && map.isVisible() && legend.isVisible());
+    fake.showMinimized();
+    EXPECT_FALSE(panel.isVisible() || map.isVisible() || legend.isVisible());
+    legendShown = 0;
+    fake.showNormal();
+    EXPECT_TRUE(panel.isVisible() && map.isVisible());
+    EXPECT_FALSE(legend.isVisible());
+    QSignalSpy quit(&fake, &frmFAKE::quitWanted);
+    fake.close();
+    EXPECT_EQ(1, quit.count());
+    EXPECT_TRUE(fake.isVisible());
+}
+
+} // namespace
+} // namespace orvinel
