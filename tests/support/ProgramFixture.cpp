@@ -39,22 +39,47 @@ void ProgramFixture::putFile(const char* name, const char* text) {
     disk.put(u"/o/Campaign.03.Frost/"_s + QLatin1String(name), text);
 }
 
-void ProgramFixture::start() {
+void ProgramFixture::load() {
     ASSERT_TRUE(LoadLanguage(state, disk));
     loadTables(state, files);
+}
+
+void ProgramFixture::start() {
+    load();
     panel = std::make_unique<frmMenu>(state, desktop);
     map = std::make_unique<frmMap>(frmMap::Surroundings{state, disk, desktop, panel->MenuRightClickNeeded},
                                    panel.get());
-    wire();
+    makeLayers();
+    wirePanel();
+    QObject::connect(map.get(), &frmMap::regionMenuWanted, map.get(), [this] { ++regionMenus; });
     map->InizializzaVariabili({}, -1, -1);
     panel->Form_Load();
     panel->show();
     map->show();
 }
 
-void ProgramFixture::wire() {
+void ProgramFixture::makeLayers() {
+    zones = std::make_unique<ZonesView>(state, map->art());
+    elites = std::make_unique<EliteView>(state, disk, *panel, *map, [this](int id, bool fromMap) {
+        captures << QString::number(id) + (fromMap ? u" map"_s : u" panel"_s);
+    });
+    greens = std::make_unique<GreensView>(state, *panel, *map);
+    map->setChains({{zones.get(), greens.get(), elites.get()}, {elites.get()}, {elites.get()}});
+    map->setInformationWindows({&elites->window()});
+}
+
+void ProgramFixture::wirePanel() {
     PanelHooks hooks;
-    hooks.filters.fill([](bool) {});
+    hooks.filters.fill([](bool updateMap) { Q_UNUSED(updateMap) });
+    hooks.filters[size_t(Filter::Elites)] = [this](bool update) { elites->FilterEliteSkills(update); };
+    hooks.filters[size_t(Filter::Greens)] = [this](bool update) { greens->FilterGreens(update); };
+    // Stands for the layers that are not there: the last filter of a row is one of theirs.
+    const auto last = [this](bool update) {
+        if (update && panel->MenuReady)
+            map->UpdateMapWithNewEliteSkills();
+    };
+    hooks.filters[size_t(Filter::Notes)] = last;
+    hooks.filters[size_t(Filter::Pets)] = last;
     hooks.showRegion = [this](const QString& picture, int campaign, int region) {
         map->InizializzaVariabili(picture, campaign, region);
     };
@@ -78,21 +103,29 @@ void ProgramFixture::showFjord() {
     chooseRegion(u"Fjord"_s);
 }
 
-QPoint ProgramFixture::inViewport(QPoint at) const {
-    return map->picMap().toWidget(QRect(at, at)).topLeft();
+void ProgramFixture::send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+    MapViewport& viewport = map->picMap();
+    const QPointF place = viewport.toWidget(QRect(at, at)).topLeft();
+    const bool held = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    QMouseEvent event(type, place, viewport.mapToGlobal(place), button,
+                      held ? Qt::MouseButtons(button) : Qt::MouseButtons(), keys);
+    QCoreApplication::sendEvent(&viewport, &event);
 }
 void ProgramFixture::hover(QPoint at) {
-    QTest::mouseMove(&map->picMap(), inViewport(at));
+    send(QEvent::MouseMove, at, Qt::NoButton);
 }
-void ProgramFixture::press(QPoint at, Qt::MouseButton button) {
-    QTest::mousePress(&map->picMap(), button, {}, inViewport(at));
+void ProgramFixture::press(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+    send(QEvent::MouseButtonPress, at, button, keys);
 }
 void ProgramFixture::release(QPoint at, Qt::MouseButton button) {
-    QTest::mouseRelease(&map->picMap(), button, {}, inViewport(at));
+    send(QEvent::MouseButtonRelease, at, button);
 }
+// The second press of a double click comes as the double click alone.
 void ProgramFixture::doubleClick(QPoint at) {
-    QTest::mouseClick(&map->picMap(), Qt::LeftButton, {}, inViewport(at));
-    QTest::mouseDClick(&map->picMap(), Qt::LeftButton, {}, inViewport(at));
+    press(at);
+    release(at);
+    send(QEvent::MouseButtonDblClick, at, Qt::LeftButton);
+    release(at);
 }
 
 QStringList ProgramFixture::texts(const ListBox& list) {

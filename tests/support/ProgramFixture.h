@@ -1,6 +1,9 @@
 #pragma once
 
 #include "app/ProgramState.h"
+#include "layers/modEliteView.h"
+#include "layers/modGreeniesView.h"
+#include "layers/modZonesView.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 #include "ui/map/frmMap.h"
@@ -28,12 +31,19 @@ struct ProgramFixture : testing::Test {
     ProgramState state;
     std::unique_ptr<frmMenu> panel;
     std::unique_ptr<frmMap> map;
+    std::unique_ptr<ZonesView> zones;
+    std::unique_ptr<EliteView> elites;
+    std::unique_ptr<GreensView> greens;
+    // What asked for the capture dialog: "7 map", "7 panel".
+    QStringList captures;
+    int regionMenus = 0; // how often the region menu was asked for
 
     ProgramFixture();
     ~ProgramFixture() override;
 
     // Below the folder of campaign 3.
     void putFile(const char* name, const char* text);
+    void load();
     // Loads the tables, makes and shows the windows, fills the panel.
     void start();
     // By the text of an entry, as the player does.
@@ -45,7 +55,7 @@ struct ProgramFixture : testing::Test {
 
     // Mouse on the viewport at a point of the region picture.
     void hover(QPoint at);
-    void press(QPoint at, Qt::MouseButton button = Qt::LeftButton);
+    void press(QPoint at, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {});
     void release(QPoint at, Qt::MouseButton button = Qt::LeftButton);
     void doubleClick(QPoint at);
 
@@ -60,8 +70,9 @@ struct ProgramFixture : testing::Test {
 
   private:
     void choose(ItemCombo& combo, const QString& text);
-    void wire();
-    QPoint inViewport(QPoint at) const;
+    void makeLayers();
+    void wirePanel();
+    void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys = {});
 };
 
 // A picture of one colour as a JPEG file.

@@ -16,7 +16,8 @@ Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
 }
 
 void Label::setCaption(const QString& text) {
-    setText(text);
+    // CR LF would be two line breaks.
+    setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     if (named_)
         named_->setAccessibleName(text);
     fit();

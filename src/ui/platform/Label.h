@@ -14,7 +14,7 @@ class Label : public QLabel {
     // `name` is the control's fixed name.
     Label(const QString& name, QWidget* parent);
 
-    // Sets the text and the label's size. Its top left corner stays.
+    // Sets the text, whose lines may end with CR LF, and the label's size. Its top left corner stays.
     void setCaption(const QString& text);
     // Wraps words at this width, pixels, from now on; 0: one line per line of text.
     void setWrapWidth(int pixels);

@@ -1,0 +1,195 @@
+#include "support/ProgramFixture.h"
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+// The panel alone: every hook writes down that it was called. A filter that finds the panel not ready does
+// nothing, as in the program.
+struct PanelTest : ProgramFixture {
+    QStringList log;
+
+    void startPanel() {
+        load();
+        panel = std::make_unique<frmMenu>(state, desktop);
+        PanelHooks hooks;
+        for (size_t i = 0; i < filterCount; ++i)
+            hooks.filters[i] = [this, i](bool update) {
+                if (panel->MenuReady)
+                    log << QString(u"ECGNTP"_s[qsizetype(i)]) + (update ? u'1' : u'0');
+            };
+        hooks.showRegion = [this](const QString& picture, int campaign, int region) {
+            log << u"show %1 %2 %3"_s.arg(picture.section(u'/', -1)).arg(campaign).arg(region);
+        };
+        hooks.updateMap = [this] { log << u"update"_s; };
+        hooks.drawMap = [this] { log << u"draw"_s; };
+        hooks.switchFlashing = [this](int layer, bool on) { log << u"flash %1 %2"_s.arg(layer).arg(on); };
+        hooks.openMenu = [](int) {};
+        hooks.quit = [] {};
+        hooks.maximised = [] { return false; };
+        panel->setHooks(std::move(hooks));
+        panel->Form_Load();
+    }
+    // What was called since the last look.
+    QString calls() { return std::exchange(log, {}).join(u' '); }
+    template <typename Change>
+    QString callsOf(Change change) {
+        calls();
+        change();
+        return calls();
+    }
+};
+
+const QString allSix = u"E0 C0 G0 N0 T0 P1"_s;
+const QString firstFour = u"E0 C0 G0 N1"_s;
+
+TEST_F(PanelTest, theLoadSequenceFiltersOnceAtItsEnd) {
+    disk.put(u"/o/Data/Options.txt"_s, "Campaign\t2\r\nRegion\t1\r\n");
+    state.AppOptions = {};
+    startPanel();
+    const QString loaded = calls();
+    EXPECT_TRUE(loaded.endsWith(allSix)) << loaded.toStdString();
+    EXPECT_EQ(1, loaded.count(u"E0"_s));
+    EXPECT_TRUE(panel->MenuReady);
+    EXPECT_EQ(u"<<< Text 4 >>>"_s, panel->elitePage().cmbCharacter->currentText());
+    EXPECT_EQ(0, panel->tabs().active());
+}
+
+TEST_F(PanelTest, campaignRegionAndZoneRunAllFiltersWithOneRedraw) {
+    startPanel();
+    EXPECT_EQ(u"show  -1 -1 "_s + allSix, callsOf([&] { chooseCampaign(u"Frost"_s); }));
+    EXPECT_EQ(u"show 1.jpg 3 1 "_s + allSix, callsOf([&] { chooseRegion(u"Fjord"_s); }));
+    EXPECT_TRUE(panel->selection().cmbZone->isEnabled());
+    int clicks = 0;
+    ListBox* skills = panel->elitePage().lstElite;
+    QObject::connect(skills, &ListBox::picked, skills, [&] { ++clicks; });
+    EXPECT_EQ(allSix, callsOf([&] { chooseZone(u"Harbour"_s); }));
+    EXPECT_EQ(0, clicks);
+    skills->setEntries({{u"x"_s, 1}, {u"y"_s, 2}});
+    chooseZone(u"Cliffs"_s);
+    EXPECT_EQ(1, clicks);
+    EXPECT_EQ(0, skills->selectedIndex());
+    panel->selection().cmbZone->select(0);
+    EXPECT_EQ(1, clicks);
+    EXPECT_EQ(u"show  -1 -1 "_s + allSix, callsOf([&] { panel->selection().cmbRegion->select(0); }));
+    EXPECT_FALSE(panel->selection().cmbZone->isEnabled());
+}
+
+TEST_F(PanelTest, professionAndAttributeRunTheFirstFour) {
+    startPanel();
+    SelectionArea& top = panel->selection();
+    EXPECT_EQ(firstFour, callsOf([&] { top.cmbProfession->select(top.cmbProfession->findText(u"Mage"_s)); }));
+    EXPECT_TRUE(panel->elitePage().cmbSecondaryProfession->isEnabled());
+    EXPECT_EQ(4, top.cmbAttribute->count());
+    EXPECT_EQ(firstFour, callsOf([&] { top.cmbAttribute->select(1); }));
+    EXPECT_EQ(u"Fire"_s, panel->eliteChoice().attribute);
+    EXPECT_EQ(u"E1"_s, callsOf([&] { panel->elitePage().cmbSecondaryProfession->select(1); }));
+    EXPECT_EQ(firstFour, callsOf([&] { top.cmbProfession->select(0); }));
+    EXPECT_FALSE(panel->elitePage().cmbSecondaryProfession->isEnabled());
+    EXPECT_FALSE(panel->elitePage().lblSecondaryProfession->isEnabled());
+}
+
+TEST_F(PanelTest, everySearchFieldFiltersItsOwnListAtEachKey) {
+    startPanel();
+    const std::vector<std::pair<const char*, QString>> fields = {
+        {"txtEliteName", u"E1 E1"_s},  {"txtEliteBossName", u"E1 E1"_s},   {"txtCollSearch", u"C1 C1"_s},
+        {"txtGreensName", u"G1 G1"_s}, {"txtGreenAdditional", u"G1 G1"_s}, {"txtNoteShortDesc", u"N1 N1"_s},
+        {"txtNoteBody", u"N1 N1"_s}};
+    for (const auto& [name, expected] : fields)
+        EXPECT_EQ(expected, callsOf([&] { QTest::keyClicks(on<QLineEdit>(*panel, name), u"ab"_s); })) << name;
+}
+
+TEST_F(PanelTest, theCaptureOptionSwitchesTheCharacterList) {
+    startPanel();
+    ElitePage& page = panel->elitePage();
+    EXPECT_EQ(u"E1"_s, callsOf([&] { page.optCapture[1]->click(); }));
+    EXPECT_TRUE(page.cmbCharacter->isEnabled());
+    EXPECT_EQ(u"E1"_s, callsOf([&] { page.cmbCharacter->select(0); }));
+    EXPECT_EQ(u"E1"_s, callsOf([&] { page.optCapture[0]->click(); }));
+    EXPECT_FALSE(page.cmbCharacter->isEnabled());
+}
+
+TEST_F(PanelTest, armourHasNoHandAndIsFilteredOnce) {
+    startPanel();
+    CollectorsPage& page = panel->collectorsPage();
+    EXPECT_EQ(u"C1"_s, callsOf([&] { page.cmbCollHand->select(2); }));
+    EXPECT_EQ(u"C1"_s, callsOf([&] { page.optCollType[2]->click(); }));
+    EXPECT_EQ(0, page.cmbCollHand->currentIndex());
+    EXPECT_FALSE(page.cmbCollHand->isEnabled());
+    EXPECT_FALSE(page.lblCollhand->isEnabled());
+    EXPECT_EQ(u"C1"_s, callsOf([&] { page.optCollType[1]->click(); }));
+    EXPECT_TRUE(page.cmbCollHand->isEnabled());
+    EXPECT_EQ(u"C1"_s, callsOf([&] { page.optCollLevel[1]->click(); }));
+    EXPECT_EQ(u"C1"_s, callsOf([&] { page.cmbCollReq->select(0); }));
+}
+
+TEST_F(PanelTest, aLayersBoxSwitchesItsBlinkingAndRedraws) {
+    startPanel();
+    SmallCheckBox* notes = panel->tabs().chkShowObject[3];
+    EXPECT_EQ(u"flash 3 0 draw"_s, callsOf([&] { notes->setValue(0); }));
+    EXPECT_EQ(u"flash 3 1 draw"_s, callsOf([&] { notes->setValue(1); }));
+    panel->MenuReady = false;
+    EXPECT_EQ(QString(), callsOf([&] { notes->setValue(0); }));
+}
+
+TEST_F(PanelTest, aFilterRefillsItsListAndEmptiesThePlacesUnlessThePanelIsNotReady) {
+    startPanel();
+    ElitePage& page = panel->elitePage();
+    const frmMenu::Refill refill{*page.lstElite, *page.lblTot, 32, [] {
+                                     return std::vector<ListEntry>{{u"x"_s, 5}};
+                                 }};
+    page.lstLocations->setEntries({{u"somewhere"_s, 1}});
+    page.lstLocations->setEnabled(true);
+    panel->MenuReady = false;
+    panel->runFilter(refill, true);
+    EXPECT_EQ(0, page.lstElite->count());
+    EXPECT_EQ(1, page.lstLocations->count());
+    panel->MenuReady = true;
+    EXPECT_EQ(QString(), callsOf([&] { panel->runFilter(refill, false); }));
+    EXPECT_EQ(u"update"_s, callsOf([&] { panel->runFilter(refill, true); }));
+    EXPECT_EQ(u"Text 32: 1"_s, page.lblTot->text());
+    EXPECT_EQ(0, page.lstLocations->count());
+    EXPECT_FALSE(page.lstLocations->isEnabled());
+}
+
+TEST_F(PanelTest, theRowOfTheActiveTabLiesNextToThePages) {
+    startPanel();
+    TabStrip& tabs = panel->tabs();
+    const int upper = tabs.lblTab[3]->y();
+    const int lower = tabs.lblTab[0]->y();
+    ASSERT_LT(upper, lower);
+    tabs.activate(3);
+    for (const size_t i : {3, 4})
+        EXPECT_EQ(lower, tabs.lblTab[i]->y());
+    for (const size_t i : {0, 1, 2}) {
+        EXPECT_EQ(upper, tabs.lblTab[i]->y());
+        EXPECT_EQ(upper + 2, tabs.chkShowObject[i]->y());
+    }
+    EXPECT_TRUE(panel->elitePage().isHidden());
+    EXPECT_FALSE(panel->notesPage().isHidden());
+    tabs.activate(4);
+    EXPECT_EQ(lower, tabs.lblTab[4]->y());
+    tabs.activate(1);
+    EXPECT_EQ(lower, tabs.lblTab[1]->y());
+    EXPECT_EQ(1, tabs.active());
+}
+
+TEST_F(PanelTest, theListsFollowThePanelsHeight) {
+    startPanel();
+    panel->resize(panel->width(), 620);
+    panel->show();
+    ElitePage& page = panel->elitePage();
+    const int half = (page.height() - page.lstElite->y() - page.lblLocations->height() - 5 - 2) / 2;
+    EXPECT_EQ(620 - page.y() + 1, page.height());
+    EXPECT_EQ(half, page.lstElite->height());
+    EXPECT_LE(page.lstElite->geometry().bottom(), page.lblLocations->y());
+    EXPECT_EQ(0, (page.lstLocations->height() - 2 * ListBox::frame) % ListBox::rowHeight);
+    EXPECT_EQ(page.inner()->height() - 5, page.lstLocations->y() + page.lstLocations->height());
+    const CollectorsPage& collectors = panel->collectorsPage();
+    EXPECT_EQ(collectors.inner()->height() - 5,
+              collectors.lstCollectors->y() + collectors.lstCollectors->height());
+}
+
+} // namespace
+} // namespace orvinel
