@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 constexpr QRgb red = 0xFFFF0000;
 constexpr QRgb grey = 0xFFAAAAAA;
 constexpr QRgb green = 0xFF00FF00;
-constexpr QPoint bront(100, 100); // Flare, also covered by the Chorister's marker from 100 on
+constexpr QPoint bront(97, 100); // the Chorister's marker begins at 100
 constexpr QPoint second(300, 300);
 constexpr QPoint chorister(111, 100);
 constexpr QPoint nobody(200, 200);

@@ -10,8 +10,9 @@ using namespace Qt::Literals::StringLiterals;
 struct PanelTest : ProgramFixture {
     QStringList log;
 
-    void startPanel() {
+    void startPanel(const Options& remembered = {}) {
         load();
+        state.AppOptions = remembered;
         panel = std::make_unique<frmMenu>(state, desktop);
         PanelHooks hooks;
         for (size_t i = 0; i < filterCount; ++i)
@@ -45,12 +46,13 @@ const QString allSix = u"E0 C0 G0 N0 T0 P1"_s;
 const QString firstFour = u"E0 C0 G0 N1"_s;
 
 TEST_F(PanelTest, theLoadSequenceFiltersOnceAtItsEnd) {
-    disk.put(u"/o/Data/Options.txt"_s, "Campaign\t2\r\nRegion\t1\r\n");
-    state.AppOptions = {};
-    startPanel();
-    const QString loaded = calls();
-    EXPECT_TRUE(loaded.endsWith(allSix)) << loaded.toStdString();
-    EXPECT_EQ(1, loaded.count(u"E0"_s));
+    Options remembered;
+    remembered.Campaign = 2;
+    remembered.Region = 1;
+    remembered.ShowNotes = 0;
+    startPanel(remembered);
+    EXPECT_EQ(u"show  -1 -1 show 1.jpg 3 1 "_s + allSix, calls());
+    EXPECT_FALSE(panel->layerShown(3));
     EXPECT_TRUE(panel->MenuReady);
     EXPECT_EQ(u"<<< Text 4 >>>"_s, panel->elitePage().cmbCharacter->currentText());
     EXPECT_EQ(0, panel->tabs().active());
@@ -186,6 +188,7 @@ TEST_F(PanelTest, theListsFollowThePanelsHeight) {
     EXPECT_LE(page.lstElite->geometry().bottom(), page.lblLocations->y());
     EXPECT_EQ(0, (page.lstLocations->height() - 2 * ListBox::frame) % ListBox::rowHeight);
     EXPECT_EQ(page.inner()->height() - 5, page.lstLocations->y() + page.lstLocations->height());
+    panel->tabs().activate(1);
     const CollectorsPage& collectors = panel->collectorsPage();
     EXPECT_EQ(collectors.inner()->height() - 5,
               collectors.lstCollectors->y() + collectors.lstCollectors->height());
