@@ -5,9 +5,10 @@
 #include "ui/platform/ListBox.h"
 
 #include <QAccessible>
+#include <QElapsedTimer>
 #include <QTest>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace orvinel {
 namespace {
@@ -76,6 +77,36 @@ TEST_F(ListBoxTest, newEntriesClearTheSelectionSilently) {
     EXPECT_EQ(1, picks);
     EXPECT_FALSE(list.hasSelection());
     EXPECT_EQ(9, list.items()[0]);
+}
+
+TEST_F(ListBoxTest, checkBoxesAreToggledByClickAndSpaceAndNotByCode) {
+    std::vector<std::pair<int, bool>> toggles;
+    QObject::connect(&list, &ListBox::checkToggled,
+                     [&](int index, bool on) { toggles.emplace_back(index, on); });
+    list.setChecks({false, true, false});
+    EXPECT_TRUE(list.isChecked(1));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {8, middleOf(1).y()});
+    click(2);
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_THAT(toggles, testing::ElementsAre(std::pair(1, false), std::pair(2, true)));
+    EXPECT_EQ(2, picks);
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list);
+    EXPECT_TRUE(tree->child(2)->state().checked);
+    EXPECT_FALSE(tree->child(1)->state().checked);
+    list.setEntries({{u"delta"_s, 9}});
+    EXPECT_FALSE(list.isChecked(0));
+}
+
+TEST_F(ListBoxTest, thousandsOfCheckBoxesAppearAtOnce) {
+    std::vector<ListEntry> entries;
+    for (int i = 0; i < 20'000; ++i)
+        entries.push_back({u"entry %1"_s.arg(i), i});
+    QElapsedTimer timer;
+    timer.start();
+    list.setEntries(std::move(entries));
+    list.setChecks(std::vector<bool>(20'000, true));
+    QCoreApplication::processEvents();
+    EXPECT_LT(timer.elapsed(), 200);
 }
 
 TEST_F(ListBoxTest, everyRowStandsInTheAccessibilityTree) {

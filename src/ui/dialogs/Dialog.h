@@ -5,8 +5,14 @@
 #include "app/ProgramState.h"
 
 #include <QDialog>
+#include <QRect>
+
+class QPushButton;
 
 namespace orvinel {
+
+class Label;
+class ListBox;
 
 // What every dialog works on. All outlive the dialogs.
 struct DialogContext {
@@ -30,10 +36,28 @@ class Dialog : public QDialog {
     PlayerFiles& files() { return context_.files; }
     Desktop& desktop() { return context_.desktop; }
     DialogContext context() const { return context_; }
+
+    // Runs once, just before the dialog appears for the first time: its inputs are known by then.
+    virtual void load() {}
+
+    // The controls with their fixed names; places are pixels of the client area. Tab goes through them in the
+    // order in which they are added.
+    Label* addLabel(const QString& name, QPoint at, const QString& caption);
+    // `caption` says what the list holds to those who cannot see the label above it.
+    ListBox* addList(const QString& name, const QRect& place, const QString& caption);
+    QPushButton* addButton(const QString& name, const QRect& place, const QString& caption);
+    // A button keeps the letter that Alt presses it with as long as its caption has that letter.
+    static void setCaption(QPushButton& button, const QString& caption);
+
+    // Of the program, with an OK button.
+    void tellProblem(const QString& text);
+
     void showEvent(QShowEvent* event) override;
 
   private:
     DialogContext context_;
+    QString letters_; // of the buttons, lower case
+    bool loaded_ = false;
 };
 
 } // namespace orvinel

@@ -1,10 +1,13 @@
 #include "ui/platform/ListBox.h"
 
 #include <QAbstractListModel>
+#include <QAccessible>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace orvinel {
@@ -15,6 +18,8 @@ class ListModel : public QAbstractListModel {
 
     std::vector<ListEntry> entries;
     std::vector<int> items;
+    std::vector<bool> checks; // one for each entry, or none
+    std::function<void(int index, bool on)> toggled;
     int extent = 0;
 
     void replace(std::vector<ListEntry> fresh) {
@@ -24,7 +29,13 @@ class ListModel : public QAbstractListModel {
         items.reserve(entries.size());
         for (const ListEntry& entry : entries)
             items.push_back(entry.data);
+        checks.clear();
         endResetModel();
+    }
+    void setChecks(std::vector<bool> states) {
+        checks = std::move(states);
+        if (!entries.empty())
+            emit dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
     }
     void setExtent(int pixels) {
         extent = pixels;
@@ -39,12 +50,29 @@ class ListModel : public QAbstractListModel {
         const ListEntry& entry = entries[static_cast<size_t>(index.row())];
         if (role == Qt::DisplayRole)
             return entry.text;
+        if (role == Qt::CheckStateRole && !checks.empty())
+            return checks[static_cast<size_t>(index.row())] ? Qt::Checked : Qt::Unchecked;
         return role == Qt::UserRole ? QVariant(entry.data) : QVariant();
+    }
+    Qt::ItemFlags flags(const QModelIndex& index) const override {
+        const Qt::ItemFlags usual = QAbstractListModel::flags(index);
+        return checks.empty() ? usual : usual | Qt::ItemIsUserCheckable;
+    }
+    // What the view does with a click on a check box and with Space.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override {
+        if (role != Qt::CheckStateRole || checks.empty())
+            return false;
+        const bool on = value.toInt() == Qt::Checked;
+        checks[static_cast<size_t>(index.row())] = on;
+        emit dataChanged(index, index, {Qt::CheckStateRole});
+        toggled(index.row(), on);
+        return true;
     }
 };
 
 ListBox::ListBox(const QString& name, QWidget* parent) : QListView(parent), model_(new ListModel(this)) {
     setObjectName(name);
+    model_->toggled = [this](int index, bool on) { tellToggled(index, on); };
     setModel(model_);
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -97,12 +125,30 @@ void ListBox::selectData(int wanted) {
         select(static_cast<int>(found - model_->items.begin()));
 }
 
+void ListBox::setChecks(std::vector<bool> checked) {
+    model_->setChecks(std::move(checked));
+}
+
+bool ListBox::isChecked(int index) const {
+    return !model_->checks.empty() && model_->checks[static_cast<size_t>(index)];
+}
+
+void ListBox::tellToggled(int index, bool on) {
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent told(this, changed);
+    told.setChild(index);
+    QAccessible::updateAccessibility(&told);
+    emit checkToggled(index, on);
+}
+
 void ListBox::setHorizontalExtent(int pixels) {
     model_->setExtent(pixels);
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && hasSelection()) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && hasSelection() && isSignalConnected(QMetaMethod::fromSignal(&ListBox::activatedEntry))) {
         emit activatedEntry();
         return;
     }
@@ -126,6 +172,9 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
     const bool before = hasSelection();
     const QModelIndex pressed = indexAt(event->position().toPoint());
     QListView::mousePressEvent(event);
+    // A press on a check box is not passed on: without this, Space would act on another entry than the click.
+    if (event->button() == Qt::LeftButton && pressed.isValid() && pressed != currentIndex())
+        setCurrentIndex(pressed);
     if (!pickedByPress_ && pressed.isValid() && pressed == currentIndex() &&
         event->button() == Qt::LeftButton) {
         if (!before)

@@ -20,7 +20,9 @@ class ListBox : public QListView {
     static constexpr int rowHeight = 14; // pixels
     static constexpr int frame = 2;      // pixels on each side
     // The largest height that shows whole lines only and is at most `height`.
-    static int wholeLines(int height) { return (height - 2 * frame) / rowHeight * rowHeight + 2 * frame; }
+    static constexpr int wholeLines(int height) {
+        return (height - 2 * frame) / rowHeight * rowHeight + 2 * frame;
+    }
 
     // Nothing is selected afterwards; no picked() is emitted.
     void setEntries(std::vector<ListEntry> entries);
@@ -43,13 +45,21 @@ class ListBox : public QListView {
     // Selects the first entry with that data, if there is one.
     void selectData(int wanted);
 
+    // Gives each entry a check box, which the player toggles by a click on it or by Space. One state for each
+    // entry; none at all takes the boxes away, as new entries do.
+    void setChecks(std::vector<bool> checked);
+    // False without check boxes.
+    bool isChecked(int index) const;
+
     // Pixels that can be scrolled into view sideways; 0: as wide as the list.
     void setHorizontalExtent(int pixels);
 
   signals:
     void picked();
-    // Double click, or Enter on the selected entry.
+    // Double click, or Enter on the selected entry. While nobody listens, Enter is left to the window.
     void activatedEntry();
+    // By the player only.
+    void checkToggled(int index, bool on);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -58,6 +68,8 @@ class ListBox : public QListView {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
+    void tellToggled(int index, bool on);
+
     ListModel* model_;
     int revision_ = 0;
     bool silent_ = false;
