@@ -47,7 +47,7 @@ PathFinder::PathFinder(const Landscape& land)
             const int x = column * kPace;
             const int y = row * kPace;
             const double height = land.height.clamped(x, y);
-            double toll = 1 + std::max(0.0, height - 0.25) * 14 +
+            double toll = 1 + std::max(0.0, height - 0.25) * 22 +
                           1.1 * (1 + land.noises.d.fbm(column / 10.0, row / 10.0, 2));
             toll += 2.5 * smoothStep(0.1, 0.25, land.woodsAt(x, y));
             if (land.toWater.clamped(x, y) < 12)
