@@ -26,6 +26,8 @@ frmFAKE::frmFAKE(TaskBarGroup group) : QWidget(nullptr, Qt::Window | Qt::Framele
     setWindowTitle(u"Orvinel (%1)"_s.arg(byLine()));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFixedSize(1, 1);
+    // Window managers that insist on pulling it onto the screen find nothing to show.
+    setMask(QRegion(-1, -1, 1, 1));
 }
 
 void frmFAKE::showOutside(QSize screens) {

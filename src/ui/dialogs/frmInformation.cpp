@@ -27,7 +27,7 @@ constexpr std::array<QRect, frmInformation::figures> figurePlaces = {
 constexpr QSize captionSize(120, 44);
 constexpr int captionGap = 4; // below the figure
 constexpr int captionTextLeft = 26;
-constexpr std::array<int, 3> captionTextTops = {3, 16, 29};
+constexpr std::array<int, 3> captionTextTops = {5, 17, 28};
 constexpr QRect dedicationPlace(QPoint(22, 88), QPoint(130, 304));
 constexpr QRect headingPlace(QPoint(14, 58), QPoint(138, 72));
 constexpr QRect webPlace(QPoint(22, 360), QPoint(130, 373));
