@@ -43,6 +43,11 @@ WorldSource multiplied(const WorldSource& source, int factor) {
     });
     multiply(world.bosses, factor, [&](SourceBoss& boss, int copy) {
         boss.skill += boss.skill == 0 ? 0 : copy * NumberStep;
+        if (boss.name == AlwaysGenerous) {
+            // Its copies have other names: nothing may keep them from dropping the copied green items.
+            boss.code.clear();
+            boss.note.clear();
+        }
         boss.name = copyName(boss.name, copy);
         boss.zone += copy * zoneCount;
     });

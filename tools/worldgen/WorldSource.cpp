@@ -28,7 +28,7 @@ bool kindFitsCampaign(ZoneKind kind, int campaign) {
 /// Bosses of dungeons and of passing events drop no green items, but for the one that is at home in both.
 bool carriesGreens(const SourceBoss& boss) {
     const bool passing = boss.note.startsWith(u"only during", Qt::CaseInsensitive) || boss.code == u"D";
-    return !passing || boss.name == u"Quillon Brackfin";
+    return !passing || boss.name == AlwaysGenerous;
 }
 
 struct ZoneWord {

@@ -17,6 +17,9 @@ enum class ZoneKind { Area = 1, Outpost = 2, Mission = 3, Town = 4, Challenge = 
 /// multiples of it, get numbers of their own.
 constexpr int NumberStep = 600;
 
+/// The one boss that drops its green items whatever its code and note say. The program knows it by name.
+inline constexpr QStringView AlwaysGenerous = u"Quillon Brackfin";
+
 struct SourceCampaign {
     int number = 0;
     QString name;    ///< the word after the number in the folder name; holds no dot
