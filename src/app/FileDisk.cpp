@@ -56,6 +56,14 @@ QString folderOf(const QString& path) {
     return path.first(path.lastIndexOf(u'/'));
 }
 
+std::vector<QString> namesIn(const QString& folder) {
+    const QStringList names = QDir(folder).entryList(
+        QDir::Dirs | QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    std::vector<QString> sorted(names.begin(), names.end());
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
 } // namespace
 
 QString FileDisk::resolve(const QString& path) const {
@@ -66,7 +74,7 @@ QString FileDisk::resolve(const QString& path) const {
     for (const QString& component : components) {
         QString found = component;
         if (!exists(resolved + component)) {
-            const std::vector<QString> names = list(resolved);
+            const std::vector<QString> names = namesIn(resolved);
             const auto same = std::find_if(names.begin(), names.end(), [&](const QString& name) {
                 return name.compare(component, Qt::CaseInsensitive) == 0;
             });
@@ -89,11 +97,7 @@ bool FileDisk::folderExists(const QString& path) const {
 }
 
 std::vector<QString> FileDisk::list(const QString& folder) const {
-    const QStringList names = QDir(folder).entryList(
-        QDir::Dirs | QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
-    std::vector<QString> sorted(names.begin(), names.end());
-    std::sort(sorted.begin(), sorted.end());
-    return sorted;
+    return folder.isEmpty() ? std::vector<QString>() : namesIn(resolve(folder));
 }
 
 ReadResult FileDisk::read(const QString& path) const {

@@ -127,6 +127,7 @@ TEST(FileDisk, matchesNamesWithoutRegardToCase) {
     ASSERT_FALSE(disk.replace(base + u"/DATA/A[1].txt"_s, "y"));
     EXPECT_EQ("y", disk.read(base + u"/Data/a[1].txt"_s).bytes);
     EXPECT_EQ(1u, disk.list(base).size());
+    EXPECT_EQ(std::vector<QString>{u"a[1].txt"_s}, disk.list(base + u"/DATA"_s));
     EXPECT_EQ(0, disk.length(base + u"/Data"_s));
     EXPECT_EQ(ReadResult::Outcome::Failed, disk.read(base + u"/Data"_s).outcome);
     EXPECT_TRUE(disk.rename(base + u"/Data/a[1].txt"_s, base + u"/data/a[1].TXT"_s));

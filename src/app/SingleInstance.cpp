@@ -1,4 +1,4 @@
-#include "ui/platform/SingleInstance.h"
+#include "app/SingleInstance.h"
 
 #ifdef Q_OS_WIN
 #include <QCryptographicHash>

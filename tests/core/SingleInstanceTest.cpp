@@ -1,4 +1,4 @@
-#include "ui/platform/SingleInstance.h"
+#include "app/SingleInstance.h"
 
 #include <QTemporaryDir>
 
