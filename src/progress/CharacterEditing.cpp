@@ -156,12 +156,14 @@ std::vector<ListEntry> editorProfessionEntries(const ProgramState& state) {
 
 void selectListed(SkillSelection& selection, ListedItems listed, bool selected) {
     for (const int id : listed)
-        selection[static_cast<size_t>(id)] = selected;
+        if (isMarkable(id))
+            selection[static_cast<size_t>(id)] = selected;
 }
 
 void invertListed(SkillSelection& selection, ListedItems listed) {
     for (const int id : listed)
-        selection[static_cast<size_t>(id)] = !selection[static_cast<size_t>(id)];
+        if (isMarkable(id))
+            selection[static_cast<size_t>(id)] = !selection[static_cast<size_t>(id)];
 }
 
 SaveResult saveCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit& edit, bool evenIfChanged) {

@@ -34,6 +34,7 @@ std::vector<ListEntry> editorSkillEntries(const ProgramState& state, int campaig
 // campaigns has the panel's entries.)
 std::vector<ListEntry> editorProfessionEntries(const ProgramState& state);
 
+// Skills that are not markable keep their state: what is shown as checked can be saved.
 void selectListed(SkillSelection& selection, ListedItems listed, bool selected);
 void invertListed(SkillSelection& selection, ListedItems listed);
 

@@ -186,6 +186,9 @@ TEST_F(ManageCharacter, leavesASkillUncheckedWhoseNumberTheFileCannotHold) {
     EXPECT_FALSE(skills().isChecked(skills().selectedIndex()));
     EXPECT_EQ(u"message Critical Orvinel|"_s + ownText(state, OwnText::SkillNumberTooLarge),
               desktop.log.last());
+    press("cmdSelectAll");
+    EXPECT_FALSE(checks().back());
+    EXPECT_TRUE(checks().front());
 }
 
 struct CharacterList : DialogFixture {

@@ -86,6 +86,15 @@ TEST_F(ManageNote, aLongTitleFromTheFileStaysWholeButCannotGrow) {
     EXPECT_EQ(QString(30, u'a'), title().text());
 }
 
+TEST_F(ManageNote, staysAboveOtherWindowsWhenTheProgramDoes) {
+    open(-1);
+    EXPECT_EQ(u"top 0"_s, desktop.log.last());
+    dialog.hide();
+    alwaysOnTop = 1;
+    dialog.show();
+    EXPECT_EQ(u"top 1"_s, desktop.log.last());
+}
+
 TEST_F(ManageNote, cancelAndAFailedSaveStoreNothing) {
     open(-1);
     breakDisk();
