@@ -85,7 +85,7 @@ Landscape::Landscape(const RegionRecipe& recipe)
                0.25 * height.clamped(int(x), int(y));
     });
     woods = coarseLayer(w, h, kPatch, [&](double x, double y) {
-        return palette.moisture + palette.woods + 0.55 * noises.b.fbm(x / 330, y / 330, 4) +
+        return palette.moisture + 0.55 * noises.b.fbm(x / 330, y / 330, 4) +
                0.55 * noises.a.fbm(x / 120 + 40, y / 120, 3);
     });
 }

@@ -19,7 +19,6 @@ struct Palette {
     double snowline = 1; ///< height above which snow lies; above 1.2: none
     TreeStyle lowland = TreeStyle::Broadleaf;
     TreeStyle upland = TreeStyle::Conifer;
-    double woods = 0; ///< added to the forest noise: more is denser
 };
 
 Palette paletteOf(Theme theme, int campaign);
