@@ -4,6 +4,9 @@
 #include "app/Saving.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/modEliteView.h"
+#include "layers/modGreeniesView.h"
+#include "ui/dialogs/frmMarkEliteAsCaptured.h"
 
 #include <QScopeGuard>
 
@@ -13,11 +16,20 @@ using namespace Qt::Literals::StringLiterals;
 
 // The views of the content, and the orders in which the chains ask them.
 struct Program::Layers {
-    Layers(ProgramState& state, frmMap& map) : zones(state, map.art()) {}
+    explicit Layers(Program& program)
+        : zones(program.state_, program.map_->art()), greens(program.state_, *program.panel_, *program.map_),
+          elites(program.state_, program.files_.disk(), *program.panel_, *program.map_,
+                 [&program](int skill, bool fromMap) { program.openCapture(skill, fromMap); }) {}
 
     ZonesView zones;
+    GreensView greens;
+    EliteView elites;
 
-    frmMap::Chains chains() { return {.drawing = {&zones}, .mouseOver = {}, .doubleClick = {}}; }
+    frmMap::Chains chains() {
+        return {.drawing = {&zones, &greens, &elites}, .mouseOver = {&elites}, .doubleClick = {&elites}};
+    }
+    // In the order in which they are hidden.
+    std::vector<InformationWindow*> windows() { return {&elites.window()}; }
 };
 
 Program::Program(QString appPath, Disk& disk, Desktop& desktop, std::function<void(int)> endProcess)
@@ -67,13 +79,18 @@ void Program::makeWindows() {
 }
 
 void Program::makeLayers() {
-    layers_ = std::make_unique<Layers>(state_, *map_);
+    layers_ = std::make_unique<Layers>(*this);
     map_->setChains(layers_->chains());
+    map_->setInformationWindows(layers_->windows());
 }
 
 void Program::wirePanel() {
     PanelHooks hooks;
     hooks.filters.fill([](bool) {});
+    hooks.filters[size_t(Filter::Elites)] = [this](bool update) {
+        layers_->elites.FilterEliteSkills(update);
+    };
+    hooks.filters[size_t(Filter::Greens)] = [this](bool update) { layers_->greens.FilterGreens(update); };
     hooks.filters.back() = [this](bool updateMap) {
         if (updateMap)
             map_->UpdateMapWithNewEliteSkills();
@@ -89,6 +106,19 @@ void Program::wirePanel() {
     hooks.maximised = [this] { return MapMaximised_; };
     panel_->setHooks(std::move(hooks));
     connect(panel_.get(), &frmMenu::attachMap, this, &Program::attachMap);
+}
+
+void Program::openCapture(int skill, bool fromMap) {
+    QWidget* owner = fromMap ? static_cast<QWidget*>(map_) : panel_.get();
+    auto* dialog = new frmMarkEliteAsCaptured(
+        dialogContext(), [this] { layers_->elites.FilterEliteSkills(true); }, owner);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->SetEliteNumber(skill);
+    dialog->SetCharacter(panel_->elitePage().cmbCharacter->data());
+    if (fromMap)
+        dialog->exec();
+    else
+        dialog->show();
 }
 
 void Program::wireMap() {

@@ -45,6 +45,9 @@ class Program : public QObject {
     void makeLayers();
     void wirePanel();
     void wireMap();
+    DialogContext dialogContext() { return {state_, files_, desktop_, panel_->MenuAlwaysOnTop}; }
+    // Modal over the map, or beside the panel.
+    void openCapture(int skill, bool fromMap);
     void showWindows();
     void RestoreWindowPlacement();
     void place(const WindowPair& pair);

@@ -15,16 +15,17 @@ constexpr int windowWidth = 312;
 constexpr int left = 14; // of everything but the column beside the picture
 constexpr int textWidth = windowWidth - 2 * left;
 constexpr int nameTop = 5;
-constexpr QRect picturePlace(left, 27, 64, 64);
+constexpr int nameMargin = 2; // above and below the name in its band
+constexpr QRect picturePlace(left, 31, 64, 64);
 constexpr int besidePicture = 88;
-constexpr int rowTop = 27; // of the first row beside the picture
+constexpr int rowTop = 31; // of the first row beside the picture
 constexpr int rowStep = 15;
 constexpr int columnGap = 8; // between captions and values
-constexpr int costTop = 74;
-constexpr int costStep = 43; // five costs fill the column
+constexpr int costTop = 79;
+constexpr int costStep = 43; // five costs fill the column; those that are seen stand from its left
 constexpr int iconSize = 16;
 constexpr int costTextTop = costTop + 2;
-constexpr int descriptionTop = 97;
+constexpr int descriptionTop = 102;
 constexpr int statsIndent = 8;
 
 // Distances of the flowing part.
@@ -42,11 +43,11 @@ constexpr Colour bossColour = 0x9CD8FF;
 constexpr Colour greenColour = 0x8CF08C;
 constexpr Colour statsColour = 0xD8F0D8;
 
-// Black or white, whichever can be read on the ground.
+// Black or white, whichever can be read on the ground, which the map below makes darker.
 Colour readableOn(Colour ground) {
     const int brightness =
         299 * int(ground & 0xFF) + 587 * int(ground >> 8 & 0xFF) + 114 * int(ground >> 16 & 0xFF);
-    return brightness >= 110'000 ? 0 : white;
+    return brightness >= 145'000 ? 0 : white;
 }
 
 QString elementName(const char* array, size_t index) {
@@ -66,16 +67,17 @@ EliteWindow::EliteWindow(const ProgramState& state, frmMap& map)
       type_(makeRow("Type", state.text(10), rowTop)),
       attribute_(makeRow("Attribute", state.text(53), rowTop + rowStep)),
       campaign_(makeRow("Campaign", state.text(2), rowTop + 2 * rowStep)),
-      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep", 0)),
-      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline", 1)),
-      energy_(makeCost("imgExtEnergy", "lblExtEnergy", 2)),
-      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime", 4)),
-      cast_(makeCost("imgExtCast", "lblExtCastTime", 3)),
+      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep")),
+      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline")),
+      energy_(makeCost("imgExtEnergy", "lblExtEnergy")),
+      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime")),
+      cast_(makeCost("imgExtCast", "lblExtCastTime")),
       lblExtDescription_(informationLabel(u"lblExtDescription"_s, arial(points8_25), white, *this)),
       boss_(makeRow("Boss", state.text(33), 0)), zone_(makeRow("Zone", state.text(41), 0)),
       lblExtCaptionNote_(informationLabel(u"lblExtCaptionNote"_s, arial(points8_25), captionColour, *this)),
       lblExtNote_(informationLabel(u"lblExtNote"_s, arial(points8_25), white, *this)) {
     lblExtEliteName_->move(left, nameTop);
+    lblExtEliteName_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblExtDescription_->move(left, descriptionTop);
     lblExtDescription_->setWrapWidth(textWidth);
     lblExtCaptionNote_->setCaption(state.text(40));
@@ -99,13 +101,11 @@ EliteWindow::Row EliteWindow::makeRow(const char* name, const QString& caption, 
     return row;
 }
 
-EliteWindow::Cost EliteWindow::makeCost(const char* icon, const char* value, int slot) {
-    const int x = besidePicture + slot * costStep;
+EliteWindow::Cost EliteWindow::makeCost(const char* icon, const char* value) {
     const QString file = QLatin1String(icon);
-    const Cost cost{informationPicture(file, {x, costTop, iconSize, iconSize}, *this),
+    const Cost cost{informationPicture(file, {besidePicture, costTop, iconSize, iconSize}, *this),
                     informationLabel(QLatin1String(value), arial(points8), white, *this)};
     setPicture(*cost.icon, QImage(u":/windows/%1.png"_s.arg(file)));
-    cost.value->move(x + iconSize + 3, costTextTop);
     return cost;
 }
 
@@ -146,6 +146,8 @@ void EliteWindow::fill(const EliteTooltip& tip, const QImage& picture) {
 
 void EliteWindow::fillSkill(const EliteTooltip& tip, const QImage& picture) {
     lblExtEliteName_->setCaption(tip.name);
+    lblExtEliteName_->resize(lblExtEliteName_->width(),
+                             lblExtEliteName_->fontMetrics().height() + 2 * nameMargin);
     lblExtEliteName_->setColour(readableOn(tip.band));
     setPicture(*imgExtElite_, picture);
     type_.value->setCaption(tip.type);
@@ -155,20 +157,26 @@ void EliteWindow::fillSkill(const EliteTooltip& tip, const QImage& picture) {
     for (QWidget* control : {lblExtEliteName_, imgExtElite_, type_.caption, type_.value, attribute_.caption,
                              attribute_.value, campaign_.caption, campaign_.value, lblExtDescription_})
         control->setVisible(tip.skillShown);
-    fillCost(upkeep_, tip.upkeep, tip.skillShown);
-    fillCost(adrenaline_, tip.adrenaline, tip.skillShown);
-    fillCost(energy_, tip.energy, tip.skillShown);
-    fillCost(recharge_, tip.recharge, tip.skillShown);
-    fillCost(cast_, tip.castTime, tip.skillShown);
+    int x = besidePicture;
+    for (const auto& [cost, text] :
+         {std::pair(&upkeep_, &tip.upkeep), std::pair(&adrenaline_, &tip.adrenaline),
+          std::pair(&energy_, &tip.energy), std::pair(&cast_, &tip.castTime),
+          std::pair(&recharge_, &tip.recharge)}) {
+        const bool seen = *text && tip.skillShown;
+        fillCost(*cost, *text, seen, x);
+        x += seen ? costStep : 0;
+    }
     // A fraction would be too wide for its slot.
     cast_.value->setFont(arial(tip.castTimeHasSlash ? points7 : points8));
     cast_.value->move(cast_.value->x(), recharge_.value->y() + (tip.castTimeHasSlash ? fractionDrop : 0));
 }
 
-void EliteWindow::fillCost(const Cost& cost, const std::optional<QString>& text, bool shown) {
+void EliteWindow::fillCost(const Cost& cost, const std::optional<QString>& text, bool seen, int x) {
     cost.value->setCaption(text.value_or(QString()));
-    cost.value->setVisible(text && shown);
-    cost.icon->setVisible(text && shown);
+    cost.icon->move(x, costTop);
+    cost.value->move(x + iconSize + 3, costTextTop);
+    cost.value->setVisible(seen);
+    cost.icon->setVisible(seen);
 }
 
 int EliteWindow::placeBoss(const EliteTooltip& tip) {

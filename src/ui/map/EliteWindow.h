@@ -36,10 +36,10 @@ class EliteWindow : public InformationWindow {
         Label* stats;
     };
     Row makeRow(const char* name, const QString& caption, int top);
-    Cost makeCost(const char* icon, const char* value, int slot);
+    Cost makeCost(const char* icon, const char* value);
     void hideOnClicks(frmMap& map);
     void fillSkill(const EliteTooltip& tip, const QImage& picture);
-    void fillCost(const Cost& cost, const std::optional<QString>& text, bool shown);
+    void fillCost(const Cost& cost, const std::optional<QString>& text, bool seen, int x);
     // Both return the height at which the next part begins.
     int placeBoss(const EliteTooltip& tip);
     int placeGreens(const EliteTooltip& tip, int y);
