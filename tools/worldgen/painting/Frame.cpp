@@ -173,7 +173,7 @@ QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
         for (int x = 90; x < picture.width() - 90; x += 8) {
             const int border = std::min(std::min(x, picture.width() - x), std::min(y, picture.height() - y));
             const double room = std::min<double>(land.toLand.at(x, y), border - 36);
-            if (room > widest && !taken.adjusted(-110, -110, 110, 110).contains(x, y)) {
+            if (room > widest && !taken.adjusted(-100, -140, 100, 140).contains(x, y)) {
                 widest = room;
                 best = {x, y};
             }

@@ -10,7 +10,7 @@ namespace {
 
 /// Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
 /// picture's compression.
-constexpr double kQuietLuminance = 0.112;
+constexpr double kQuietLuminance = 0.108;
 
 std::array<double, 256> linearLight() {
     std::array<double, 256> table;
