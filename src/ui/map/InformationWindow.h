@@ -10,6 +10,11 @@ namespace orvinel {
 
 class MapViewport;
 
+// Of the texts in information windows.
+inline constexpr Colour blackTitle = 0; // on a coloured band
+inline constexpr Colour paleCaption = 0xBED2DC;
+inline constexpr Colour whiteText = 0xFFFFFF;
+
 // A layer's information window: a box over the map with the details of the item under the mouse. Hidden until
 // shown.
 class InformationWindow : public PictureBox {

@@ -152,6 +152,8 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
         emit activatedEntry();
         return;
     }
+    if (event->key() == Qt::Key_Menu)
+        emit menuKeyPressed();
     QListView::keyPressEvent(event);
 }
 

@@ -60,6 +60,7 @@ class ListBox : public QListView {
     void activatedEntry();
     // By the player only.
     void checkToggled(int index, bool on);
+    void menuKeyPressed();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

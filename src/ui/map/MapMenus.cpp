@@ -1,0 +1,124 @@
+#include "ui/map/MapMenus.h"
+
+#include "app/Saving.h"
+#include "app/modLanguage.h"
+#include "ui/panel/Controls.h"
+#include "world/modCampaigns.h"
+
+#include <utility>
+
+namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int insertCaption = 66;
+constexpr int editCaption = 67;
+constexpr int deleteCaption = 68;
+constexpr int deleteQuestion = 72;
+
+QAction* addEntry(QMenu& menu, const QString& name, const QString& caption) {
+    QAction* entry = menu.addAction(verbatim(caption));
+    entry->setObjectName(name);
+    return entry;
+}
+
+} // namespace
+
+std::vector<CampaignMenu> regionMenus(const ProgramState& state) {
+    std::vector<CampaignMenu> menus;
+    for (int c = 1; c < firstUnknownCampaign && c <= state.Campaigns.highest(); ++c) {
+        const QString caption = campaignName(state, c);
+        if (caption.isEmpty())
+            continue;
+        CampaignMenu menu{c, caption, {}};
+        for (const int region : regionOrder(state, c))
+            menu.regions.push_back({regionName(state, c, region), region});
+        if (!menu.regions.empty())
+            menus.push_back(std::move(menu));
+    }
+    return menus;
+}
+
+MapMenus::MapMenus(Surroundings with, NoteActions actions)
+    : with_(with), actions_(std::move(actions)), MenuPopUp_(new QMenu(&with.map)),
+      MenuPopupRegion_(new QMenu(&with.map)) {
+    buildNoteMenu();
+    buildRegionMenu();
+    connect(&with_.map, &frmMap::regionMenuWanted, this, &MapMenus::openRegionMenu);
+}
+
+void MapMenus::buildNoteMenu() {
+    const ProgramState& state = with_.state;
+    MenuPopUp_->setObjectName(u"MenuPopUp"_s);
+    mnuNoteInsert_ = addEntry(*MenuPopUp_, u"mnuNoteInsert"_s, state.text(insertCaption));
+    mnuNoteEdit_ = addEntry(*MenuPopUp_, u"mnuNoteEdit"_s, state.text(editCaption));
+    mnuNoteDelete_ = addEntry(*MenuPopUp_, u"mnuNoteDelete"_s, state.text(deleteCaption));
+    connect(mnuNoteInsert_, &QAction::triggered, this, &MapMenus::editNote);
+    connect(mnuNoteEdit_, &QAction::triggered, this, &MapMenus::editNote);
+    connect(mnuNoteDelete_, &QAction::triggered, this, &MapMenus::askToDelete);
+}
+
+void MapMenus::buildRegionMenu() {
+    MenuPopupRegion_->setObjectName(u"MenuPopupRegion"_s);
+    for (const CampaignMenu& campaign : regionMenus(with_.state)) {
+        QMenu* submenu = MenuPopupRegion_->addMenu(verbatim(campaign.caption));
+        submenu->setObjectName(arrayName(u"mnuCampaign"_s, campaign.campaign));
+        const QString name = u"mnuC%1Region"_s.arg(campaign.campaign - 1);
+        int i = 0;
+        for (const ListEntry& region : campaign.regions) {
+            const QAction* entry = addEntry(*submenu, arrayName(name, ++i), region.text);
+            connect(entry, &QAction::triggered, this,
+                    [this, c = campaign.campaign, r = region.data] { goToRegion(c, r); });
+        }
+    }
+}
+
+void MapMenus::openRegionMenu(QPoint global) {
+    if (!MenuPopupRegion_->isEmpty())
+        MenuPopupRegion_->popup(global);
+}
+
+void MapMenus::openNoteMenu(int note, MapPoint at, QPoint global) {
+    note_ = note;
+    at_ = at;
+    const bool there = with_.state.Notes.has(note);
+    mnuNoteInsert_->setEnabled(!there);
+    mnuNoteEdit_->setEnabled(there);
+    mnuNoteDelete_->setEnabled(there);
+    MenuPopUp_->popup(global);
+}
+
+void MapMenus::goToRegion(int campaign, int region) {
+    SelectionArea& selection = with_.panel.selection();
+    // The lists are filled for the region that is chosen in the end, and only once.
+    with_.panel.MenuReady = false;
+    selection.cmbCampaign->select(selection.cmbCampaign->findData(campaign));
+    with_.panel.MenuReady = true;
+    selection.cmbRegion->select(selection.cmbRegion->findData(region));
+}
+
+void MapMenus::editNote() {
+    NoteRequest request{-1, at_, with_.map.MapCampaign(), with_.map.MapRegion()};
+    if (with_.state.Notes.has(note_)) {
+        // Its own region: the note may have been picked from the list while the map shows another one.
+        const MapLocation& place = with_.state.Notes[note_].At;
+        request = {note_, {place.X, place.Y}, place.Campaign, place.Region};
+    }
+    if (actions_.edit(request) != -1)
+        actions_.refilter();
+}
+
+void MapMenus::askToDelete() {
+    ProgramState& state = with_.state;
+    if (!with_.desktop.ask(MessageIcon::Question, programName(), state.text(deleteQuestion)))
+        return;
+    const auto remove = [&](bool evenIfChanged) {
+        return deleteNote(state, with_.files, note_, evenIfChanged);
+    };
+    if (saveAndTell(state, with_.desktop, remove))
+        actions_.refilter();
+}
+
+} // namespace orvinel

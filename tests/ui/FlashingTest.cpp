@@ -1,0 +1,107 @@
+#include "support/LayersFixture.h"
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+struct FlashingTest : LayersFixture {
+    void tick(const char* timer) {
+        QTimerEvent event(clock(timer).timerId());
+        QCoreApplication::sendEvent(&clock(timer), &event);
+    }
+    QTimer& clock(const char* name) {
+        auto* found = flashing->findChild<QTimer*>(QString::fromLatin1(name));
+        EXPECT_TRUE(found) << name;
+        return *found;
+    }
+    // True when the viewport shows something over the composition around a point of the map.
+    bool marked(QPoint at) {
+        MapViewport& viewport = map->picMap();
+        const QRect area(at - QPoint(11, 10), QSize(22, 21));
+        const QImage seen = viewport.grab(viewport.toWidget(area)).toImage();
+        const QImage below = viewport.surface()->composed().copy(area);
+        return seen.convertToFormat(QImage::Format_RGB32) != below.convertToFormat(QImage::Format_RGB32);
+    }
+};
+
+const QPoint anna(100, 100);
+
+TEST_F(FlashingTest, theSelectedEntryOfTheActivePageBlinks) {
+    startOnFjord();
+    panel->tabs().activate(1);
+    panel->collectorsPage().lstCollectors->select(0);
+    EXPECT_TRUE(marked(anna));
+    EXPECT_TRUE(clock("tmrFlashCollector").isActive());
+    EXPECT_EQ(250, clock("tmrFlashCollector").interval());
+    tick("tmrFlashCollector");
+    EXPECT_FALSE(marked(anna));
+    tick("tmrFlashCollector");
+    EXPECT_TRUE(marked(anna));
+    EXPECT_FALSE(clock("tmrFlashTreasures").isActive());
+}
+
+TEST_F(FlashingTest, anotherPageEndsTheBlinkingWithTheNextComposition) {
+    startOnFjord();
+    panel->tabs().activate(1);
+    panel->collectorsPage().lstCollectors->select(0);
+    panel->tabs().activate(3);
+    EXPECT_TRUE(clock("tmrFlashCollector").isActive());
+    lstNotes().select(0);
+    EXPECT_FALSE(clock("tmrFlashCollector").isActive());
+    EXPECT_TRUE(marked({500, 100}));
+    map->CenterMapOn(anna.x(), anna.y());
+    EXPECT_FALSE(marked(anna));
+}
+
+TEST_F(FlashingTest, nothingBlinksWhileThePictureIsDragged) {
+    startOnFjord();
+    panel->tabs().activate(1);
+    panel->collectorsPage().lstCollectors->select(0);
+    press({400, 400});
+    tick("tmrFlashCollector");
+    EXPECT_TRUE(marked(anna));
+    release({400, 400});
+    tick("tmrFlashCollector");
+    EXPECT_FALSE(marked(anna));
+}
+
+TEST_F(FlashingTest, aLayerSwitchedOffShowsNoSelectionAndItsTicksDoNothing) {
+    startOnFjord();
+    panel->tabs().activate(1);
+    panel->collectorsPage().lstCollectors->select(0);
+    panel->tabs().chkShowObject[1]->setValue(0);
+    EXPECT_FALSE(clock("tmrFlashCollector").isActive());
+    tick("tmrFlashCollector");
+    tick("tmrFlashCollector");
+    EXPECT_FALSE(marked(anna));
+    panel->tabs().chkShowObject[1]->setValue(1);
+    EXPECT_TRUE(clock("tmrFlashCollector").isActive());
+    EXPECT_TRUE(marked(anna));
+}
+
+TEST_F(FlashingTest, chestsAndPetsShareOneMarker) {
+    startOnFjord();
+    panel->tabs().activate(4);
+    various().lstPets->select(0);
+    EXPECT_TRUE(marked({200, 200}));
+    various().lstKesraTreasures->select(0);
+    EXPECT_TRUE(marked({300, 300}));
+    EXPECT_FALSE(marked({200, 200}));
+    chooseZone(u"Cliffs"_s); // the lists lose their selection
+    EXPECT_FALSE(marked({300, 300}));
+}
+
+TEST_F(FlashingTest, noMarkerIsShownOnARegionOfWhichTheEntryIsNot) {
+    startOnFjord();
+    panel->tabs().activate(1);
+    panel->collectorsPage().lstCollectors->select(0);
+    map->InizializzaVariabili(u"/o/Campaign.03.Frost/2.jpg"_s, 3, 2);
+    map->UpdateMapWithNewEliteSkills();
+    tick("tmrFlashCollector");
+    tick("tmrFlashCollector");
+    EXPECT_FALSE(marked(anna));
+}
+
+} // namespace
+} // namespace orvinel

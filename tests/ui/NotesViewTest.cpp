@@ -1,0 +1,153 @@
+#include "support/LayersFixture.h"
+
+#include <QSignalSpy>
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+// Notes and the two menus of the map.
+struct NotesViewTest : LayersFixture {
+    const QString file = u"/o/Personal/Notes.txt"_s;
+
+    QAction& entry(const char* name) { return inMap<QAction>(name); }
+    QString enabledEntries() {
+        QString enabled;
+        for (const char* name : {"mnuNoteInsert", "mnuNoteEdit", "mnuNoteDelete"})
+            enabled += entry(name).isEnabled() ? u'1' : u'0';
+        return enabled;
+    }
+    bool menuOpen() { return inMap<QMenu>("MenuPopUp").isVisible(); }
+};
+
+const QPoint alpha(500, 100);
+const QPoint nothing(450, 330);
+
+TEST_F(NotesViewTest, theWindowShowsAllLinesOfTheNote) {
+    startOnFjord();
+    hover(alpha + QPoint(-7, 0));
+    EXPECT_EQ(u"Alpha"_s, text("lblShortDescription"));
+    const Label& body = label("lblDescription");
+    EXPECT_GE(body.height(), 2 * body.fontMetrics().height());
+    EXPECT_EQ(body.y() + body.height() + 10, notes->window().height());
+    hover(alpha + QPoint(-8, 0));
+    EXPECT_FALSE(shown("picNoteTooltip"));
+}
+
+TEST_F(NotesViewTest, aNewNoteIsPinnedWhereTheMapWasDoubleClicked) {
+    startOnFjord();
+    map->CenterMapOn(500, 400);
+    doubleClick(nothing);
+    EXPECT_TRUE(menuOpen());
+    EXPECT_EQ(u"100"_s, enabledEntries());
+    storedNote = 3;
+    entry("mnuNoteInsert").trigger();
+    EXPECT_EQ(-1, request.note);
+    EXPECT_EQ((MapPoint{450, 330}), request.at);
+    EXPECT_EQ(3, request.campaign);
+    EXPECT_EQ(1, request.region);
+    EXPECT_EQ(1, noteFilters);
+}
+
+TEST_F(NotesViewTest, cancellingTheEditorRefillsNothing) {
+    startOnFjord();
+    doubleClick(alpha);
+    EXPECT_EQ(u"011"_s, enabledEntries());
+    entry("mnuNoteEdit").trigger();
+    EXPECT_EQ(1, request.note);
+    EXPECT_EQ(0, noteFilters);
+}
+
+TEST_F(NotesViewTest, aNoteIsDeletedOnlyAfterYes) {
+    startOnFjord();
+    desktop.answer = false;
+    doubleClick(alpha);
+    entry("mnuNoteDelete").trigger();
+    EXPECT_EQ(QStringList{u"ask Question Orvinel|Text 72"_s}, desktop.log);
+    EXPECT_EQ(QStringList{u"Alpha"_s}, texts(lstNotes()));
+    desktop.answer = true;
+    entry("mnuNoteDelete").trigger();
+    EXPECT_EQ("Beta\tother\t60\t60\t3\t2\r\n", disk.content(file));
+    EXPECT_EQ(0, lstNotes().count());
+    EXPECT_EQ(u"Text 65: 0"_s, panel->notesPage().lblNoteList->text());
+    doubleClick(alpha);
+    EXPECT_EQ(u"100"_s, enabledEntries());
+}
+
+TEST_F(NotesViewTest, aNoteWhoseFileCannotBeWrittenStays) {
+    startOnFjord();
+    doubleClick(alpha);
+    disk.failAt = 1;
+    entry("mnuNoteDelete").trigger();
+    EXPECT_EQ(2, desktop.log.size()); // the question, then what went wrong
+    EXPECT_EQ(QStringList{u"Alpha"_s}, texts(lstNotes()));
+}
+
+TEST_F(NotesViewTest, keysOpenTheMenuForTheSelectedNoteElseForTheMiddleOfTheMap) {
+    startOnFjord();
+    QSignalSpy wanted(notes.get(), &NotesView::menuWanted);
+    QTest::keyClick(&map->picMap(), Qt::Key_Menu);
+    EXPECT_EQ(u"100"_s, enabledEntries());
+    lstNotes().select(0);
+    QTest::keyClick(&map->picMap(), Qt::Key_Menu);
+    EXPECT_EQ(u"011"_s, enabledEntries());
+    QTest::keyClick(&lstNotes(), Qt::Key_Menu);
+    QTest::keyClick(&lstNotes(), Qt::Key_Return);
+    ASSERT_EQ(4, wanted.count());
+    EXPECT_EQ(-1, wanted[0][0].toInt());
+    for (int i = 1; i < 4; ++i)
+        EXPECT_EQ(1, wanted[i][0].toInt());
+}
+
+TEST_F(NotesViewTest, aNoteOfAnotherRegionKeepsItsRegionWhenEdited) {
+    startOnFjord();
+    chooseCampaign(u"Frost"_s);
+    EXPECT_EQ((QStringList{u"Alpha"_s, u"Beta"_s}), texts(lstNotes()));
+    lstNotes().select(1);
+    EXPECT_EQ(2, map->MapRegion());
+    map->InizializzaVariabili(u"/o/Campaign.03.Frost/1.jpg"_s, 3, 1);
+    QTest::keyClick(&lstNotes(), Qt::Key_Menu);
+    entry("mnuNoteEdit").trigger();
+    EXPECT_EQ(2, request.note);
+    EXPECT_EQ(2, request.region);
+}
+
+struct RegionMenuTest : LayersFixture {};
+
+TEST_F(RegionMenuTest, listsTheRegionsOfCampaignsOneToFourInTheOrderOfTheCombo) {
+    disk.put(u"/o/Campaign.02.East & West/Regions.txt"_s, "1\tOne\r\n2\tTwo\r\n3\tThree\r\n4\tFour\r\n");
+    startOnFjord();
+    const auto model = orvinel::regionMenus(state);
+    ASSERT_EQ(2u, model.size());
+    EXPECT_EQ(
+        (CampaignMenu{2, u"East & West"_s, {{u"Four"_s, 4}, {u"One"_s, 1}, {u"Two"_s, 2}, {u"Three"_s, 3}}}),
+        model[0]);
+    EXPECT_EQ(u"East && West"_s, inMap<QMenu>("mnuCampaign(2)").title());
+    EXPECT_EQ(u"One"_s, inMap<QAction>("mnuC1Region(2)").text());
+    EXPECT_EQ(u"Glacier"_s, inMap<QAction>("mnuC2Region(2)").text());
+}
+
+TEST_F(RegionMenuTest, anEntryChoosesItsRegionInThePanelAndOnTheMap) {
+    startOnFjord();
+    chooseCampaign(u"Core"_s);
+    EXPECT_FALSE(map->mapLoaded());
+    inMap<QAction>("mnuC2Region(2)").trigger();
+    EXPECT_EQ(u"Frost"_s, panel->selection().cmbCampaign->currentText());
+    EXPECT_EQ(u"Glacier"_s, panel->selection().cmbRegion->currentText());
+    EXPECT_EQ(2, map->MapRegion());
+    EXPECT_TRUE(panel->MenuReady);
+    EXPECT_EQ(QStringList{u"Beta"_s}, texts(lstNotes()));
+}
+
+TEST_F(RegionMenuTest, opensWithTheRightButtonOnEmptyMapOnly) {
+    startOnFjord();
+    press(alpha, Qt::RightButton);
+    EXPECT_FALSE(inMap<QMenu>("MenuPopupRegion").isVisible());
+    EXPECT_TRUE(shown("picNoteTooltip"));
+    press(nothing, Qt::RightButton);
+    EXPECT_TRUE(inMap<QMenu>("MenuPopupRegion").isVisible());
+}
+
+} // namespace
+} // namespace orvinel
