@@ -4,33 +4,12 @@
 #include "app/Saving.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
-#include "layers/modEliteView.h"
-#include "layers/modGreeniesView.h"
-#include "ui/dialogs/frmMarkEliteAsCaptured.h"
 
 #include <QScopeGuard>
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
-
-// The views of the content, and the orders in which the chains ask them.
-struct Program::Layers {
-    explicit Layers(Program& program)
-        : zones(program.state_, program.map_->art()), greens(program.state_, *program.panel_, *program.map_),
-          elites(program.state_, program.files_.disk(), *program.panel_, *program.map_,
-                 [&program](int skill, bool fromMap) { program.openCapture(skill, fromMap); }) {}
-
-    ZonesView zones;
-    GreensView greens;
-    EliteView elites;
-
-    frmMap::Chains chains() {
-        return {.drawing = {&zones, &greens, &elites}, .mouseOver = {&elites}, .doubleClick = {&elites}};
-    }
-    // In the order in which they are hidden.
-    std::vector<InformationWindow*> windows() { return {&elites.window()}; }
-};
 
 Program::Program(QString appPath, Disk& disk, Desktop& desktop, std::function<void(int)> endProcess)
     : files_(disk), desktop_(desktop), endProcess_(std::move(endProcess)) {
@@ -74,65 +53,71 @@ void Program::makeWindows() {
     panel_ = std::make_unique<frmMenu>(state_, desktop_);
     map_ = new frmMap({state_, files_.disk(), desktop_, panel_->MenuRightClickNeeded}, panel_.get());
     makeLayers();
+    legend_ = new frmLegenda(state_, map_);
+    popupMenu_ = new frmPopupMenu(state_, panel_.get());
     wirePanel();
     wireMap();
+    wireMenus();
 }
 
 void Program::makeLayers() {
-    layers_ = std::make_unique<Layers>(*this);
+    layers_ = std::make_unique<ProgramLayers>(
+        state_, files_.disk(), desktop_, *panel_, *map_,
+        ProgramLayers::Actions{[this](int id, bool fromMap) { openCapture(id, fromMap); },
+                               [this](int index) { openTreasure(index); }});
     map_->setChains(layers_->chains());
     map_->setInformationWindows(layers_->windows());
+    flashing_ = std::make_unique<Flashing>(state_, *panel_, *map_);
+    mapMenus_ = std::make_unique<MapMenus>(
+        MapMenus::Surroundings{state_, files_, desktop_, *panel_, *map_},
+        MapMenus::NoteActions{[this](const NoteRequest& request) { return editNote(request); },
+                              [this] { layers_->notes.FilterNotes(true); }});
 }
 
 void Program::wirePanel() {
     PanelHooks hooks;
-    hooks.filters.fill([](bool) {});
-    hooks.filters[size_t(Filter::Elites)] = [this](bool update) {
-        layers_->elites.FilterEliteSkills(update);
-    };
-    hooks.filters[size_t(Filter::Greens)] = [this](bool update) { layers_->greens.FilterGreens(update); };
-    hooks.filters.back() = [this](bool updateMap) {
-        if (updateMap)
-            map_->UpdateMapWithNewEliteSkills();
-    };
+    hooks.filters = layers_->filters();
     hooks.showRegion = [this](const QString& picture, int campaign, int region) {
         map_->InizializzaVariabili(picture, campaign, region);
     };
     hooks.updateMap = [this] { map_->UpdateMapWithNewEliteSkills(); };
     hooks.drawMap = [this] { map_->DrawEverythingOnMap(); };
-    hooks.switchFlashing = [](int, bool) {};
-    hooks.openMenu = [](int) {};
+    hooks.switchFlashing = [this](int layer, bool on) { flashing_->switchFlashing(layer, on); };
+    hooks.openMenu = [this](int menu) { openMenu(menu); };
     hooks.quit = [this] { QuitProgram(); };
     hooks.maximised = [this] { return MapMaximised_; };
     panel_->setHooks(std::move(hooks));
     connect(panel_.get(), &frmMenu::attachMap, this, &Program::attachMap);
 }
 
-void Program::openCapture(int skill, bool fromMap) {
-    QWidget* owner = fromMap ? static_cast<QWidget*>(map_) : panel_.get();
-    auto* dialog = new frmMarkEliteAsCaptured(
-        dialogContext(), [this] { layers_->elites.FilterEliteSkills(true); }, owner);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->SetEliteNumber(skill);
-    dialog->SetCharacter(panel_->elitePage().cmbCharacter->data());
-    if (fromMap)
-        dialog->exec();
-    else
-        dialog->show();
-}
-
 void Program::wireMap() {
+    map_->startFlashing = [this] { flashing_->StartFlashing(); };
     connect(map_, &frmMap::quitWanted, this, &Program::QuitProgram);
     connect(map_, &frmMap::maximiseWanted, this, &Program::ToggleMapMaximised);
+    connect(map_, &frmMap::minimiseWanted, this, [this] {
+        popupMenu_->hide();
+        taskBar_->showMinimized();
+    });
+    connect(map_, &frmMap::regionMenuWanted, this, [this](QPoint at) { mapMenus_->openRegionMenu(at); });
+    connect(&layers_->notes, &NotesView::menuWanted, this,
+            [this](int note, MapPoint at, QPoint global) { mapMenus_->openNoteMenu(note, at, global); });
+    taskBar_ = std::make_unique<frmFAKE>(TaskBarGroup{*panel_, *map_, *legend_, panel_->MenuLegendShown});
+    connect(taskBar_.get(), &frmFAKE::quitWanted, this, &Program::QuitProgram);
 }
 
 void Program::showWindows() {
+    const Options& options = state_.AppOptions;
     RestoreWindowPlacement();
+    if (options.LegendX != -1 && !options.Legend)
+        legend_->move(pixelsOf(options.LegendX), pixelsOf(options.LegendY));
+    else
+        legend_->move(map_->x(), map_->y() + map_->height() - legend_->height());
     panel_->show();
     map_->show();
-    for (QWidget* window : std::initializer_list<QWidget*>{panel_.get(), map_})
-        desktop_.setAlwaysOnTop(*window, panel_->MenuAlwaysOnTop == 1);
+    legend_->setVisible(options.Legend);
+    applyAlwaysOnTop();
     desktop_.processPendingEvents();
+    taskBar_->showOutside(desktop_.allScreens());
 }
 
 void Program::place(const WindowPair& pair) {
@@ -197,6 +182,8 @@ void Program::copyPlaces() {
 bool Program::saveOptions() {
     copyPlaces();
     state_.AppOptions.Legend = panel_->MenuLegendShown == 1;
+    state_.AppOptions.LegendX = twipsOf(legend_->x());
+    state_.AppOptions.LegendY = twipsOf(legend_->y());
     panel_->readOptions(state_.AppOptions);
     const QString text = optionsFile(state_.AppOptions);
     SaveResult result = files_.save(optionsPath(state_), text);

@@ -2,13 +2,17 @@
 
 #include "app/Desktop.h"
 #include "app/PlayerFiles.h"
+#include "app/ProgramLayers.h"
 #include "app/ProgramState.h"
 #include "app/WindowPlacement.h"
-#include "layers/modZonesView.h"
 #include "ui/dialogs/Dialog.h"
+#include "ui/dialogs/frmFAKE.h"
 #include "ui/dialogs/frmLegenda.h"
+#include "ui/map/Flashing.h"
+#include "ui/map/MapMenus.h"
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
+#include "ui/panel/frmPopupMenu.h"
 
 #include <functional>
 #include <memory>
@@ -45,15 +49,29 @@ class Program : public QObject {
     void makeLayers();
     void wirePanel();
     void wireMap();
-    DialogContext dialogContext() { return {state_, files_, desktop_, panel_->MenuAlwaysOnTop}; }
-    // Modal over the map, or beside the panel.
-    void openCapture(int skill, bool fromMap);
     void showWindows();
     void RestoreWindowPlacement();
     void place(const WindowPair& pair);
     void attachMap();
     bool saveOptions();
     void copyPlaces();
+
+    // The panel's menus (ProgramMenus.cpp).
+    void wireMenus();
+    void openMenu(int menu);
+    void OnMenuEntryClick(int menu, int entry);
+    void chooseOption(int entry);
+    void chooseHelp(int entry);
+    void ToggleLegend();
+    void ToggleAlwaysOnTop();
+    void applyAlwaysOnTop();
+    void OpenCharacterList();
+
+    // The dialogs that the map and the lists open (ProgramMenus.cpp).
+    DialogContext dialogContext();
+    void openCapture(int eliteId, bool fromMap);
+    void openTreasure(int index);
+    int editNote(const NoteRequest& request);
 
     ProgramState state_;
     PlayerFiles files_;
@@ -65,11 +83,14 @@ class Program : public QObject {
     // unchanged.
     std::optional<WindowPair> restored_;
 
-    struct Layers;
     std::unique_ptr<frmMenu> panel_; // owns the map window, which owns the legend
     frmMap* map_ = nullptr;
     frmLegenda* legend_ = nullptr;
-    std::unique_ptr<Layers> layers_;
+    frmPopupMenu* popupMenu_ = nullptr;
+    std::unique_ptr<frmFAKE> taskBar_;
+    std::unique_ptr<ProgramLayers> layers_;
+    std::unique_ptr<MapMenus> mapMenus_;
+    std::unique_ptr<Flashing> flashing_;
 };
 
 } // namespace orvinel

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "layers/modCollectorsView.h"
+#include "layers/modEliteView.h"
+#include "layers/modGreeniesView.h"
+#include "layers/modNotesView.h"
+#include "layers/modPetsView.h"
+#include "layers/modTreasuresView.h"
+#include "layers/modZonesView.h"
+#include "ui/map/frmMap.h"
+#include "ui/panel/frmMenu.h"
+
+#include <functional>
+
+namespace orvinel {
+
+// The kinds of content and the orders in which they are drawn, asked and filtered: the one place to add a
+// line for a new kind.
+struct ProgramLayers {
+    struct Actions {
+        std::function<void(int eliteId, bool fromMap)> openCapture;
+        std::function<void(int index)> openTreasure;
+    };
+    ProgramLayers(const ProgramState& state, const Disk& disk, const Desktop& desktop, frmMenu& panel,
+                  frmMap& map, Actions actions);
+
+    ZonesView zones;
+    GreensView greens;
+    EliteView elites;
+    CollectorsView collectors;
+    NotesView notes;
+    TreasuresView treasures;
+    PetsView pets;
+
+    frmMap::Chains chains();
+    // In the order in which they are hidden.
+    std::vector<InformationWindow*> windows();
+    std::array<std::function<void(bool)>, filterCount> filters();
+};
+
+} // namespace orvinel
