@@ -43,6 +43,7 @@ void LayersFixture::makeViews() {
                                                                  ++noteFilters;
                                                                  notes->FilterNotes(true);
                                                              }});
+    QObject::connect(map.get(), &frmMap::regionMenuWanted, menus.get(), &MapMenus::openRegionMenu);
     QObject::connect(notes.get(), &NotesView::menuWanted, menus.get(), &MapMenus::openNoteMenu);
     map->startFlashing = [this] { flashing->StartFlashing(); };
     map->setChains({{collectors.get(), notes.get(), treasures.get(), pets.get()},

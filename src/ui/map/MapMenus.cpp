@@ -46,7 +46,6 @@ MapMenus::MapMenus(Surroundings with, NoteActions actions)
       MenuPopupRegion_(new QMenu(&with.map)) {
     buildNoteMenu();
     buildRegionMenu();
-    connect(&with_.map, &frmMap::regionMenuWanted, this, &MapMenus::openRegionMenu);
 }
 
 void MapMenus::buildNoteMenu() {
