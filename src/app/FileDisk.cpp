@@ -3,14 +3,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 
-#ifndef Q_OS_WIN
+#ifdef Q_OS_WIN
+#include <io.h>
+#include <system_error>
+#include <windows.h>
+#else
 #include <fcntl.h>
 #include <unistd.h>
 #endif
@@ -22,13 +25,28 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 #ifdef Q_OS_WIN
-bool flushToMedium(QFileDevice&) {
-    return true;
+QString lastError() {
+    return QString::fromStdString(std::system_category().message(static_cast<int>(GetLastError())));
+}
+
+bool flushToMedium(QFileDevice& file) {
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
 }
 bool syncFolder(const QString&) {
     return true;
 }
+
+DiskError takePlace(const QString& from, const QString& to) {
+    const bool moved = MoveFileExW(reinterpret_cast<const wchar_t*>(from.utf16()),
+                                   reinterpret_cast<const wchar_t*>(to.utf16()),
+                                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    return moved ? std::nullopt : DiskError(lastError());
+}
 #else
+QString lastError() {
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
 bool flushToMedium(QFileDevice& file) {
     return ::fdatasync(file.handle()) == 0;
 }
@@ -42,11 +60,13 @@ bool syncFolder(const QString& folder) {
     ::close(handle);
     return synced;
 }
-#endif
 
-QString lastError() {
-    return QString::fromLocal8Bit(std::strerror(errno));
+DiskError takePlace(const QString& from, const QString& to) {
+    const bool moved =
+        std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+    return moved ? std::nullopt : DiskError(lastError());
 }
+#endif
 
 bool exists(const QString& path) {
     return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
@@ -62,6 +82,37 @@ std::vector<QString> namesIn(const QString& folder) {
     std::vector<QString> sorted(names.begin(), names.end());
     std::sort(sorted.begin(), sorted.end());
     return sorted;
+}
+
+// Where a file that is a symbolic link really lies, so that the link stays one. A chain without an end is
+// left to the system to complain of.
+QString linkTarget(QString path) {
+    constexpr int longestChain = 40;
+    for (int i = 0; i < longestChain && QFileInfo(path).isSymLink(); ++i)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
+}
+
+DiskError makeFolder(const QString& folder) {
+    if (QFileInfo(folder).isDir())
+        return std::nullopt;
+    if (!QDir().mkpath(folder))
+        return u"the folder %1 cannot be created"_s.arg(folder);
+    syncFolder(folderOf(folder));
+    return std::nullopt;
+}
+
+// Writes a new file whole and safely, with the permissions of the one that it is going to replace.
+DiskError writeUnfinished(const QString& path, const QByteArray& bytes, const QFileInfo& old) {
+    QFile::remove(path); // of a save that was cut off
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    if (old.exists() && !file.setPermissions(old.permissions()))
+        return file.errorString();
+    if (file.write(bytes) != bytes.size())
+        return file.errorString();
+    return flushToMedium(file) ? std::nullopt : DiskError(lastError());
 }
 
 } // namespace
@@ -118,24 +169,24 @@ ReadResult FileDisk::read(const QString& path) const {
 }
 
 DiskError FileDisk::replace(const QString& path, const QByteArray& bytes) {
-    const QString target = resolve(path);
-    if (!QDir().mkpath(folderOf(target)))
-        return u"the folder %1 cannot be created"_s.arg(folderOf(target));
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    // commit() ignores failing writes of what is still in its buffer and would put an empty file in place.
-    const bool complete = file.write(bytes) == bytes.size() && file.flush() && flushToMedium(file);
-    if (!complete) {
-        const QString reason = file.error() == QFileDevice::NoError ? lastError() : file.errorString();
-        file.cancelWriting();
-        file.commit();
-        return reason;
-    }
-    if (!file.commit())
-        return file.errorString();
-    syncFolder(folderOf(target)); // the file is whole either way; nothing better can be done when this fails
-    return std::nullopt;
+    const QString target = linkTarget(resolve(path));
+    if (const DiskError error = makeFolder(folderOf(target)))
+        return error;
+    const QFileInfo present(target);
+    if (present.exists() && !present.isFile())
+        return u"not a plain file"_s;
+    if (present.exists() && !present.isWritable())
+        return u"the file is write-protected"_s;
+    const QString unfinished = target + unfinishedSuffix;
+    DiskError error = writeUnfinished(unfinished, bytes, present);
+    if (!error)
+        error = takePlace(unfinished, target);
+    if (error)
+        QFile::remove(unfinished);
+    else
+        syncFolder(
+            folderOf(target)); // the file is whole either way; nothing better can be done when this fails
+    return error;
 }
 
 DiskError FileDisk::rename(const QString& from, const QString& to) {
@@ -143,8 +194,8 @@ DiskError FileDisk::rename(const QString& from, const QString& to) {
     const QString target = resolve(to);
     if (exists(target))
         return u"%1 exists already"_s.arg(to);
-    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) != 0)
-        return lastError();
+    if (const DiskError error = takePlace(source, target))
+        return error;
     syncFolder(folderOf(target));
     return std::nullopt;
 }
@@ -158,8 +209,7 @@ DiskError FileDisk::remove(const QString& path) {
 }
 
 DiskError FileDisk::createFolder(const QString& path) {
-    const QString folder = resolve(path);
-    return QDir().mkpath(folder) ? std::nullopt : DiskError(u"the folder %1 cannot be created"_s.arg(folder));
+    return makeFolder(resolve(path));
 }
 
 DiskError FileDisk::removeFolder(const QString& path) {

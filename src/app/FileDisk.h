@@ -4,6 +4,10 @@
 
 namespace orvinel {
 
+// Ends the name of a file that is being written beside the one that it is to replace. A save that was cut off
+// leaves it behind; the next one of the same file overwrites it.
+inline constexpr QLatin1String unfinishedSuffix(".saving");
+
 // The real files. Names are matched without regard to letter case below `root` only.
 class FileDisk : public Disk {
   public:

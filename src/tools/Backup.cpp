@@ -1,5 +1,6 @@
 #include "tools/Backup.h"
 
+#include "app/FileDisk.h"
 #include "tools/TarArchive.h"
 #include "world/modCampaigns.h"
 
@@ -83,6 +84,8 @@ class Gatherer {
             if (!problem.isEmpty())
                 return;
             const QString path = name + u'/' + entry;
+            if (entry.endsWith(unfinishedSuffix))
+                continue;
             if (disk_.folderExists(folder_ + path))
                 gatherFolder(path, depth + 1);
             else
