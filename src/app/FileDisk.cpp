@@ -173,6 +173,8 @@ DiskError FileDisk::replace(const QString& path, const QByteArray& bytes) {
     if (const DiskError error = makeFolder(folderOf(target)))
         return error;
     const QFileInfo present(target);
+    if (present.isSymLink())
+        return u"the symbolic links lead in a circle"_s;
     if (present.exists() && !present.isFile())
         return u"not a plain file"_s;
     if (present.exists() && !present.isWritable())

@@ -39,6 +39,7 @@ class PlayerFiles {
     // To be called by a loader when it has read `path` to its end.
     void loaded(const QString& path, const TextFile& file);
 
+    // Bytes that the program has not read are never replaced unasked, and only after they were kept as .bak.
     // With `evenIfChanged` a file that somebody else has written meanwhile is put aside as .bak and replaced.
     SaveResult save(const QString& path, const QString& text, bool evenIfChanged = false);
 
@@ -53,6 +54,8 @@ class PlayerFiles {
         QByteArray hash;      // of the bytes last read or written; empty: the file was not there
         bool keepOld = false; // the file holds something that a rewrite would lose
     };
+    // `aside` becomes the new name; it stays empty when the file had gone meanwhile.
+    DiskError moveAside(const QString& path, QString& aside);
     DiskError keepCopy(const QString& path, const QByteArray& bytes);
 
     Disk& disk_;

@@ -25,7 +25,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int steps = 400;
-constexpr int bulk = 4'000;         // characters in a note: writing takes long enough to be hit
+constexpr int bulk = 4'000;          // characters in a note: writing takes long enough to be hit
 constexpr int latestKillUs = 20'000; // after the saves began
 // In memory where there is such a place: a killed process leaves there what it leaves on a disk, and more of
 // its moments can be hit.
