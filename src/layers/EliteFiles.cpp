@@ -13,6 +13,7 @@ namespace {
 
 constexpr size_t fullListLine = 11;
 constexpr size_t locationLineWithNote = 8;
+constexpr int mostLocations = largestIdentifier; // of one campaign
 constexpr int twipsPerPixel = 15;
 constexpr int anyIntLow = std::numeric_limits<int>::min();
 constexpr int anyIntHigh = std::numeric_limits<int>::max();
@@ -92,7 +93,11 @@ class LocationFile {
                 continue;
             const auto id = file_.integer(0, "skill", 0, state.EliteSkills.highest());
             const std::optional<MapLocation> location = id ? readLocation() : std::nullopt;
-            if (location)
+            if (!location)
+                continue;
+            if (++stored_ > mostLocations)
+                file_.skip({}, u"more than %1 bosses"_s.arg(mostLocations));
+            else
                 store(*id, *location);
         }
     }
@@ -127,6 +132,7 @@ class LocationFile {
     TextFile file_;
     int campaign_;
     bool twips_ = true;
+    int stored_ = 0;
 };
 
 // Bosses that stand there only during an event, and those with code "D", carry no green items; one boss does

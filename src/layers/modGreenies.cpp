@@ -13,19 +13,25 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int barHeight = 3;
+// Every location of a boss lists its items: without a bound two long files would multiply each other.
+constexpr size_t mostItemsOfBoss = 255;
 
 void readGreens(ProgramState& state, TextFile& file) {
     while (file.nextLine()) {
         const QStringView line = file.line().trimmed();
         if (line.isEmpty() || line.startsWith(u';') || !file.split(2))
             continue;
+        std::vector<int>& ofBoss = state.GreensOfBosses[folded(file.field(1).trimmed())];
+        if (ofBoss.size() == mostItemsOfBoss) {
+            file.skip(u"boss"_s, u"more than %1 items of one boss"_s.arg(mostItemsOfBoss));
+            continue;
+        }
         std::vector<QString> stats;
         for (size_t i = 2; i < file.fieldCount(); ++i)
             stats.push_back(file.text(i).trimmed());
         GreenItem item;
         item.setTexts(file.text(0).trimmed(), file.text(1).trimmed(), std::move(stats));
-        const std::string boss = folded(item.Boss);
-        state.GreensOfBosses[boss].push_back(state.GreenItems.append(std::move(item)));
+        ofBoss.push_back(state.GreenItems.append(std::move(item)));
     }
 }
 

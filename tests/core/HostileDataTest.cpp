@@ -1,0 +1,123 @@
+#include "app/ProgramState.h"
+#include "app/modData.h"
+#include "app/modLanguage.h"
+#include "fuzz/HostileWorld.h"
+#include "support/MemoryDisk.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <sys/resource.h>
+
+namespace orvinel {
+namespace {
+
+// Pieces that readers decide on.
+const std::array<QByteArray, 24> pieces = {
+    "\t",   "\r\n",         "\r",       "\n",          ";",          "0",   "-1", "65536",
+    "256",  "1e9",          "&HFF&",    "&H",          "\\n",        "=",   "/",  "{#ENTER#}",
+    "\x81", "\xEF\xBB\xBF", "\xFF\xFE", "99999999999", ";[Version]", "0.5", "  ", QByteArray(1, '\0')};
+
+// The same texts every time.
+class Mutator {
+  public:
+    QByteArray mutated(QByteArray bytes) {
+        for (int i = 1 + below(6); i > 0; --i)
+            mutateOnce(bytes);
+        return bytes;
+    }
+
+  private:
+    int below(qsizetype limit) {
+        return static_cast<int>(random_() % static_cast<quint32>(std::max<qsizetype>(1, limit)));
+    }
+
+    void mutateOnce(QByteArray& bytes) {
+        const int at = below(bytes.size() + 1);
+        switch (below(6)) {
+        case 0:
+            bytes.insert(at, pieces[static_cast<size_t>(below(pieces.size()))]);
+            break;
+        case 1:
+            bytes.replace(at, 1 + below(4), pieces[static_cast<size_t>(below(pieces.size()))]);
+            break;
+        case 2:
+            bytes.remove(at, 1 + below(8));
+            break;
+        case 3:
+            bytes.truncate(at);
+            break;
+        case 4:
+            bytes.insert(at, bytes.mid(below(bytes.size()), below(40)));
+            break;
+        default:
+            if (at < bytes.size())
+                bytes[at] = static_cast<char>(below(256));
+        }
+    }
+
+    std::mt19937 random_{20260307};
+};
+
+TEST(HostileData, mutatedFilesBreakNothing) {
+    constexpr int perFile = 130;
+    constexpr int looksAround = 26; // that take longer
+    Mutator mutator;
+    for (const HostileFile& file : hostileFiles())
+        for (int i = 0; i < perFile; ++i) {
+            const QByteArray bytes = mutator.mutated(file.good);
+            if (i % looksAround != 0)
+                loadWith(file, bytes);
+            else
+                EXPECT_EQ("", startWith(file, bytes).toStdString())
+                    << file.reader << ": " << bytes.toPercentEncoding().toStdString();
+        }
+}
+
+// In kB; what the process has held at most so far.
+long peakMemory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+TEST(HostileData, longFilesDoNotMultiplyEachOther) {
+    constexpr int lines = 20'000;
+    MemoryDisk disk;
+    disk.put(QStringLiteral("/o/Campaign.01.Ash/EliteLocations.txt"),
+             QByteArray("0\t1\t9\t9\tUlf\t\t5\r\n").repeated(lines));
+    disk.put(QStringLiteral("/o/Campaign.01.Ash/Greens.txt"), QByteArray("Ring\tUlf\r\n").repeated(lines));
+    const long before = peakMemory();
+    ProgramState state;
+    state.AppPath = QStringLiteral("/o/");
+    PlayerFiles files(disk);
+    loadTables(state, files);
+    EXPECT_EQ(lines, state.EliteSkills[0].Locations.count());
+    EXPECT_GT(200'000, peakMemory() - before);
+}
+
+TEST(HostileData, oneLineWithTheHighestNumberDoesNotEatTheMemory) {
+    MemoryDisk disk;
+    disk.put(QStringLiteral("/o/Data/Language.txt"), "65535\tx\r\n");
+    for (const char* folder : {"/o/Campaign.00.A/", "/o/Campaign.04.B/"}) {
+        const QString at = QString::fromLatin1(folder);
+        disk.put(at + QStringLiteral("EliteList.txt"), "65535\t255\tSpark\r\n");
+        disk.put(at + QStringLiteral("Collectors.txt"), "65535\tSmith\t1\r\nx\r\n1 y\r\n");
+        disk.put(at + QStringLiteral("PetsList.txt"), "65535\tWolf\tx\r\n");
+        disk.put(at + QStringLiteral("Regions.txt"), "255\tFar\r\n");
+        disk.put(at + QStringLiteral("Professions.txt"), "255\tMage\t1\tM\r\n");
+    }
+    disk.put(QStringLiteral("/o/Personal/Characters.txt"), "99\tAda\r\n");
+    const long before = peakMemory();
+    ProgramState state;
+    state.AppPath = QStringLiteral("/o/");
+    PlayerFiles files(disk);
+    LoadLanguage(state, disk);
+    loadTables(state, files);
+    EXPECT_EQ(65535, state.EliteSkills.highest());
+    EXPECT_GT(300'000, peakMemory() - before);
+}
+
+} // namespace
+} // namespace orvinel

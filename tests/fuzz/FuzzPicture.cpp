@@ -1,0 +1,17 @@
+// Mutated bytes as a region picture: nothing larger than the limit is decoded, and nothing breaks.
+
+#include "support/MemoryDisk.h"
+#include "ui/map/RegionPictures.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    orvinel::MemoryDisk disk;
+    const QString path = QStringLiteral("/o/1.jpg");
+    disk.put(path, QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+    const QImage picture = orvinel::loadPicture(disk, path);
+    if (picture.sizeInBytes() > 256ll * 1024 * 1024)
+        std::abort();
+    return 0;
+}
