@@ -177,6 +177,33 @@ TEST_F(PanelTest, theRowOfTheActiveTabLiesNextToThePages) {
     EXPECT_EQ(1, tabs.active());
 }
 
+TEST_F(PanelTest, onlyItsOwnBackgroundDragsThePanel) {
+    startPanel();
+    const auto dragged = [&](QWidget& by) {
+        const QPoint before = panel->pos();
+        QTest::mousePress(&by, Qt::LeftButton, {}, {2, 1});
+        QTest::mouseMove(&by, {12, 6});
+        QTest::mouseRelease(&by, Qt::LeftButton, {}, {2, 1});
+        return panel->pos() != before;
+    };
+    EXPECT_TRUE(dragged(*panel));
+    for (const char* other : {"picTab(0)", "picFalseBorder", "lblTot"})
+        EXPECT_FALSE(dragged(*on<QWidget>(*panel, other))) << other;
+}
+
+TEST_F(PanelTest, aRememberedLevelWithoutOptionChoosesNone) {
+    Options remembered;
+    remembered.CollectorLevel = 7;
+    startPanel(remembered);
+    panel->readOptions(remembered);
+    EXPECT_EQ(0, remembered.CollectorLevel);
+    auto& options = panel->collectorsPage().optCollLevel;
+    EXPECT_FALSE(options[0]->isChecked() || options[1]->isChecked() || options[2]->isChecked());
+    options[1]->click();
+    options[2]->click();
+    EXPECT_FALSE(options[1]->isChecked());
+}
+
 TEST_F(PanelTest, theListsFollowThePanelsHeight) {
     startPanel();
     panel->resize(panel->width(), 620);

@@ -70,9 +70,13 @@ int CollectorsPage::level() const {
 }
 
 void CollectorsPage::setLevel(int level) {
-    for (int i = 0; i < 3; ++i)
-        if (level == 2 - i)
-            optCollLevel[size_t(i)]->setChecked(true);
+    for (int i = 0; i < 3; ++i) {
+        QRadioButton& option = *optCollLevel[size_t(i)];
+        // Alone, so that a level that no option stands for leaves none of them chosen.
+        option.setAutoExclusive(false);
+        option.setChecked(level == 2 - i);
+        option.setAutoExclusive(true);
+    }
 }
 
 void CollectorsPage::read(CollectorChoice& choice) const {

@@ -17,6 +17,8 @@ TabPage::TabPage(int index, QWidget* parent) : QWidget(parent), inner_(new QWidg
     setObjectName(arrayName(QStringLiteral("picTab"), index));
     setGeometry(designPlace);
     setCursor(programCursor(101));
+    // A press beside the controls is not one on the panel's own background, which drags it.
+    setAttribute(Qt::WA_NoMousePropagation);
     hide();
 }
 

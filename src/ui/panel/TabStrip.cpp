@@ -43,6 +43,7 @@ TabStrip::TabStrip(std::array<TabPage*, tabCount> pages, QWidget* panel)
     picFalseBorder_->setObjectName(u"picFalseBorder"_s);
     picFalseBorder_->setGeometry(falseBorderPlace);
     picFalseBorder_->setCursor(programCursor(101));
+    picFalseBorder_->setAttribute(Qt::WA_NoMousePropagation);
 }
 
 void TabStrip::applyColours(const ProgramState& state) {
