@@ -4,6 +4,7 @@
 #include "app/FileDisk.h"
 #include "app/modOrvinel.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/PictureButton.h"
 #include "ui/platform/QtDesktop.h"
 #include "ui/platform/Windows.h"
 
@@ -38,6 +39,8 @@ QImage wholeRegion(Program& program, const Region& region, int campaign, int num
         return {};
     map.resize(QImage(region.RegionPicture).size() + (map.size() - map.picMap().size()));
     map.UpdateMapWithNewEliteSkills();
+    for (PictureButton* button : map.findChildren<PictureButton*>())
+        button->hide();
     return map.picMap().grab().toImage();
 }
 
