@@ -4,6 +4,13 @@ namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// A field takes far more memory than its TAB: no line of the program needs a tenth of these.
+constexpr qsizetype mostFields = 255;
+
+} // namespace
+
 TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
     : path_(std::move(path)), complaints_(complaints), source_(disk.read(path_)) {
     if (source_.outcome == ReadResult::Outcome::Failed && complaints_)
@@ -34,6 +41,11 @@ bool TextFile::nextRecord() {
 }
 
 bool TextFile::split(size_t fewest) {
+    if (line_.count(u'\t') >= mostFields) {
+        fields_.clear();
+        skip({}, u"more than %1 fields"_s.arg(mostFields));
+        return false;
+    }
     fields_ = splitFields(line_);
     if (fields_.size() >= fewest)
         return true;

@@ -74,6 +74,10 @@ class CollectorReader {
             const auto mask = file_.integer(1, "hand mask", -32768, 32767);
             if (!mask)
                 continue;
+            if (++objects_ > largestIdentifier) {
+                file_.skip({}, u"more than %1 rewards"_s.arg(largestIdentifier));
+                continue;
+            }
             std::vector<QString> stats;
             for (size_t i = 2; i < file_.fieldCount(); ++i)
                 stats.push_back(file_.text(i));
@@ -97,6 +101,7 @@ class CollectorReader {
 
     ProgramState& state_;
     TextFile& file_;
+    int objects_ = 0;
     QSet<QString>& requestTypes_; // lower-cased texts of those that are in the table
 };
 

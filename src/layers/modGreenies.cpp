@@ -21,6 +21,10 @@ void readGreens(ProgramState& state, TextFile& file) {
         const QStringView line = file.line().trimmed();
         if (line.isEmpty() || line.startsWith(u';') || !file.split(2))
             continue;
+        if (state.GreenItems.count() == largestIdentifier) {
+            file.skip({}, u"more than %1 items"_s.arg(largestIdentifier));
+            continue;
+        }
         std::vector<int>& ofBoss = state.GreensOfBosses[folded(file.field(1).trimmed())];
         if (ofBoss.size() == mostItemsOfBoss) {
             file.skip(u"boss"_s, u"more than %1 items of one boss"_s.arg(mostItemsOfBoss));

@@ -37,6 +37,8 @@ void readLine(ProgramState& state, TextFile& file) {
         file.skip({}, u"%1 fields instead of %2"_s.arg(file.fieldCount()).arg(fieldsOfNote));
     else if (file.field(0).trimmed().isEmpty())
         file.skip(u"title"_s, u"a note without a title"_s); // its body shall not vanish with the next save
+    else if (state.Notes.count() == largestIdentifier)
+        file.skip({}, u"more than %1 notes"_s.arg(largestIdentifier));
     else if (auto note = readNote(file))
         state.Notes.append(std::move(*note));
 }

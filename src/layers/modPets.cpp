@@ -15,6 +15,7 @@ namespace {
 void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
     using Limits = std::numeric_limits<int>;
     TextFile file(disk, campaignFolder(state, campaign) + u"/PetsLocations.txt"_s, complaints);
+    int stored = 0;
     while (file.nextRecord()) {
         if (!file.split(5))
             continue;
@@ -27,6 +28,10 @@ void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complain
             continue;
         if (!state.Pets.has(*id)) {
             file.skip(u"pet"_s, u"no pet %1"_s.arg(*id));
+            continue;
+        }
+        if (++stored > largestIdentifier) {
+            file.skip({}, u"more than %1 places"_s.arg(largestIdentifier));
             continue;
         }
         MapLocation at;

@@ -37,6 +37,7 @@ std::optional<Sprite> member(const Family& family, int campaign) {
 void loadZones(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, campaignFolder(state, campaign) + u"/Zones.txt"_s, complaints);
     auto& regions = state.Campaigns[campaign].Regions;
+    int stored = 0;
     while (file.nextRecord()) {
         if (!file.split(7))
             continue;
@@ -55,6 +56,8 @@ void loadZones(ProgramState& state, int campaign, const Disk& disk, Complaints* 
             file.skip(u"region"_s, u"no region %1"_s.arg(*region));
         else if (*type < 1 || *type > 6)
             file.skip(u"type"_s, u"no zone type %1"_s.arg(*type));
+        else if (++stored > largestIdentifier)
+            file.skip({}, u"more than %1 zones"_s.arg(largestIdentifier));
         else
             regions[*region].addZone({*id, file.text(6), *type, *flag, *x, *y});
     }

@@ -75,6 +75,21 @@ TEST(HostileData, mutatedFilesBreakNothing) {
         }
 }
 
+TEST(HostileData, listsEndWhereNoWorldNeedsThem) {
+    MemoryDisk disk;
+    disk.put(QStringLiteral("/o/Personal/Notes.txt"), QByteArray("a\t\t0\t0\t0\t0\n").repeated(66'000));
+    disk.put(QStringLiteral("/o/Campaign.01.Ash/Greens.txt"),
+             "Ring\tUlf" + QByteArray("\t").repeated(300) + "\nBow\tUlf\n");
+    ProgramState state;
+    state.AppPath = QStringLiteral("/o/");
+    PlayerFiles files(disk);
+    loadTables(state, files);
+    EXPECT_EQ(largestIdentifier, state.Notes.count());
+    EXPECT_EQ(1, state.GreenItems.count());
+    ASSERT_TRUE(SaveNotes(state, files).saved());
+    EXPECT_TRUE(disk.exists(QStringLiteral("/o/Personal/Notes.txt.bak"))); // the notes that found no room
+}
+
 // In kB; what the process has held at most so far.
 long peakMemory() {
     rusage usage{};
