@@ -34,6 +34,8 @@ class Disk {
     // Names of files and folders in `folder`, sorted by code point, without "." and ".."; empty on any error.
     virtual std::vector<QString> list(const QString& folder) const = 0;
     virtual ReadResult read(const QString& path) const = 0;
+    // The file or folder that `path` means, spelled as it is on the disk; `path` itself when there is none.
+    virtual QString resolve(const QString& path) const = 0;
 
     // All or nothing: afterwards the file holds `bytes` whole and safely on the medium, or is as it was.
     // A missing folder is created.

@@ -18,15 +18,12 @@ class FileDisk : public Disk {
     bool folderExists(const QString& path) const override;
     std::vector<QString> list(const QString& folder) const override;
     ReadResult read(const QString& path) const override;
+    QString resolve(const QString& path) const override;
     DiskError replace(const QString& path, const QByteArray& bytes) override;
     DiskError rename(const QString& from, const QString& to) override;
     DiskError remove(const QString& path) override;
     DiskError createFolder(const QString& path) override;
     DiskError removeFolder(const QString& path) override;
-
-    // The existing file or folder that `path` means; `path` itself, with its existing folders resolved, when
-    // there is none.
-    QString resolve(const QString& path) const;
 
   private:
     QString root_;

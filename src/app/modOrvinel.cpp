@@ -161,11 +161,11 @@ void Program::OpenWithShell(const QString& target) {
 }
 
 void Program::ShowHistory() {
-    OpenWithShell(state_.AppPath + u"Data/History.txt"_s);
+    OpenWithShell(files_.disk().resolve(state_.AppPath + u"Data/History.txt"_s));
 }
 
 void Program::RunUpdater() {
-    OpenWithShell(state_.AppPath + u"Update.exe"_s);
+    OpenWithShell(files_.disk().resolve(state_.AppPath + u"Update.exe"_s));
     QuitProgram();
 }
 

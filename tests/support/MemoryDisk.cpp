@@ -53,6 +53,11 @@ std::vector<QString> MemoryDisk::list(const QString& folder) const {
     return names;
 }
 
+QString MemoryDisk::resolve(const QString& path) const {
+    const auto found = entries_.find(path.toLower());
+    return found == entries_.end() ? path : found->second.name;
+}
+
 ReadResult MemoryDisk::read(const QString& path) const {
     if (const auto broken = unreadable.find(path); broken != unreadable.end())
         return {ReadResult::Outcome::Failed, {}, broken->second};

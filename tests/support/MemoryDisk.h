@@ -35,6 +35,7 @@ class MemoryDisk : public Disk {
     bool folderExists(const QString& path) const override;
     std::vector<QString> list(const QString& folder) const override;
     ReadResult read(const QString& path) const override;
+    QString resolve(const QString& path) const override;
     DiskError replace(const QString& path, const QByteArray& content) override;
     DiskError rename(const QString& from, const QString& to) override;
     DiskError remove(const QString& path) override;

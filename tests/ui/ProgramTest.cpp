@@ -1,0 +1,131 @@
+#include "app/modOrvinel.h"
+#include "support/MemoryDisk.h"
+#include "support/RecordingDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+struct ProgramTest : testing::Test {
+    MemoryDisk disk;
+    RecordingDesktop desktop;
+    std::optional<int> exitCode;
+    std::unique_ptr<Program> program;
+
+    ProgramTest() { disk.put(u"/o/Data/Language.txt"_s, "9\tAll\r\n"); }
+
+    bool start() {
+        program = std::make_unique<Program>(u"/o/"_s, disk, desktop, [this](int code) { exitCode = code; });
+        return program->Main();
+    }
+    QString option(const char* key) const {
+        for (const QString& line :
+             QString::fromLatin1(disk.content(u"/o/Data/Options.txt"_s)).split(u"\r\n"_s))
+            if (line.startsWith(QLatin1String(key) + u'='))
+                return line.section(u'=', 1);
+        return u"missing"_s;
+    }
+};
+
+TEST_F(ProgramTest, withoutALanguageFileItSaysSoAndEnds) {
+    disk = MemoryDisk();
+    EXPECT_FALSE(start());
+    ASSERT_EQ(3, desktop.log.size());
+    EXPECT_TRUE(desktop.log[1].startsWith(u"message Critical Orvinel|Can't load language file."_s));
+    EXPECT_EQ((QStringList{u"hourglass 1"_s, u"hourglass 0"_s}),
+              (QStringList{desktop.log[0], desktop.log[2]}));
+    EXPECT_TRUE(disk.log.empty());
+}
+
+TEST_F(ProgramTest, anUnknownCampaignEndsIt) {
+    disk.putFolder(u"/o/Campaign.05.Late"_s);
+    EXPECT_FALSE(start());
+    EXPECT_TRUE(
+        desktop.log.contains(u"warn Orvinel|I haven't released chapert 5 yet... how can you have it?"_s));
+}
+
+TEST_F(ProgramTest, theFirstStartFillsTheWorkAreaAndIsForgottenAtTheEnd) {
+    desktop.work = {0, 0, 1280, 1000};
+    ASSERT_TRUE(start());
+    EXPECT_EQ(QRect(0, 0, 217, 1000), program->panel().geometry());
+    EXPECT_EQ(QRect(217, 0, 1063, 1000), program->map().geometry());
+    program->QuitProgram();
+    EXPECT_EQ(0, exitCode);
+    EXPECT_EQ(u"-1"_s, option("PosX"));
+    EXPECT_EQ(u"-1"_s, option("DimY"));
+}
+
+TEST_F(ProgramTest, thePairIsInsetByATwentiethOfTheRightEdgeAndRemembered) {
+    desktop.work = {0, 0, 1280, 1000};
+    ASSERT_TRUE(start());
+    program->ToggleMapMaximised();
+    EXPECT_EQ(QRect(64, 64, 217, 872), program->panel().geometry());
+    EXPECT_EQ(QRect(281, 64, 935, 872), program->map().geometry());
+    program->QuitProgram();
+    EXPECT_EQ(u"960"_s, option("PosX"));
+    EXPECT_EQ(u"960"_s, option("PosY"));
+    EXPECT_EQ(u"14025"_s, option("DimX"));
+    EXPECT_EQ(u"13080"_s, option("DimY"));
+}
+
+TEST_F(ProgramTest, aRememberedPlaceComesBackAndIsWrittenAsItWas) {
+    disk.put(u"/o/Data/Options.txt"_s, "PosX=1507\r\nPosY=300\r\nDimX=9000\r\nDimY=7500\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(QRect(100, 20, 217, 872), program->panel().geometry());
+    EXPECT_EQ(QRect(317, 20, 600, 500), program->map().geometry());
+    program->QuitProgram();
+    EXPECT_EQ(u"1507"_s, option("PosX"));
+}
+
+TEST_F(ProgramTest, aPlaceWiderThanTheScreensGivesTheFullWorkArea) {
+    const int widest = desktop.screens.width() * 15 - 217 * 15;
+    disk.put(u"/o/Data/Options.txt"_s,
+             "PosX=0\r\nPosY=0\r\nDimY=7500\r\nDimX=" + QByteArray::number(widest + 1));
+    ASSERT_TRUE(start());
+    EXPECT_EQ(desktop.work.height(), program->map().height());
+    program->QuitProgram();
+    EXPECT_EQ(u"-1"_s, option("PosX"));
+}
+
+TEST_F(ProgramTest, aPlaceOutOfReachIsNotUsedButKept) {
+    disk.put(u"/o/Data/Options.txt"_s, "PosX=-90000\r\nPosY=-90000\r\nDimX=9000\r\nDimY=7500\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(QPoint(0, 0), program->panel().pos());
+    program->QuitProgram();
+    EXPECT_EQ(u"-90000"_s, option("PosX"));
+}
+
+TEST_F(ProgramTest, theMapFollowsThePanelUnlessTheyFillTheScreen) {
+    ASSERT_TRUE(start());
+    program->ToggleMapMaximised();
+    program->panel().move(30, 40);
+    EXPECT_EQ(QPoint(247, 40), program->map().pos());
+}
+
+TEST_F(ProgramTest, failingToSaveTheOptionsIsToldAndTheProgramStaysIfThePlayerWants) {
+    ASSERT_TRUE(start());
+    disk.failAt = static_cast<int>(disk.log.size()) + 1;
+    desktop.answer = false;
+    program->QuitProgram();
+    EXPECT_FALSE(exitCode);
+    EXPECT_TRUE(desktop.log.last().contains(u"Could not save Options.txt:\nthe disk is full"_s));
+    desktop.answer = true;
+    program->QuitProgram();
+    EXPECT_EQ(0, exitCode);
+}
+
+TEST_F(ProgramTest, theUpdaterIsFoundWhateverItsCaseAndEndsTheProgram) {
+    disk.put(u"/o/update.exe"_s, "x");
+    ASSERT_TRUE(start());
+    program->RunUpdater();
+    EXPECT_TRUE(desktop.log.contains(u"open /o/update.exe"_s));
+    EXPECT_EQ(0, exitCode);
+}
+
+} // namespace
+} // namespace orvinel
