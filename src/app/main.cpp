@@ -1,7 +1,7 @@
 #include "app/FileDisk.h"
+#include "app/SingleInstance.h"
 #include "app/modOrvinel.h"
 #include "ui/platform/QtDesktop.h"
-#include "app/SingleInstance.h"
 #include "ui/platform/Windows.h"
 
 #include <QApplication>
