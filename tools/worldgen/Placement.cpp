@@ -141,11 +141,12 @@ std::vector<QPoint>& PlaceFinder::cellOf(QPoint place) {
                   std::size_t(place.x() / CellSize)];
 }
 
-/// A spacing is never larger than a cell, so that the neighbouring cells hold all that can be too near.
+/// Markers are squares: apart along one axis is apart. A spacing is never larger than a cell, so that the
+/// neighbouring cells hold all that can be too near.
 bool PlaceFinder::isCrowded(QPoint place, int spacing) const {
     const auto tooNear = [&](QPoint other) {
         const QPoint gap = other - place;
-        return gap.x() * gap.x() + gap.y() * gap.y() < spacing * spacing;
+        return std::abs(gap.x()) < spacing && std::abs(gap.y()) < spacing;
     };
     const int rows = int(taken_.size()) / columns_;
     const int column = place.x() / CellSize;

@@ -20,9 +20,9 @@ class PlaceFinder {
     /// Keeps marker centres out of `area` (pixels).
     void block(const QRect& area) { blocked_.push_back(area); }
 
-    /// A point of land at least `spacing` pixels from every place given out so far, outside all blocked
-    /// areas, and as close to `centre` as chance and room allow: first within `reach` pixels, then farther
-    /// and farther. Nothing when the whole region has no such point.
+    /// A point of land at least `spacing` pixels, along x or y, from every place given out so far, outside
+    /// all blocked areas, and as close to `centre` as chance and room allow: first within `reach` pixels,
+    /// then farther and farther. Nothing when the whole region has no such point.
     std::optional<QPoint> placeNear(QPoint centre, int reach, int spacing);
 
   private:
