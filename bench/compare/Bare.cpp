@@ -1,0 +1,44 @@
+#include "compare/Bare.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace orvinel::bench {
+
+void BareMap::paintEvent(QPaintEvent* event) {
+    QPainter(this).drawImage(event->rect().topLeft(), picture_, event->rect().translated(offset));
+}
+
+void BareMap::mousePressEvent(QMouseEvent* event) {
+    grip_ = event->position().toPoint() + offset;
+}
+
+void BareMap::mouseMoveEvent(QMouseEvent* event) {
+    offset = grip_ - event->position().toPoint();
+    update();
+}
+
+Bare::Bare(QImage picture, QStringList texts)
+    : map_(std::move(picture)), field_(new QLineEdit(&panel_)), list_(new QListView(&panel_)),
+      all_(std::move(texts)) {
+    for (qsizetype i = 0; i < all_.size(); i += 2)
+        half_ << all_[i];
+    model_.setStringList(all_);
+    list_->setUniformItemSizes(true);
+    list_->setModel(&model_);
+    QObject::connect(field_, &QLineEdit::textChanged, list_, [this](const QString& text) {
+        model_.setStringList(text.size() % 2 == 0 ? all_ : half_);
+        map_.update();
+    });
+}
+
+void Bare::show(const QRect& panel, const QRect& map) {
+    panel_.setGeometry(panel);
+    map_.setGeometry(map);
+    field_->setGeometry(4, 4, panel.width() - 8, 21);
+    list_->setGeometry(4, 30, panel.width() - 8, panel.height() - 34);
+    panel_.show();
+    map_.show();
+}
+
+} // namespace orvinel::bench

@@ -1,0 +1,110 @@
+#include "HotWorld.h"
+#include "World.h"
+#include "app/modData.h"
+#include "compare/PlainMap.h"
+#include "ui/platform/Windows.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+#include <valgrind/callgrind.h>
+
+namespace orvinel::bench {
+
+namespace {
+
+// Runs the work once to warm up, then once counted; the counts are written under `name`.
+template <typename Work>
+void count(const char* name, const Work& work) {
+    work();
+    CALLGRIND_START_INSTRUMENTATION;
+    CALLGRIND_ZERO_STATS;
+    work();
+    CALLGRIND_DUMP_STATS_AT(name);
+    CALLGRIND_STOP_INSTRUMENTATION;
+}
+
+void countTables(World& world) {
+    count("load", [&] {
+        FileDisk disk(world.folder());
+        PlayerFiles files(disk);
+        ProgramState state;
+        state.AppPath = world.folder();
+        loadTables(state, files);
+    });
+    const ProgramState& state = world.state();
+    count("search-skills", [&] {
+        EliteChoice choice;
+        choice.nameText = QStringLiteral("qx");
+        eliteEntries(state, choice);
+    });
+    count("search-collectors", [&] {
+        CollectorChoice choice;
+        choice.searchText = QStringLiteral("qx");
+        collectorEntries(state, choice);
+    });
+    count("list-skills", [&] { eliteEntries(state, {}); });
+    count("markers", [&] { allMarkers(state, world.map().shown(0)); });
+}
+
+void countMap(World& world) {
+    MapSurface& surface = *world.map().picMap().surface();
+    const MapShown shown = world.map().shown(0);
+    const QRect visible = world.map().picMap().view().visible();
+    bool few = false;
+    count("recompose", [&] {
+        for (int round = 0; round < 2; ++round) {
+            few = !few;
+            surface.setMarkers(allMarkers(world.state(), shown, few ? QStringLiteral("a") : QString()));
+            surface.composed(visible);
+        }
+    });
+    count("mouse-move", [&] {
+        for (int x = 0; x < 200; ++x)
+            world.map().askMouseOverChain({double(x), 3});
+        world.map().HideInformationWindows();
+    });
+}
+
+void countKeys(World& world) {
+    QLineEdit& field = *world.panel().elitePage().txtEliteName;
+    count("keystrokes", [&] {
+        for (const char key : {'a', 'r', '\b', '\b'}) {
+            pressKey(field, key);
+            settle();
+        }
+    });
+    MapViewport& map = world.map().picMap();
+    count("drag", [&] {
+        sendMouse(map, QEvent::MouseButtonPress, {200, 200}, Qt::LeftButton);
+        for (int x = 200; x > 100; x -= 10) {
+            sendMouse(map, QEvent::MouseMove, {x, x}, Qt::LeftButton);
+            settle();
+        }
+        sendMouse(map, QEvent::MouseButtonRelease, {100, 100}, Qt::LeftButton);
+        settle();
+    });
+}
+
+} // namespace
+
+} // namespace orvinel::bench
+
+// bench_counts: to be run below callgrind, which it tells what to count; the world is its own, always the
+// same.
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    orvinel::applyAppearance(application);
+    const QTemporaryDir folder;
+    if (!orvinel::bench::writeHotWorld(folder.path() + u'/')) {
+        std::fputs("the world could not be written\n", stderr);
+        return 1;
+    }
+    orvinel::bench::World world("counted", folder.path());
+    orvinel::bench::countTables(world);
+    orvinel::bench::countMap(world);
+    orvinel::bench::countKeys(world);
+    return 0;
+}
