@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QTranslator>
 #include <QWindow>
 
@@ -27,6 +28,14 @@ class ProgramStyle : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override {
         return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+    // The narrow drop-down lists of the panel would cut off the end of "<<< None >>>" otherwise.
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        const QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+        const bool text = control == CC_ComboBox && part == SC_ComboBoxEditField;
+        const bool leftToRight = option->direction == Qt::LeftToRight;
+        return text ? place.adjusted(leftToRight ? 0 : -5, 0, leftToRight ? 5 : 0, 0) : place;
     }
     // The boxes and buttons that stand alone are 13 pixels wide; one more would be cut off.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
