@@ -38,6 +38,12 @@ void Program::openMenu(int menu) {
     popupMenu_->OpenMenu(menu, *panel_->menuBar().lblMenu[size_t(menu)]);
 }
 
+void Program::openMenuByKey(int menu) {
+    panel_->activateWindow();
+    openMenu(menu);
+    popupMenu_->highlightFirst();
+}
+
 void Program::OnMenuEntryClick(int menu, int entry) {
     popupMenu_->hide();
     if (menu == ViewMenu) {

@@ -58,6 +58,7 @@ void Program::makeWindows() {
     wirePanel();
     wireMap();
     wireMenus();
+    wireKeys();
 }
 
 void Program::makeLayers() {

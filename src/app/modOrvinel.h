@@ -11,6 +11,7 @@
 #include "ui/map/Flashing.h"
 #include "ui/map/MapMenus.h"
 #include "ui/map/frmMap.h"
+#include "ui/panel/WindowKeys.h"
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
 
@@ -59,6 +60,7 @@ class Program : public QObject {
     // The panel's menus (ProgramMenus.cpp).
     void wireMenus();
     void openMenu(int menu);
+    void openMenuByKey(int menu);
     void OnMenuEntryClick(int menu, int entry);
     void chooseOption(int entry);
     void chooseHelp(int entry);
@@ -66,6 +68,11 @@ class Program : public QObject {
     void ToggleAlwaysOnTop();
     void applyAlwaysOnTop();
     void OpenCharacterList();
+
+    // The keyboard (ProgramKeys.cpp).
+    void wireKeys();
+    void actOnSelected();
+    void insertNote();
 
     // The dialogs that the map and the lists open (ProgramMenus.cpp).
     DialogContext dialogContext();
@@ -91,6 +98,7 @@ class Program : public QObject {
     std::unique_ptr<ProgramLayers> layers_;
     std::unique_ptr<MapMenus> mapMenus_;
     std::unique_ptr<Flashing> flashing_;
+    std::unique_ptr<WindowKeys> keys_;
 };
 
 } // namespace orvinel

@@ -113,9 +113,21 @@ void Flashing::tick(int kind) {
     phase = !phase;
 }
 
-std::optional<MapViewport::Selection> Flashing::selection(int kind) const {
+std::optional<MapPoint> Flashing::selectedPlace() const {
+    for (int kind = 0; kind < kinds; ++kind)
+        if (const MapLocation* at = selected(kind); at && panel_.tabs().active() == row(kind).layer)
+            return MapPoint{at->X, at->Y};
+    return std::nullopt;
+}
+
+const MapLocation* Flashing::selected(int kind) const {
     const MapLocation* at = row(kind).selected(state_, panel_);
-    if (!at || !map_.mapLoaded() || !map_.shown(0).shows(at->Campaign, at->Region))
+    return at && map_.mapLoaded() && map_.shown(0).shows(at->Campaign, at->Region) ? at : nullptr;
+}
+
+std::optional<MapViewport::Selection> Flashing::selection(int kind) const {
+    const MapLocation* at = selected(kind);
+    if (!at)
         return std::nullopt;
     const QSize size = map_.art().picture(row(kind).sprite).size();
     return MapViewport::Selection{row(kind).sprite, {at->X - size.width() / 2, at->Y - size.height() / 2}};

@@ -26,12 +26,17 @@ class Flashing : public QObject {
     // The layer (0..4) was switched on or off in the panel.
     void switchFlashing(int layer, bool on);
 
+    // Of the entry selected on the active page, if it lies on the map shown.
+    std::optional<MapPoint> selectedPlace() const;
+
   private:
     struct Blinking {
         QTimer timer;
         bool phase = false;
     };
     void tick(int kind);
+    // Nothing when the kind has no selection on the map shown.
+    const MapLocation* selected(int kind) const;
     // Where the selection's picture belongs; nothing when the kind has no selection on the map shown.
     std::optional<MapViewport::Selection> selection(int kind) const;
     void show(int kind, const std::optional<MapViewport::Selection>& selection);

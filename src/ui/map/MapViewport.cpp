@@ -151,6 +151,13 @@ void MapViewport::keyPressEvent(QKeyEvent* event) {
         return scrollWanted(-veryFar, -veryFar);
     case Qt::Key_End:
         return scrollWanted(veryFar, veryFar);
+    case Qt::Key_Space:
+        return lookKeyPressed();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return actKeyPressed();
+    case Qt::Key_Insert:
+        return insertKeyPressed();
     case Qt::Key_Menu:
         return menuKeyPressed();
     case Qt::Key_Escape:
@@ -158,6 +165,15 @@ void MapViewport::keyPressEvent(QKeyEvent* event) {
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+// The base class would paint the whole map anew; what tells of the focus lies around it.
+void MapViewport::focusInEvent(QFocusEvent*) {
+    emit focusChanged();
+}
+
+void MapViewport::focusOutEvent(QFocusEvent*) {
+    emit focusChanged();
 }
 
 } // namespace orvinel

@@ -50,6 +50,11 @@ class MapViewport : public QWidget {
     void scrollWanted(int dx, int dy);
     void menuKeyPressed();
     void escapePressed();
+    // Space, Enter and Insert: to look at what is selected, to act on it, to pin a note.
+    void lookKeyPressed();
+    void actKeyPressed();
+    void insertKeyPressed();
+    void focusChanged();
     void resized();
 
   protected:
@@ -61,6 +66,8 @@ class MapViewport : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     ViewPoint toView(QPointF position) const;

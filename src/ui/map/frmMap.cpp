@@ -1,5 +1,6 @@
 #include "ui/map/frmMap.h"
 
+#include "app/About.h"
 #include "app/modLanguage.h"
 #include "ui/map/EmptyMap.h"
 #include "ui/map/RegionPictures.h"
@@ -8,6 +9,7 @@
 #include "ui/platform/Windows.h"
 
 #include <QCloseEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -66,6 +68,10 @@ void frmMap::connectViewport() {
     connect(viewport_, &MapViewport::doubleClicked, this, &frmMap::doubleClick);
     connect(viewport_, &MapViewport::scrollWanted, this, &frmMap::scrollBy);
     connect(viewport_, &MapViewport::menuKeyPressed, this, &frmMap::menuKeyPressed);
+    connect(viewport_, &MapViewport::lookKeyPressed, this, &frmMap::lookKeyPressed);
+    connect(viewport_, &MapViewport::actKeyPressed, this, &frmMap::actKeyPressed);
+    connect(viewport_, &MapViewport::insertKeyPressed, this, &frmMap::insertKeyPressed);
+    connect(viewport_, &MapViewport::focusChanged, this, qOverload<>(&QWidget::update));
     connect(viewport_, &MapViewport::escapePressed, this, &frmMap::HideInformationWindows);
     connect(viewport_, &MapViewport::resized, this, [this] {
         if (!mapLoaded())
@@ -95,9 +101,16 @@ void frmMap::InizializzaVariabili(const QString& picture, int campaign, int regi
     }
     if (!mapLoaded())
         showEmptyMap();
-    const QString name = regionName(with_.state, campaign_, region_);
-    viewport_->setAccessibleName(mapLoaded() ? name : with_.state.text(emptyMapTitle));
+    sayWhatIsShown();
     with_.desktop.processPendingEvents();
+}
+
+void frmMap::sayWhatIsShown() {
+    const ProgramState& state = with_.state;
+    viewport_->setAccessibleName(mapLoaded() ? regionName(state, campaign_, region_)
+                                             : state.text(emptyMapTitle));
+    viewport_->setAccessibleDescription(mapLoaded() ? campaignName(state, campaign_) : QString());
+    setAccessibleName(programName() + u": "_s + viewport_->accessibleName());
 }
 
 std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campaign, int region) {
@@ -198,6 +211,34 @@ void frmMap::scrollBy(int dx, int dy) {
     MapView& view = viewport_->view();
     view.scrollTo(view.scrollX() - dx, view.scrollY() - dy);
     UpdateMap();
+}
+
+ViewPoint frmMap::bringIntoView(MapPoint place) {
+    MapView& view = viewport_->view();
+    if (!view.visible().contains(place.point()))
+        CenterMapOn(place.x, place.y);
+    return view.toView(place);
+}
+
+void frmMap::lookAt(MapPoint place) {
+    HideInformationWindows();
+    askMouseOverChain(bringIntoView(place));
+}
+
+void frmMap::actAt(MapPoint place) {
+    press(Qt::LeftButton, Qt::NoModifier, bringIntoView(place));
+    release(Qt::LeftButton);
+    doubleClick();
+}
+
+// The margin tells when the keys act on the map.
+void frmMap::paintEvent(QPaintEvent*) {
+    if (!viewport_->hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    for (int inset = 0; inset < margin; ++inset)
+        painter.drawRect(rect().adjusted(inset, inset, -inset - 1, -inset - 1));
 }
 
 void frmMap::resizeEvent(QResizeEvent*) {

@@ -70,6 +70,9 @@ class frmMap : public QWidget {
     void UpdateMap() { viewport_->update(); }
     void HideInformationWindows();
     bool askMouseOverChain(ViewPoint at);
+    // As if the mouse had stopped on the place or been double-clicked there; scrolls it into view.
+    void lookAt(MapPoint place);
+    void actAt(MapPoint place);
 
   signals:
     void quitWanted();
@@ -78,8 +81,12 @@ class frmMap : public QWidget {
     // The right button was pressed on empty map; screen position.
     void regionMenuWanted(QPoint global);
     void menuKeyPressed();
+    void lookKeyPressed();
+    void actKeyPressed();
+    void insertKeyPressed();
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -92,6 +99,8 @@ class frmMap : public QWidget {
     void release(Qt::MouseButton button);
     void doubleClick();
     void scrollBy(int dx, int dy);
+    ViewPoint bringIntoView(MapPoint place);
+    void sayWhatIsShown();
     void showEmptyMap();
     std::unique_ptr<MapSurface> loadRegion(const QString& picture, int campaign, int region);
 

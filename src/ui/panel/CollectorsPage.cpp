@@ -36,14 +36,15 @@ CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(1, parent) {
     lblCollhand->nameFor(cmbCollHand);
     lblCollSearch->nameFor(txtCollSearch);
     lblCollectors->nameFor(lstCollectors);
+    leadToList(*txtCollSearch, *lstCollectors);
 }
 
 void CollectorsPage::applyCaptions(const ProgramState& state) {
     lblCollStuffType->setCaption(state.text(48));
     lblCollectorLevel->setCaption(state.text(97));
     for (size_t i = 0; i < 3; ++i) {
-        optCollType[i]->setText(verbatim(state.text(std::array{9, 51, 52}[i])));
-        optCollLevel[i]->setText(verbatim(state.text(std::array{9, 98, 99}[i])));
+        setOptionCaption(*optCollType[i], state.text(std::array{9, 51, 52}[i]), state.text(48));
+        setOptionCaption(*optCollLevel[i], state.text(std::array{9, 98, 99}[i]), state.text(97));
     }
     lblCollRequest->setCaption(state.text(46));
     lblCollhand->setCaption(state.text(10));

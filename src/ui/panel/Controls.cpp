@@ -39,6 +39,20 @@ QRadioButton* panelOption(const QString& name, const QRect& place, QWidget* pare
     return option;
 }
 
+void setOptionCaption(QRadioButton& option, const QString& caption, const QString& group) {
+    option.setText(verbatim(caption));
+    option.setAccessibleName(caption);
+    option.setAccessibleDescription(group);
+}
+
+void leadToList(QLineEdit& field, ListBox& list) {
+    QObject::connect(&field, &QLineEdit::returnPressed, &list, [&list] {
+        list.setFocus(Qt::TabFocusReason);
+        if (!list.hasSelection() && list.count() > 0)
+            list.select(0);
+    });
+}
+
 QString arrayName(const QString& name, int index) {
     return name + u'(' + QString::number(index) + u')';
 }

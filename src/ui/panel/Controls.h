@@ -19,6 +19,11 @@ ItemCombo* panelCombo(const QString& name, const QRect& place, QWidget* parent);
 ListBox* panelList(const QString& name, const QRect& place, QWidget* parent);
 QLineEdit* panelField(const QString& name, const QRect& place, QWidget* parent);
 QRadioButton* panelOption(const QString& name, const QRect& place, QWidget* parent);
+// `group`: what the option is one of, for those who have it read out.
+void setOptionCaption(QRadioButton& option, const QString& caption, const QString& group);
+
+// Enter in the field leads to the list and, where nothing is selected, to its first entry.
+void leadToList(QLineEdit& field, ListBox& list);
 
 // "name(index)", the fixed name of a member of a control array.
 QString arrayName(const QString& name, int index);

@@ -31,11 +31,13 @@ ElitePage::ElitePage(QWidget* parent) : TabPage(0, parent) {
     lblBossName->nameFor(txtEliteBossName);
     lblTot->nameFor(lstElite);
     lblLocations->nameFor(lstLocations);
+    leadToList(*txtEliteName, *lstElite);
+    leadToList(*txtEliteBossName, *lstElite);
 }
 
 void ElitePage::applyCaptions(const ProgramState& state) {
-    optCapture[0]->setText(verbatim(state.text(11)));
-    optCapture[1]->setText(verbatim(state.text(6)));
+    setOptionCaption(*optCapture[0], state.text(11), state.text(32));
+    setOptionCaption(*optCapture[1], state.text(6), state.text(32));
     cmbCharacter->setAccessibleName(state.text(20));
     lblSecondaryProfession->setCaption(u"Secondary prof."_s);
     lblEliteName->setCaption(state.text(7));

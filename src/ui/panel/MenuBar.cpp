@@ -4,6 +4,10 @@
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 
+#include <QKeyEvent>
+
+#include <algorithm>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -24,7 +28,9 @@ MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
     setGeometry(barPlace);
     for (size_t i = 0; i < lblMenu.size(); ++i) {
         const int index = static_cast<int>(i);
-        lblMenu[i] = new Label(arrayName(u"lblMenu"_s, index), this);
+        lblMenu[i] = new MenuCaption(arrayName(u"lblMenu"_s, index), this);
+        lblMenu[i]->setFocusPolicy(Qt::TabFocus);
+        lblMenu[i]->installEventFilter(this);
         lblMenu[i]->setFont(arial(points8_25));
         lblMenu[i]->move(wordPlaces[i]);
         connect(lblMenu[i], &Label::pressed, this, [this, i] { lblMenu[i]->setColour(pureBlue); });
@@ -46,8 +52,46 @@ void MenuBar::markOpen(int index) {
     open_ = index;
     Label& word = *lblMenu[static_cast<size_t>(index)];
     word.setColour(pureBlue);
+    frame(word);
+}
+
+void MenuBar::frame(const Label& word) {
     frame_ = QRect(word.x() - 4, framePlace.y(), word.width() + 8, framePlace.height());
     update();
+}
+
+bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
+    const auto word = std::find(lblMenu.begin(), lblMenu.end(), watched);
+    if (word == lblMenu.end())
+        return false;
+    if (event->type() == QEvent::KeyPress)
+        return keyOnWord(static_cast<int>(word - lblMenu.begin()), static_cast<QKeyEvent*>(event)->key());
+    if (event->type() == QEvent::FocusIn) {
+        frame(**word);
+    } else if (event->type() == QEvent::FocusOut && open_ < 0) {
+        frame_ = {};
+        update();
+    }
+    return false;
+}
+
+bool MenuBar::keyOnWord(int index, int key) {
+    const int count = static_cast<int>(lblMenu.size());
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        lblMenu[size_t(index + (key == Qt::Key_Left ? count - 1 : 1)) % lblMenu.size()]->setFocus(
+            Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Down:
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit menuWantedByKey(index);
+        return true;
+    default:
+        return false;
+    }
 }
 
 void MenuBar::markClosed() {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/ProgramState.h"
-#include "ui/platform/Label.h"
+#include "ui/panel/MenuCaption.h"
 
 #include <QWidget>
 
@@ -15,7 +15,7 @@ class MenuBar : public QWidget {
   public:
     explicit MenuBar(QWidget* panel);
 
-    std::array<Label*, 3> lblMenu{};
+    std::array<MenuCaption*, 3> lblMenu{};
 
     void applyCaptions(const ProgramState& state);
     // Marks a word as the open menu's: blue and framed.
@@ -24,11 +24,17 @@ class MenuBar : public QWidget {
 
   signals:
     void menuWanted(int index);
+    // The same by a key: an entry of the menu is to be highlighted at once.
+    void menuWantedByKey(int index);
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void frame(const Label& word);
+    bool keyOnWord(int index, int key);
+
     QRect frame_; // shaMenuSel; empty: hidden
     int open_ = -1;
 };

@@ -1,5 +1,6 @@
 #include "ui/panel/MenuCaption.h"
 
+#include "ui/panel/MenuBar.h"
 #include "ui/panel/frmPopupMenu.h"
 
 #include <QAccessibleWidget>
@@ -41,6 +42,8 @@ QAccessibleInterface* accessibleMenuPart(const QString&, QObject* object) {
         return new AccessibleCaption(*caption);
     if (auto* menu = qobject_cast<frmPopupMenu*>(object))
         return new QAccessibleWidget(menu, QAccessible::PopupMenu);
+    if (auto* bar = qobject_cast<MenuBar*>(object))
+        return new QAccessibleWidget(bar, QAccessible::MenuBar);
     return nullptr;
 }
 

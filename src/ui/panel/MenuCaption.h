@@ -4,8 +4,8 @@
 
 namespace orvinel {
 
-// The text of a row of a drop-down menu. A command's text takes the focus and is a menu item to a screen
-// reader; that of a check box or option button only stands beside it.
+// A word of the menu bar, or the text of a row of a drop-down menu. One that takes the focus is a menu item
+// to a screen reader; that of a check box or option button only stands beside it.
 class MenuCaption : public Label {
     Q_OBJECT
   public:
@@ -15,8 +15,8 @@ class MenuCaption : public Label {
     bool isCommand() const { return focusPolicy() != Qt::NoFocus; }
 };
 
-// Makes screen readers take MenuCaption for a menu item and frmPopupMenu for a menu. Once is enough, more
-// do no harm.
+// Makes screen readers take MenuCaption for a menu item, frmPopupMenu for a menu and MenuBar for a menu bar.
+// Once is enough, more do no harm.
 void installMenuAccessibility();
 
 } // namespace orvinel

@@ -14,6 +14,8 @@ GreensPage::GreensPage(QWidget* parent) : TabPage(2, parent) {
     lblGreenName->nameFor(txtGreensName);
     lblGreenAdditional->nameFor(txtGreenAdditional);
     lblGreensList->nameFor(lstGreens);
+    leadToList(*txtGreensName, *lstGreens);
+    leadToList(*txtGreenAdditional, *lstGreens);
 }
 
 void GreensPage::applyCaptions(const ProgramState& state) {
@@ -36,6 +38,8 @@ NotesPage::NotesPage(QWidget* parent) : TabPage(3, parent) {
     lblNoteShortDesc->nameFor(txtNoteShortDesc);
     lblNoteBody->nameFor(txtNoteBody);
     lblNoteList->nameFor(lstNotes);
+    leadToList(*txtNoteShortDesc, *lstNotes);
+    leadToList(*txtNoteBody, *lstNotes);
 }
 
 void NotesPage::applyCaptions(const ProgramState& state) {

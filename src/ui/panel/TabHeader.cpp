@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace orvinel {
@@ -51,12 +52,14 @@ TabHeader::TabHeader(int index, const QString& caption, Colour textColour, QWidg
     setObjectName(arrayName(QStringLiteral("lblTab"), index));
     setText(caption);
     setFont(arial(points8_25, true));
-    setFocusPolicy(Qt::TabFocus);
+    setFocusPolicy(Qt::NoFocus);
     setCursor(programCursor(101));
 }
 
 void TabHeader::setTag(const QString& tag) {
     tag_ = tag;
+    // Tab stops at the active one only; the arrow keys go on from there.
+    setFocusPolicy(tag.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
     QAccessible::State changed;
     changed.selected = true;
     QAccessibleStateChangeEvent event(this, changed);
@@ -65,6 +68,19 @@ void TabHeader::setTag(const QString& tag) {
 
 void TabHeader::setColour(Colour colour) {
     setBackground(*this, colour);
+}
+
+void TabHeader::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return stepWanted(1);
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        return stepWanted(-1);
+    default:
+        QAbstractButton::keyPressEvent(event);
+    }
 }
 
 void TabHeader::paintEvent(QPaintEvent*) {

@@ -17,8 +17,13 @@ class TabHeader : public QAbstractButton {
     void setTag(const QString& tag);
     void setColour(Colour colour);
 
+  signals:
+    // By an arrow key: 1 the next tab, -1 the one before.
+    void stepWanted(int step);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     Colour textColour_;

@@ -37,8 +37,10 @@ TabStrip::TabStrip(std::array<TabPage*, tabCount> pages, QWidget* panel)
         auto* box = new SmallCheckBox(arrayName(u"chkShowObject"_s, i), panel);
         box->move(design.place.topLeft() + QPoint(3, 3));
         connect(header, &TabHeader::clicked, this, [this, i] { activate(i); });
+        connect(header, &TabHeader::stepWanted, this, &TabStrip::step);
         lblTab[size_t(i)] = header;
         chkShowObject[size_t(i)] = box;
+        pages_[size_t(i)]->setAccessibleName(header->text().trimmed());
     }
     picFalseBorder_->setObjectName(u"picFalseBorder"_s);
     picFalseBorder_->setGeometry(falseBorderPlace);
@@ -85,6 +87,15 @@ void TabStrip::activate(int index) {
                                  falseBorderPlace.height());
     picFalseBorder_->raise();
     emit activated(index);
+}
+
+void TabStrip::activateByKey(int index) {
+    activate(index);
+    lblTab[size_t(index)]->setFocus(Qt::TabFocusReason);
+}
+
+void TabStrip::step(int by) {
+    activateByKey((active() + by + tabCount) % tabCount);
 }
 
 void TabStrip::swapRows(int left, int right) {

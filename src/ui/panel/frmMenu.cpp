@@ -37,13 +37,13 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), state_(state), desktop_(desktop), drag_(*this) {
     setObjectName(u"frmMenu"_s);
     setWindowTitle(programName());
+    setAccessibleName(titleText());
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
     setCursor(programCursor(101));
-    auto* cmdQuit =
-        new PictureButton(u"cmdQuit"_s, u":/windows/quit.png"_s, ownText(state, OwnText::Quit), this);
-    cmdQuit->move(quitPlace);
-    connect(cmdQuit, &PictureButton::clicked, this, [this] { hooks_.quit(); });
+    cmdQuit_ = new PictureButton(u"cmdQuit"_s, u":/windows/quit.png"_s, ownText(state, OwnText::Quit), this);
+    cmdQuit_->move(quitPlace);
+    connect(cmdQuit_, &QAbstractButton::clicked, this, [this] { hooks_.quit(); });
     menuBar_ = new MenuBar(this);
     selection_ = new SelectionArea(this);
     elitePage_ = new ElitePage(this);
@@ -57,6 +57,23 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     connectElitePage();
     connectCollectorsPage();
     connectOtherPages();
+    orderTabStops();
+}
+
+// From top to bottom, the tabs before their pages; the creation order decides what covers what. The button
+// that ends the program comes last.
+void frmMenu::orderTabStops() {
+    QWidget* before = selection_->cmbAttribute;
+    const auto append = [&](QWidget* next) {
+        setTabOrder(before, next);
+        before = next;
+    };
+    for (TabHeader* header : tabs_->lblTab)
+        append(header);
+    for (SmallCheckBox* box : tabs_->chkShowObject)
+        append(box);
+    setTabOrder(variousPage_->lstPetLocations, cmdQuit_);
+    selection_->cmbCampaign->setFocus();
 }
 
 void frmMenu::Form_Load() {

@@ -10,6 +10,7 @@
 #include "ui/panel/TabStrip.h"
 #include "ui/platform/Windows.h"
 
+#include <QAbstractButton>
 #include <QWidget>
 
 #include <array>
@@ -106,6 +107,7 @@ class frmMenu : public QWidget {
     void connectElitePage();
     void connectCollectorsPage();
     void connectOtherPages();
+    void orderTabStops();
     // Runs the filters in order; the last one updates the map.
     void runFilters(Filter first, Filter last);
     void campaignPicked();
@@ -119,6 +121,7 @@ class frmMenu : public QWidget {
     Desktop& desktop_;
     PanelHooks hooks_;
     WindowDrag drag_;
+    QAbstractButton* cmdQuit_;
     MenuBar* menuBar_;
     SelectionArea* selection_;
     ElitePage* elitePage_;

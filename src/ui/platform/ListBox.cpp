@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <functional>
@@ -144,6 +145,20 @@ void ListBox::tellToggled(int index, bool on) {
 
 void ListBox::setHorizontalExtent(int pixels) {
     model_->setExtent(pixels);
+}
+
+// The frame, too, tells of the focus: a list without a selection shows it nowhere else.
+bool ListBox::event(QEvent* event) {
+    const bool done = QListView::event(event);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+    return done;
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {

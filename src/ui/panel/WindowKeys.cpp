@@ -1,0 +1,77 @@
+#include "ui/panel/WindowKeys.h"
+
+#include "ui/panel/TabStrip.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace orvinel {
+
+WindowKeys::WindowKeys(std::vector<QWidget*> windows) : windows_(std::move(windows)) {
+    // The controls would take Alt and Ctrl+Tab before their window hears of them.
+    qApp->installEventFilter(this);
+}
+
+bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::WindowDeactivate)
+        altAlone_ = false;
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return false;
+    const auto* control = qobject_cast<QWidget*>(watched);
+    QWidget* window = control ? control->window() : nullptr;
+    if (std::find(windows_.begin(), windows_.end(), window) == windows_.end())
+        return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress)
+        return press(key, window);
+    if (key.key() != Qt::Key_Alt || !std::exchange(altAlone_, false))
+        return false;
+    emit menuBarWanted();
+    return true;
+}
+
+bool WindowKeys::press(const QKeyEvent& key, QWidget* window) {
+    const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeypadModifier;
+    altAlone_ = key.key() == Qt::Key_Alt && (held == Qt::NoModifier || held == Qt::AltModifier);
+    if (held & Qt::ControlModifier)
+        return pressWithControl(key.key());
+    if (held == Qt::AltModifier && key.key() >= Qt::Key_1 && key.key() < Qt::Key_1 + tabCount) {
+        emit pageWanted(key.key() - Qt::Key_1);
+        return true;
+    }
+    switch (key.key()) {
+    case Qt::Key_F10:
+        emit menuBarWanted();
+        return true;
+    case Qt::Key_F6:
+        goOn(window, held & Qt::ShiftModifier ? -1 : 1);
+        return true;
+    case Qt::Key_Escape:
+        emit escapePressed();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool WindowKeys::pressWithControl(int key) {
+    const bool next = key == Qt::Key_Tab || key == Qt::Key_PageDown;
+    if (!next && key != Qt::Key_Backtab && key != Qt::Key_PageUp)
+        return false;
+    emit pageStepWanted(next ? 1 : -1);
+    return true;
+}
+
+void WindowKeys::goOn(QWidget* from, int step) {
+    const auto count = static_cast<int>(windows_.size());
+    auto at = static_cast<int>(std::find(windows_.begin(), windows_.end(), from) - windows_.begin());
+    do
+        at = (at + step + count) % count;
+    while (!windows_[static_cast<size_t>(at)]->isVisible());
+    windows_[static_cast<size_t>(at)]->activateWindow();
+}
+
+} // namespace orvinel
