@@ -119,6 +119,7 @@ void Program::showWindows() {
     applyAlwaysOnTop();
     desktop_.processPendingEvents();
     taskBar_->showOutside(desktop_.allScreens());
+    panel_->activateWindow();
 }
 
 void Program::place(const WindowPair& pair) {

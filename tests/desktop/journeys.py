@@ -292,18 +292,19 @@ ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unkno
            bad_pictures]
 
 
-def main():
+def main(script, errands):
+    """Runs the errands (or those named on the command line) on a screen of their own."""
     missing = [tool for tool in NEEDED if not shutil.which(tool)]
     if missing:
         print("skipped, not installed:", ", ".join(missing))
         return 77
     if "ORVINEL_JOURNEYS" not in os.environ:
         with_display = pathlib.Path(__file__).resolve().parents[2] / "tools/dev/with-display"
-        command = [with_display, sys.executable, __file__, *sys.argv[1:]]
+        command = [with_display, sys.executable, script, *sys.argv[1:]]
         return subprocess.run(command, env={**os.environ, "ORVINEL_JOURNEYS": "1"}).returncode
     failed = 0
     wanted = sys.argv[2:]
-    for errand in ERRANDS:
+    for errand in errands:
         if wanted and errand.__name__ not in wanted:
             continue
         started = time.monotonic()
@@ -319,4 +320,4 @@ def main():
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(__file__, ERRANDS))

@@ -2,6 +2,7 @@
 
 #include "ui/platform/Fonts.h"
 #include "ui/platform/PictureButton.h"
+#include "ui/platform/SpokenRole.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -111,6 +112,7 @@ frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
       picLegenda_(new PictureBox(this)) {
     setObjectName(u"frmLegenda"_s);
     setWindowTitle(title_);
+    setSpokenRole(*this, QAccessible::Dialog);
     setCursor(programCursor(101));
     setFont(arial(points8_25));
     picLegenda_->setObjectName(u"picLegenda"_s);

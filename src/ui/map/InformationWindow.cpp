@@ -2,6 +2,7 @@
 
 #include "app/modUtility.h"
 #include "ui/map/MapViewport.h"
+#include "ui/platform/SpokenRole.h"
 
 namespace orvinel {
 
@@ -19,6 +20,7 @@ constexpr double mapOpacity = 80 / 255.;
 InformationWindow::InformationWindow(const QString& name, int width, MapViewport& map)
     : PictureBox(&map), map_(map) {
     setObjectName(name);
+    setSpokenRole(*this, QAccessible::ToolTip);
     setBackground(ground);
     resize(width, 40);
     hide();

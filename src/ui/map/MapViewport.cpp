@@ -1,5 +1,7 @@
 #include "ui/map/MapViewport.h"
 
+#include "ui/platform/SpokenRole.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -23,6 +25,7 @@ MapViewport::MapViewport(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    setSpokenRole(*this, QAccessible::Graphic);
 }
 
 QSize MapViewport::screenPixels() const {

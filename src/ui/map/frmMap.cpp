@@ -6,6 +6,7 @@
 #include "ui/map/RegionPictures.h"
 #include "ui/platform/EdgeResize.h"
 #include "ui/platform/PictureButton.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QCloseEvent>
@@ -31,6 +32,7 @@ frmMap::frmMap(Surroundings with, QWidget* owner)
     : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), with_(with), cache_(cachedBytes),
       viewport_(new MapViewport(this)) {
     setObjectName(u"frmMap"_s);
+    setSpokenRole(*this, QAccessible::Window);
     setMinimumSize(smallest, smallest);
     setCursor(programCursor(101));
     viewport_->setCursor(programCursor(102));

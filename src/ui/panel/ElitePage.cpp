@@ -39,6 +39,7 @@ void ElitePage::applyCaptions(const ProgramState& state) {
     setOptionCaption(*optCapture[0], state.text(11), state.text(32));
     setOptionCaption(*optCapture[1], state.text(6), state.text(32));
     cmbCharacter->setAccessibleName(state.text(20));
+    cmbCharacter->setAccessibleDescription(state.text(6));
     lblSecondaryProfession->setCaption(u"Secondary prof."_s);
     lblEliteName->setCaption(state.text(7));
     lblBossName->setCaption(state.text(100));

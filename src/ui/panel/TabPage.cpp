@@ -1,6 +1,7 @@
 #include "ui/panel/TabPage.h"
 
 #include "ui/panel/Controls.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QPainter>
@@ -16,6 +17,7 @@ constexpr QRect designPlace(-1, 194, 219, 541);
 TabPage::TabPage(int index, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
     setObjectName(arrayName(QStringLiteral("picTab"), index));
     setGeometry(designPlace);
+    setSpokenRole(*this, QAccessible::PropertyPage);
     setCursor(programCursor(101));
     // A press beside the controls is not one on the panel's own background, which drags it.
     setAttribute(Qt::WA_NoMousePropagation);

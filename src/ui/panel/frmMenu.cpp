@@ -5,6 +5,7 @@
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/PictureButton.h"
+#include "ui/platform/SpokenRole.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -38,6 +39,7 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     setObjectName(u"frmMenu"_s);
     setWindowTitle(programName());
     setAccessibleName(titleText());
+    setSpokenRole(*this, QAccessible::Window);
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
     setCursor(programCursor(101));

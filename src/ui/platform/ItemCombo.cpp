@@ -1,5 +1,6 @@
 #include "ui/platform/ItemCombo.h"
 
+#include <QAbstractItemView>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -43,6 +44,11 @@ int ItemCombo::data(int none) const {
 
 void ItemCombo::setDropRows(int rows) {
     setMaxVisibleItems(std::max(1, rows < 0 ? count() : rows));
+}
+
+void ItemCombo::showPopup() {
+    view()->setAccessibleName(accessibleName());
+    QComboBox::showPopup();
 }
 
 void ItemCombo::wheelEvent(QWheelEvent* event) {

@@ -23,6 +23,7 @@ class ItemCombo : public QComboBox {
     int data(int none = 0) const;
     // How many rows the drop-down list shows; -1: all.
     void setDropRows(int rows);
+    void showPopup() override;
 
   signals:
     void picked();

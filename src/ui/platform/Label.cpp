@@ -18,14 +18,22 @@ Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
 void Label::setCaption(const QString& text) {
     // CR LF would be two line breaks.
     setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-    if (named_)
-        named_->setAccessibleName(text);
+    tellName();
     fit();
 }
 
 void Label::nameFor(QWidget* widget) {
     named_ = widget;
-    widget->setAccessibleName(text());
+    tellName();
+}
+
+void Label::tellName() {
+    if (!named_)
+        return;
+    named_->setAccessibleName(text());
+    // A screen reader asks a drop-down list for its label: the name that it is told is the entry selected. A
+    // label with a buddy would take "&" for a shortcut.
+    setBuddy(text().contains(u'&') ? nullptr : named_);
 }
 
 void Label::setWrapWidth(int pixels) {

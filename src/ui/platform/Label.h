@@ -34,6 +34,7 @@ class Label : public QLabel {
 
   private:
     void fit();
+    void tellName();
 
     int wrapWidth_ = 0;
     QWidget* named_ = nullptr;

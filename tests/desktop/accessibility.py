@@ -1,0 +1,193 @@
+#!/usr/bin/env python3
+"""accessibility.py PROGRAM: walks the program's windows as a screen reader does, through AT-SPI.
+
+Fails on every control that can take the keyboard and has no name, and on what is there to be seen but not to be read.
+Exit code 77: a tool is missing here.
+"""
+
+import importlib.util
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+import journeys
+from journeys import BOSS, Player, in_marsh, make_world
+from screen import hover, keys, until
+
+SYSTEM_PYTHON = "/usr/bin/python3"  # the one that the desktop's own packages are for
+LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
+PAGES = ["Elites", "Collectors", "Greens", "Notes", "Various"]
+
+
+class Tree:
+    """The program as AT-SPI shows it at one moment."""
+
+    def __init__(self):
+        self.nodes = []
+        self._walk(until("the program on the accessibility bus", application))
+
+    def _walk(self, node):
+        self.nodes.append(node)
+        for index in range(node.childCount):
+            child = node.getChildAtIndex(index)
+            if child is not None:
+                self._walk(child)
+
+    def having(self, role, name=None):
+        return [n for n in self.nodes if n.getRoleName() == role and (name is None or n.name == name)]
+
+    def one(self, role, name):
+        found = self.having(role, name)
+        assert found, f"no {role} {name!r}, only {[n.name for n in self.having(role)]}"
+        return found[0]
+
+    def shown(self, text):
+        """Some visible name or description holds the text."""
+        return any(text in n.name + "\n" + n.description for n in self.nodes if has(n, "SHOWING"))
+
+
+def application():
+    import pyatspi
+    for found in pyatspi.Registry.getDesktop(0):
+        if found is not None and found.name == "orvinel" and found.childCount >= 2:
+            return found
+    return None
+
+
+def has(node, state):
+    import pyatspi
+    return node.getState().contains(getattr(pyatspi, f"STATE_{state}"))
+
+
+def path(node):
+    steps = []
+    while node is not None and len(steps) < 12:
+        steps.append(f"{node.getRoleName()} {node.name!r}")
+        node = node.parent
+    return " in ".join(steps)
+
+
+def labels(node):
+    import pyatspi
+    return [relation.getTarget(i).name for relation in node.getRelationSet()
+            if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY for i in range(relation.getNTargets())]
+
+
+def nothing_is_nameless(tree):
+    nameless = [path(n) for n in tree.nodes if has(n, "FOCUSABLE") and has(n, "SHOWING") and not n.name.strip()]
+    assert not nameless, "without a name: " + "; ".join(nameless)
+
+
+def becomes(what, look):
+    """What look() says of a fresh tree, as soon as it is true."""
+    def fresh():
+        try:
+            return look(Tree())
+        except RuntimeError:  # the program was just changing what is read
+            return False
+    return until(what, fresh)
+
+
+def panel(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        tree = Tree()
+        nothing_is_nameless(tree)
+        titles = [n.name for n in tree.having("window")]
+        assert any(title.startswith("Orvinel v4.0.0") for title in titles), titles
+        for page in PAGES:
+            tree.one("page tab", page)
+        assert [n.name for n in tree.having("page tab") if has(n, "SELECTED")] == ["Elites"]
+        for word in ("T111", "T112", "T109"):
+            tree.one("menu item", word)
+        boxes = tree.having("check box")
+        assert len(boxes) == len(PAGES) and all(has(n, "CHECKED") for n in boxes), boxes
+        options = {n.name: has(n, "CHECKED") for n in tree.having("radio button")}
+        assert options["T11"] and not options["T6"], options
+        skills = tree.one("list", "T32: 1")
+        assert [skills.getChildAtIndex(i).name for i in range(skills.childCount)] == ["Night Step"]
+        captions = sum((labels(n) for n in tree.having("combo box")), [])
+        assert {"T2", "T3", "T41", "T5", "T53", "Secondary prof.", "T46", "T10"} <= set(captions), captions
+        for number, page in enumerate(PAGES, 1):
+            keys(f"alt+{number}")
+            becomes(page, lambda t: [n.name for n in t.having("page tab") if has(n, "SELECTED")] == [page])
+            nothing_is_nameless(Tree())
+
+
+def map_and_its_windows(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        shown = Tree().one("image", "Marsh")
+        assert shown.description == "Sunhollow", path(shown)
+        hover(*player.view(BOSS))
+        becomes("the information window", lambda t: t.shown("Night Step") and t.shown("Old Heron"))
+        nothing_is_nameless(Tree())
+
+
+def menus_and_legend(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        menu = player.popup(lambda: keys("F10"))
+        becomes("the menu", lambda t: len(t.having("check box")) == 2 * len(PAGES))
+        keys("Right")
+        becomes("the second menu", lambda t: t.having("menu item", "T14") and t.having("radio button", "T91"))
+        nothing_is_nameless(Tree())
+        keys("Home", "Return")
+        player.gone(menu)
+        becomes("the legend", lambda t: t.shown("T30") and t.shown("Scout") and t.shown("T83"))
+        nothing_is_nameless(Tree())
+
+
+def dialogs(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        menu = player.popup(lambda: keys("F10"))
+        keys("Right", "End", "Return")
+        player.gone(menu)
+        player.dialog("Characters")
+        becomes("the characters", lambda t: t.having("push button", "Create"))
+        nothing_is_nameless(Tree())
+        keys("alt+c")
+        player.dialog("New character")
+        becomes("the editor", lambda t: any(n.childCount for n in t.having("list")))
+        nothing_is_nameless(Tree())
+
+
+def on_the_bus():
+    """Runs this script again with a session bus and an accessibility bus of its own."""
+    launcher = next((path for path in LAUNCHERS if pathlib.Path(path).exists()), None)
+    missing = [tool for tool in ("dbus-run-session",) if not shutil.which(tool)]
+    if not launcher or missing or not importlib.util.find_spec("pyatspi"):
+        print("skipped: at-spi2-core, pyatspi or dbus is not installed")
+        return 77
+    environment = {**os.environ, "ORVINEL_BUS": launcher, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+    return subprocess.run(["dbus-run-session", "--", sys.executable, *sys.argv], env=environment).returncode
+
+
+def main():
+    if not importlib.util.find_spec("pyatspi") and sys.executable != SYSTEM_PYTHON and os.path.exists(SYSTEM_PYTHON):
+        os.execv(SYSTEM_PYTHON, [SYSTEM_PYTHON, *sys.argv])
+    if "ORVINEL_BUS" not in os.environ:
+        return on_the_bus()
+    errands = [panel, map_and_its_windows, menus_and_legend, dialogs]
+    if "ORVINEL_JOURNEYS" not in os.environ:
+        return journeys.main(__file__, errands)
+    bus = subprocess.Popen([os.environ["ORVINEL_BUS"], "--launch-immediately"])
+    try:
+        return journeys.main(__file__, errands)
+    finally:
+        bus.terminate()
+
+
+if __name__ == "__main__":
+    sys.exit(main())
