@@ -11,9 +11,14 @@ using namespace Qt::Literals::StringLiterals;
 
 // The panel and the map as somebody without a mouse finds them.
 struct KeyboardTest : ProgramFixture {
-    KeyboardTest() {
+    void SetUp() override {
+        installTabAccessibility();
         start();
-        panel->activateWindow();
+        activate(*panel);
+    }
+    static void activate(QWidget& window) {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
     QWidget* focus() { return panel->focusWidget(); }
     void key(Qt::Key k, Qt::KeyboardModifiers held = {}) { QTest::keyClick(focus(), k, held); }
@@ -44,7 +49,6 @@ TEST_F(KeyboardTest, tabGoesFromTopToBottomAndPassesByNothing) {
 }
 
 TEST_F(KeyboardTest, everyStopShowsThatItHasTheFocus) {
-    QTest::qWaitForWindowActive(panel.get());
     for (const char* name : {"cmbCampaign", "lblTab(0)", "chkShowObject(2)", "optCapture(0)", "txtEliteName",
                              "lstElite", "cmdQuit"}) {
         auto* stop = control<QWidget>(name);
@@ -54,7 +58,7 @@ TEST_F(KeyboardTest, everyStopShowsThatItHasTheFocus) {
         EXPECT_NE(without, stop->grab().toImage()) << name;
     }
     const QImage without = map->grab().toImage();
-    map->activateWindow();
+    activate(*map);
     map->picMap().setFocus();
     EXPECT_NE(without.pixel(0, 0), map->grab().toImage().pixel(0, 0));
 }

@@ -24,6 +24,7 @@ constexpr Colour pureBlue = 0xFF0000;
 } // namespace
 
 MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
+    installMenuAccessibility();
     setObjectName(u"Shape1"_s);
     setGeometry(barPlace);
     for (size_t i = 0; i < lblMenu.size(); ++i) {
