@@ -1,6 +1,7 @@
 #include "layers/modPetsView.h"
 
 #include "ui/map/RegionPictures.h"
+#include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 
 #include <algorithm>
@@ -33,6 +34,7 @@ PetsView::PetsView(const ProgramState& state, const Disk& disk, frmMenu& panel, 
       disk_(disk) {
     lblPetName_ = informationLabel(u"lblPetName"_s, arial(points10, true), blackTitle, window());
     imgPetImage_ = informationLabel(u"imgPetImage"_s, arial(points8_25), whiteText, window());
+    hideAllOnClick(map, window());
     const VariousPage& page = panel.variousPage();
     connect(page.lstPets, &ListBox::picked, this, &PetsView::ShowPetLocations);
     connect(page.lstPetLocations, &ListBox::picked, this, &PetsView::locationPicked);

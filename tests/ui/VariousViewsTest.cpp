@@ -106,6 +106,9 @@ TEST_F(PetsViewTest, theWindowFitsThePictureAndItsContentsDoNotHideIt) {
     QTest::mouseClick(&label("imgPetImage"), Qt::LeftButton);
     QTest::mouseClick(&label("lblPetName"), Qt::LeftButton);
     EXPECT_TRUE(shown("picPetTooltip"));
+    QTest::mouseClick(&pets->window(), Qt::LeftButton, {}, {3, 3});
+    EXPECT_FALSE(shown("picPetTooltip"));
+    EXPECT_EQ(QString(), pets->window().tag());
     hover(wolfAndBear);
     EXPECT_EQ(u"Wolf"_s, text("lblPetName"));
     hover(bearAlone); // has no picture
