@@ -108,6 +108,9 @@ void Program::wireMap() {
 
 void Program::showWindows() {
     const Options& options = state_.AppOptions;
+    // The keyboard is the panel's, in whatever order the window manager gets to see the windows.
+    for (QWidget* window : std::initializer_list<QWidget*>{map_, legend_, taskBar_.get()})
+        window->setAttribute(Qt::WA_ShowWithoutActivating);
     RestoreWindowPlacement();
     if (options.LegendX != -1 && !options.Legend)
         legend_->move(pixelsOf(options.LegendX), pixelsOf(options.LegendY));

@@ -69,6 +69,12 @@ void Dialog::tellProblem(const QString& text) {
     desktop().message(MessageIcon::Critical, programName(), text);
 }
 
+void Dialog::done(int result) {
+    QDialog::done(result);
+    if (parentWidget())
+        parentWidget()->window()->activateWindow();
+}
+
 void Dialog::showEvent(QShowEvent* event) {
     if (!loaded_) {
         loaded_ = true;

@@ -31,6 +31,9 @@ class Dialog : public QDialog {
     // `name` is the window's fixed name; `client` pixels.
     Dialog(const QString& name, QSize client, DialogContext context, QWidget* owner);
 
+    // Gives the keyboard back to the owner: the window manager might give it to the task bar's window.
+    void done(int result) override;
+
   protected:
     ProgramState& state() { return context_.state; }
     PlayerFiles& files() { return context_.files; }

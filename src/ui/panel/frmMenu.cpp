@@ -70,10 +70,15 @@ void frmMenu::orderTabStops() {
         setTabOrder(before, next);
         before = next;
     };
-    for (TabHeader* header : tabs_->lblTab)
+    // Only the active tab is a stop, but all need their place in the order.
+    for (TabHeader* header : tabs_->lblTab) {
+        header->setFocusPolicy(Qt::TabFocus);
         append(header);
+    }
     for (SmallCheckBox* box : tabs_->chkShowObject)
         append(box);
+    for (TabHeader* header : tabs_->lblTab)
+        header->setTag({});
     setTabOrder(variousPage_->lstPetLocations, cmdQuit_);
     selection_->cmbCampaign->setFocus();
 }

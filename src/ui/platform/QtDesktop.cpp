@@ -28,7 +28,10 @@ int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
     if (owner && owner->windowHandle())
         box.setWindowFlag(Qt::WindowStaysOnTopHint,
                           owner->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
-    return box.exec();
+    const int answer = box.exec();
+    if (owner)
+        owner->activateWindow();
+    return answer;
 }
 
 QMessageBox::Icon boxIcon(MessageIcon icon) {
