@@ -93,7 +93,8 @@ void applyAppearance(QApplication& application) {
     QApplication::setPalette(lightColours());
     QApplication::setFont(arial(points8_25));
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+    // Larger ones would be decoded before the first paint, for a task bar that shows none of them.
+    for (const int size : {16, 32, 48})
         icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size));
     QApplication::setWindowIcon(icon);
     auto* translator = new QTranslator(&application);
