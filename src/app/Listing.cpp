@@ -1,10 +1,10 @@
 #include "app/Listing.h"
 
-#include <QCollator>
-#include <QLocale>
+#include "app/Collation.h"
 
 #include <algorithm>
 #include <numeric>
+#include <string>
 
 namespace orvinel {
 
@@ -13,12 +13,10 @@ QString pinnedText(const QString& text) {
 }
 
 std::vector<int> alphabeticalOrder(const std::vector<QString>& texts) {
-    QCollator collator(QLocale(QLocale::English, QLocale::UnitedStates));
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> keys;
+    std::vector<std::string> keys;
     keys.reserve(texts.size());
     for (const QString& text : texts)
-        keys.push_back(collator.sortKey(text));
+        keys.push_back(collationKey(text));
     std::vector<int> order(texts.size());
     std::iota(order.begin(), order.end(), 0);
     std::stable_sort(order.begin(), order.end(), [&](int a, int b) {

@@ -118,16 +118,6 @@ TEST_F(World, laterProfessionsReplaceEarlierOnes) {
     EXPECT_EQ(1u, attributeEntries(state, 0).size());
 }
 
-TEST(Listing, sortsWithoutRegardToCaseOnEveryMachine) {
-    std::vector<ListEntry> entries = {
-        {u"banana"_s, 1}, {u"Élan"_s, 2}, {u"Apple"_s, 3}, {u"eagle"_s, 4}, {u"Zoo"_s, 5}};
-    sortAlphabetically(entries);
-    QString order;
-    for (const ListEntry& entry : entries)
-        order += QString::number(entry.data);
-    EXPECT_EQ(u"31425"_s, order);
-}
-
 TEST(MapView, scrollsWithinThePicture) {
     MapView view;
     view.setViewport({600, 900});
