@@ -11,7 +11,6 @@
 
 #ifdef Q_OS_WIN
 #include <io.h>
-#include <system_error>
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -26,21 +25,39 @@ namespace {
 
 #ifdef Q_OS_WIN
 QString lastError() {
-    return QString::fromStdString(std::system_category().message(static_cast<int>(GetLastError())));
+    return qt_error_string(static_cast<int>(GetLastError()));
 }
 
 bool flushToMedium(QFileDevice& file) {
     return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()))) != 0;
 }
+
+// The system has no such call: a file is renamed for good as soon as MOVEFILE_WRITE_THROUGH returns.
 bool syncFolder(const QString&) {
     return true;
 }
 
+// As the system takes it without a limit to its length. `path` is absolute.
+std::wstring nativePath(const QString& path) {
+    const QString native = QDir::toNativeSeparators(path);
+    const bool network = native.startsWith(u"\\\\"_s);
+    return ((network ? u"\\\\?\\UNC"_s : u"\\\\?\\"_s) + native.sliced(network ? 1 : 0)).toStdWString();
+}
+
 DiskError takePlace(const QString& from, const QString& to) {
-    const bool moved = MoveFileExW(reinterpret_cast<const wchar_t*>(from.utf16()),
-                                   reinterpret_cast<const wchar_t*>(to.utf16()),
-                                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
-    return moved ? std::nullopt : DiskError(lastError());
+    // Virus scanners and the search index open what has just been written, for an instant.
+    constexpr int tries = 20;
+    constexpr DWORD pause = 25; // milliseconds
+    for (int i = 0; i < tries; ++i) {
+        if (MoveFileExW(nativePath(from).c_str(), nativePath(to).c_str(),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return std::nullopt;
+        if (GetLastError() != ERROR_SHARING_VIOLATION && GetLastError() != ERROR_ACCESS_DENIED)
+            break;
+        if (i + 1 < tries)
+            Sleep(pause);
+    }
+    return lastError();
 }
 #else
 QString lastError() {

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmFAKE.h"
 
 #include "app/About.h"
+#include "ui/platform/Windows.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -21,7 +22,8 @@ WindowsShown afterTaskBarUse(WindowsShown now, bool first, bool legendWanted) {
     return next;
 }
 
-frmFAKE::frmFAKE(TaskBarGroup group) : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), group_(group) {
+frmFAKE::frmFAKE(TaskBarGroup group)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | minimisable()), group_(group) {
     setObjectName(u"frmFAKE"_s);
     setWindowTitle(u"Orvinel (%1)"_s.arg(byLine()));
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -1,24 +1,38 @@
 #include "ui/platform/Fonts.h"
 
+#include <QDir>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QStringList>
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+QStringList faces() {
+    return {u"Liberation Sans"_s, u"Arial"_s};
+}
+
+} // namespace
+
 QFont arial(int pixels, bool bold) {
-#ifdef Q_OS_WIN
-    const QStringList faces = {u"Arial"_s, u"Liberation Sans"_s};
-#else
-    const QStringList faces = {u"Liberation Sans"_s, u"Arial"_s};
-#endif
-    QFont font(faces);
+    QFont font(faces());
     font.setPixelSize(pixels);
     font.setBold(bold);
     // Hinting depends on the machine's settings and would make the same text wider on one than on another.
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false);
     return font;
+}
+
+void bringFace(const QString& folder) {
+    if (faces().contains(QFontInfo(arial(points8_25)).family()))
+        return;
+    const QDir fonts(folder);
+    for (const QString& name : fonts.entryList({u"*.ttf"_s}, QDir::Files))
+        QFontDatabase::addApplicationFont(fonts.filePath(name));
 }
 
 } // namespace orvinel

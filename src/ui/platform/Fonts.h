@@ -17,4 +17,8 @@ inline constexpr int points24 = 32;
 // face.
 QFont arial(int pixels, bool bold = false);
 
+// Where the machine has no such face, the program uses the font files (*.ttf) of this folder, if there is
+// one.
+void bringFace(const QString& folder);
+
 } // namespace orvinel

@@ -9,6 +9,8 @@
 #include <memory>
 
 #include <xcb/xcb.h>
+#elif defined(Q_OS_WIN)
+#include <QWindow>
 #endif
 
 namespace orvinel {
@@ -73,11 +75,31 @@ void keepOffTaskBar(QWidget& window) {
     xcb_flush(connection);
 }
 
+#elif defined(Q_OS_WIN)
+
+void keepOffTaskBar(QWidget& window) {
+    // A window with an owner has no button of its own.
+    if (window.parentWidget())
+        return;
+    const Qt::WindowFlags flags = (window.windowFlags() & ~Qt::WindowType_Mask) | Qt::Tool;
+    window.overrideWindowFlags(flags);
+    if (QWindow* handle = window.windowHandle())
+        handle->setFlags(flags);
+}
+
 #else
 
 void keepOffTaskBar(QWidget&) {
 }
 
 #endif
+
+Qt::WindowFlags minimisable() {
+#ifdef Q_OS_WIN
+    return Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint;
+#else
+    return {};
+#endif
+}
 
 } // namespace orvinel

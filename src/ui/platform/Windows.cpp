@@ -79,6 +79,10 @@ void chooseWindowSystem() {
 #ifdef Q_OS_LINUX
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
+#elif defined(Q_OS_WIN)
+    // The system would draw letters of other widths than those that the windows are laid out for.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype");
 #endif
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
@@ -91,6 +95,7 @@ QCursor programCursor(int number) {
 void applyAppearance(QApplication& application) {
     QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(lightColours());
+    bringFace(QCoreApplication::applicationDirPath() + u"/Fonts"_s);
     QApplication::setFont(arial(points8_25));
     QIcon icon;
     // Larger ones would be decoded before the first paint, for a task bar that shows none of them.

@@ -43,4 +43,7 @@ class WindowDrag {
 // Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
 void keepOffTaskBar(QWidget& window);
 
+// What a window without a title bar needs besides for its button on the task bar to minimise it.
+Qt::WindowFlags minimisable();
+
 } // namespace orvinel
