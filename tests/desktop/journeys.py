@@ -40,7 +40,7 @@ def make_world(folder):
     campaign = folder / "Campaign.03.Sunhollow"
     for part in (folder / "Data", campaign, folder / "Campaign.00.Common"):
         part.mkdir(parents=True)
-    shutil.copy2(PROGRAM, folder / "orvinel")
+    shutil.copy2(PROGRAM, folder / Running.program)
     texts = {13: "Characters", 15: "Create", 21: "New character", 65: "Note", 72: "Away with it?", 105: "Chest"}
     (folder / "Data/Language.txt").write_bytes(crlf(*(f"{n}\t{texts.get(n, f'T{n}')}" for n in range(1, 116))))
     (folder / "Campaign.00.Common/Professions.txt").write_bytes(crlf("1\tScout\t&H00FF00\tSc\tTracks"))

@@ -12,9 +12,9 @@ def run(*command):
     return subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
 
-def until(what, look, limit=LIMIT):
+def until(what, look, limit=None):
     """The first result of look() that is true; fails with `what` when there is none in time."""
-    end = time.monotonic() + limit
+    end = time.monotonic() + (limit or LIMIT)
     while True:
         found = look()
         if found:
@@ -108,10 +108,13 @@ def has_focus(window):
 class Running:
     """The program, started from its folder."""
 
+    program = "orvinel"  # its file
+    launcher = []  # what starts it where the system cannot
+
     def __init__(self, folder, **how):
         environment = {**os.environ, "LC_ALL": "C.UTF-8", "XDG_RUNTIME_DIR": str(folder)}
         self.main = set()  # the windows that stay
-        self.process = subprocess.Popen([folder / "orvinel"], env=environment, stdout=subprocess.DEVNULL,
+        self.process = subprocess.Popen([*self.launcher, folder / self.program], env=environment, stdout=subprocess.DEVNULL,
                                         stderr=subprocess.DEVNULL, **how)
 
     def __enter__(self):
