@@ -35,7 +35,8 @@ for _name in BUTTONS:
 for _name in COSTS:
     PICTURES['windows/' + _name] = ('alpha', 16, 16, _name + '.svg')
 for _name in ('101', '102', '103'):
-    PICTURES['cursors/' + _name] = ('alpha', 32, 32, 'cursor' + _name + '.svg')
+    for _suffix, _size in (('', 32), ('-large', 64)):
+        PICTURES['cursors/' + _name + _suffix] = ('alpha', _size, _size, 'cursor' + _name + '.svg')
 for _size in ICON_SIZES:
     PICTURES[f'icon/orvinel-{_size}'] = ('alpha', _size, _size, 'icon-small.svg' if _size < 32 else 'icon.svg')
 PICTURES['windows/picSplash'] = ('flat', 748, 721, 'splash.py:')

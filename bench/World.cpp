@@ -26,7 +26,8 @@ void pressKey(QWidget& at, char key) {
 
 void sendMouse(QWidget& at, QEvent::Type type, QPoint place, Qt::MouseButton button) {
     const bool moves = type == QEvent::MouseMove;
-    QMouseEvent event(type, place, at.mapToGlobal(place), moves ? Qt::NoButton : button,
+    QMouseEvent event(type, place, at.mapTo(at.window(), place), at.mapToGlobal(place),
+                      moves ? Qt::NoButton : button,
                       type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
     QCoreApplication::sendEvent(&at, &event);
 }

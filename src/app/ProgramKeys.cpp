@@ -12,7 +12,7 @@ void Program::wireKeys() {
     keys_ = std::make_unique<WindowKeys>(std::vector<QWidget*>{panel_.get(), map_, legend_});
     TabStrip& tabs = panel_->tabs();
     connect(keys_.get(), &WindowKeys::menuBarWanted, this, [this] { openMenuByKey(0); });
-    connect(keys_.get(), &WindowKeys::pageWanted, &tabs, &TabStrip::activateByKey);
+    connect(keys_.get(), &WindowKeys::pageWanted, &tabs, &TabStrip::activateWithFocus);
     connect(keys_.get(), &WindowKeys::pageStepWanted, &tabs, &TabStrip::step);
     connect(keys_.get(), &WindowKeys::escapePressed, map_, &frmMap::HideInformationWindows);
     connect(&panel_->menuBar(), &MenuBar::menuWantedByKey, this, &Program::openMenuByKey);

@@ -13,8 +13,8 @@ import subprocess
 import sys
 
 import journeys
-from journeys import BOSS, Player, in_marsh, make_world
-from screen import hover, keys, until
+from journeys import BOSS, EMPTY, Player, in_marsh, make_world
+from screen import click, hover, keys, type_text, until
 
 SYSTEM_PYTHON = "/usr/bin/python3"  # the one that the desktop's own packages are for
 LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
@@ -126,10 +126,87 @@ def map_and_its_windows(folder):
         assert shown.description == "Sunhollow", path(shown)
         hover(*player.view(BOSS))
         becomes("the information window", lambda t: t.shown("Night Step") and t.shown("Old Heron"))
+        told = [n for n in Tree().having("tool tip") if has(n, "SHOWING")]
+        assert [n.name.split("\n")[0] for n in told] == ["Night Step"], told
+        assert "Old Heron" in Tree().one("image", "Marsh").description
         nothing_is_nameless(Tree())
+        hover(*player.view(EMPTY))
+        becomes("the map alone", lambda t: t.one("image", "Marsh").description == "Sunhollow")
 
 
-def menus_and_legend(folder):
+def rows(menu):
+    """(role, name) of what stands in an open menu."""
+    return [(n.getRoleName(), n.name) for n in (menu.getChildAtIndex(i) for i in range(menu.childCount))]
+
+
+def focused(tree):
+    return [n.name for n in tree.nodes if has(n, "FOCUSED") and n.getRoleName() in ROWS]
+
+
+def selected_rows(tree):
+    return [n.name for n in tree.having("list item") if has(n, "SELECTED") and has(n.parent, "SHOWING")]
+
+
+ROWS = ("menu item", "check box", "radio button")
+
+
+def open_menus(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        menu = player.popup(lambda: keys("F10"))
+        view = becomes("the first menu", lambda t: t.having("popup menu", "T111"))[0]
+        assert rows(view) == [("check box", name) for name in ("T32", "T44", "T59", "Note", "T113")], rows(view)
+        assert all(has(view.getChildAtIndex(i), "CHECKED") for i in range(5))
+        keys("Right", "Down")
+        becomes("the second menu's second row", lambda t: t.having("popup menu", "T112") and focused(t) == ["T95"])
+        options = Tree().having("popup menu", "T112")[0]
+        assert rows(options) == [
+            ("check box", "T62"), ("check box", "T95"), ("separator", ""), ("label", "T74"), ("radio button", "T91"),
+            ("radio button", "T75"), ("radio button", "T76"), ("separator", ""), ("menu item", "T14")], rows(options)
+        chosen = [has(options.getChildAtIndex(i), "CHECKED") for i in (4, 5, 6)]
+        assert chosen == [False, False, True], chosen
+        keys("Escape")
+        player.gone(menu)
+        becomes("no menu", lambda t: not t.having("popup menu"))
+
+
+def menus_of_the_map(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        notes = player.popup(lambda: click(*player.view(EMPTY), times=2))
+        menu = becomes("the notes' menu", lambda t: t.having("popup menu", "Note"))[0]
+        assert rows(menu) == [("menu item", f"T{n}") for n in (66, 67, 68)], rows(menu)
+        assert [has(menu.getChildAtIndex(i), "ENABLED") for i in range(3)] == [True, False, False]
+        keys("Escape")
+        player.gone(notes)
+        regions = player.popup(lambda: click(*player.view(EMPTY), button=3))
+        keys("Down", "Right")
+        becomes("the regions", lambda t: t.having("popup menu", "Sunhollow") and focused(t)[-1:] == ["Marsh"])
+        keys("Escape", "Escape")
+        player.gone(regions)
+
+
+def lists_and_their_rows(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Player(folder) as player:
+        player.ready()
+        keys("Tab")  # to the regions
+        player.popup(lambda: keys("alt+Down"))
+        becomes("the open list", lambda t: selected_rows(t) == ["Marsh"])
+        keys("Escape")
+        keys("ctrl+Tab", "alt+1", *["Tab"] * 7)
+        type_text("night")
+        keys("Return")
+        becomes("the skill and its place", lambda t: selected_rows(t) == ["Night Step [Sc]", "Reeds - Marsh - Sunhollow"])
+        assert has(Tree().one("list", "T32: 1"), "FOCUSED")
+
+
+def legend_and_drawn_windows(folder):
     make_world(folder)
     in_marsh(folder)
     with Player(folder) as player:
@@ -139,6 +216,15 @@ def menus_and_legend(folder):
         player.gone(menu)
         becomes("the legend", lambda t: t.shown("T30") and t.shown("Scout") and t.shown("T83"))
         nothing_is_nameless(Tree())
+        for way, texts in ((["End"], ("free software", "Maruvel", "Mail to")),
+                           (["Down", "Down"], ("Special thanks", "Lampwick"))):
+            menu = player.popup(lambda: keys("F10"))
+            keys("Left", *way, "Return")
+            player.gone(menu)
+            becomes(f"the window with {texts[0]}", lambda t: all(t.shown(text) for text in texts))
+            nothing_is_nameless(Tree())
+            keys("Escape")
+            becomes("its end", lambda t: not t.shown(texts[0]))
 
 
 def dialogs(folder):
@@ -174,7 +260,8 @@ def main():
         os.execv(SYSTEM_PYTHON, [SYSTEM_PYTHON, *sys.argv])
     if "ORVINEL_BUS" not in os.environ:
         return on_the_bus()
-    errands = [panel, map_and_its_windows, menus_and_legend, dialogs]
+    errands = [panel, open_menus, menus_of_the_map, lists_and_their_rows, map_and_its_windows,
+               legend_and_drawn_windows, dialogs]
     if "ORVINEL_JOURNEYS" not in os.environ:
         return journeys.main(__file__, errands)
     bus = subprocess.Popen([os.environ["ORVINEL_BUS"], "--launch-immediately"])

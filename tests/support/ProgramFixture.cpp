@@ -105,9 +105,11 @@ void ProgramFixture::showFjord() {
 
 void ProgramFixture::send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
     MapViewport& viewport = map->picMap();
-    const QPointF place = viewport.toWidget(QRect(at, at)).topLeft();
+    const MapView& view = viewport.view();
+    const QPointF place =
+        QPointF(at.x() + view.scrollX(), at.y() + view.scrollY()) / viewport.devicePixelRatioF();
     const bool held = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
-    QMouseEvent event(type, place, viewport.mapToGlobal(place), button,
+    QMouseEvent event(type, place, viewport.mapTo(map.get(), place), viewport.mapToGlobal(place), button,
                       held ? Qt::MouseButtons(button) : Qt::MouseButtons(), keys);
     QCoreApplication::sendEvent(&viewport, &event);
 }

@@ -49,7 +49,6 @@ TEST_F(KeyboardTest, tabGoesFromTopToBottomAndPassesByNothing) {
 }
 
 TEST_F(KeyboardTest, everyStopShowsThatItHasTheFocus) {
-    key(Qt::Key_Tab); // some controls show it only once the keyboard was used
     for (const char* name : {"cmbCampaign", "lblTab(0)", "chkShowObject(2)", "optCapture(0)", "txtEliteName",
                              "lstElite", "cmdQuit"}) {
         auto* stop = control<QWidget>(name);
@@ -62,7 +61,7 @@ TEST_F(KeyboardTest, everyStopShowsThatItHasTheFocus) {
 
 TEST_F(KeyboardTest, arrowsGoThroughTheTabsAndRoundTheirEnds) {
     TabStrip& tabs = panel->tabs();
-    tabs.activateByKey(0);
+    tabs.activateWithFocus(0);
     key(Qt::Key_Left);
     EXPECT_EQ(4, tabs.active());
     EXPECT_EQ(tabs.lblTab[4], focus());

@@ -177,6 +177,16 @@ TEST_F(PanelTest, theRowOfTheActiveTabLiesNextToThePages) {
     EXPECT_EQ(1, tabs.active());
 }
 
+TEST_F(PanelTest, aClickedTabHasTheFocus) {
+    startPanel();
+    panel->tabs().activate(0);
+    panel->elitePage().txtEliteName->setFocus();
+    TabHeader* header = panel->tabs().lblTab[1];
+    QTest::mouseClick(header, Qt::LeftButton);
+    EXPECT_EQ(1, panel->tabs().active());
+    EXPECT_EQ(header, panel->focusWidget());
+}
+
 TEST_F(PanelTest, onlyItsOwnBackgroundDragsThePanel) {
     startPanel();
     const auto dragged = [&](QWidget& by) {

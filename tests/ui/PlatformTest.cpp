@@ -3,10 +3,17 @@
 #include "ui/platform/Fonts.h"
 #include "ui/platform/ItemCombo.h"
 #include "ui/platform/ListBox.h"
+#include "ui/platform/Windows.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMenu>
 #include <QTest>
+#include <QToolTip>
+
+#include <array>
 
 #include <gmock/gmock.h>
 
@@ -60,6 +67,14 @@ TEST_F(ListBoxTest, pickingByMouseKeysAndCodeIsToldOnceEach) {
     list.select(-1);
     EXPECT_EQ(4, picks);
     EXPECT_FALSE(list.hasSelection());
+}
+
+TEST_F(ListBoxTest, theOtherButtonsLeaveTheSelectionAlone) {
+    click(1);
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})
+        QTest::mouseClick(list.viewport(), button, {}, middleOf(2));
+    EXPECT_EQ(1, list.selectedIndex());
+    EXPECT_EQ(1, picks);
 }
 
 TEST_F(ListBoxTest, enterAndDoubleClickActivateTheSelectedEntry) {
@@ -119,6 +134,31 @@ TEST_F(ListBoxTest, everyRowStandsInTheAccessibilityTree) {
 TEST(Fonts, haveTheHeightsThatTheLayoutsWereMadeFor) {
     EXPECT_EQ(12, QFontMetrics(arial(points8_25)).height());
     EXPECT_EQ(15, QFontMetrics(arial(points10)).height());
+}
+
+TEST(Appearance, isLightOnADarkDesktop) {
+    const QPalette dark(QColor(0x20, 0x20, 0x20), QColor(0x20, 0x20, 0x20));
+    QApplication::setPalette(dark);
+    QApplication::setPalette(dark, "QMenu");
+    QToolTip::setPalette(dark);
+    applyAppearance(*qApp);
+    const QMenu menu;
+    const QLineEdit field;
+    const std::array<std::pair<QPalette, QPalette::ColorRole>, 4> grounds = {
+        {{QApplication::palette(), QPalette::Window},
+         {menu.palette(), QPalette::Window},
+         {field.palette(), QPalette::Base},
+         {QToolTip::palette(), QPalette::ToolTipBase}}};
+    const auto textOn = [](QPalette::ColorRole ground) {
+        return ground == QPalette::Window ? QPalette::WindowText
+               : ground == QPalette::Base ? QPalette::Text
+                                          : QPalette::ToolTipText;
+    };
+    for (const auto& [colours, ground] : grounds) {
+        EXPECT_GT(colours.color(ground).lightness(), 200) << ground;
+        EXPECT_LT(colours.color(textOn(ground)).lightness(), 50) << ground;
+    }
+    EXPECT_LT(field.palette().color(QPalette::PlaceholderText).lightness(), 150);
 }
 
 TEST(Drawing, boxesCoverTheirCornersInclusive) {

@@ -1,6 +1,7 @@
 #include "app/ProgramState.h"
 #include "support/Printing.h"
 #include "ui/panel/frmPopupMenu.h"
+#include "ui/platform/SpokenRole.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
@@ -32,6 +33,7 @@ struct PopupMenuTest : testing::Test {
     QSignalSpy closed{&menu, &frmPopupMenu::closed};
 
     PopupMenuTest() {
+        setSpokenRole(panel, QAccessible::Window);
         panel.setGeometry(100, 50, 217, 400);
         label.move(46, 18);
         label.setCaption(u"Options"_s);
@@ -184,7 +186,14 @@ TEST_F(PopupMenuTest, tellsAScreenReaderItsRowsAndTheirStates) {
     menu.SetValue(1, 1, 1);
     menu.OpenMenu(1, label);
     const auto read = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); };
-    EXPECT_EQ(QAccessible::PopupMenu, read(&menu)->role());
+    QAccessibleInterface* tree = read(&menu);
+    EXPECT_EQ(QAccessible::PopupMenu, tree->role());
+    EXPECT_EQ(u"Options"_s, tree->text(QAccessible::Name));
+    ASSERT_EQ(9, tree->childCount());
+    EXPECT_EQ(QAccessible::Separator, tree->child(2)->role());
+    EXPECT_EQ(control<QWidget>(u"optEntry(0)"_s), tree->child(4)->object());
+    EXPECT_EQ(4, tree->indexOfChild(tree->child(4)));
+    EXPECT_EQ(tree, tree->child(4)->parent());
     QAccessibleInterface* check = read(control<QWidget>(u"chkEntry(1)"_s));
     EXPECT_EQ(QAccessible::CheckBox, check->role());
     EXPECT_EQ(u"T95"_s, check->text(QAccessible::Name));
@@ -196,6 +205,19 @@ TEST_F(PopupMenuTest, tellsAScreenReaderItsRowsAndTheirStates) {
     EXPECT_EQ(u"T14"_s, command->text(QAccessible::Name));
     command->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_THAT(chosen, ElementsAre(Pair(1, 8)));
+}
+
+TEST_F(PopupMenuTest, belongsToItsWindowForScreenReadersWhileItIsOpen) {
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&panel);
+    const int parts = window->childCount();
+    menu.OpenMenu(0, label);
+    ASSERT_EQ(parts + 1, window->childCount());
+    QAccessibleInterface* open = window->child(parts);
+    EXPECT_EQ(&menu, open->object());
+    EXPECT_EQ(parts, window->indexOfChild(open));
+    EXPECT_EQ(window, open->parent());
+    menu.hide();
+    EXPECT_EQ(parts, window->childCount());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmFAKE.h"
 
 #include "app/About.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QCloseEvent>
@@ -25,6 +26,7 @@ WindowsShown afterTaskBarUse(WindowsShown now, bool first, bool legendWanted) {
 frmFAKE::frmFAKE(TaskBarGroup group)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | minimisable()), group_(group) {
     setObjectName(u"frmFAKE"_s);
+    setSpokenRole(*this, QAccessible::Window);
     setWindowTitle(u"Orvinel (%1)"_s.arg(byLine()));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFixedSize(1, 1);

@@ -2,6 +2,7 @@
 
 #include "app/About.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QKeyEvent>
@@ -134,6 +135,7 @@ void frmInformation::ArrangeInformation(QWidget* client) {
     auto* imgScene = new QLabel(picOntainer);
     imgScene->setObjectName(u"imgScene"_s);
     imgScene->setGeometry(scenePlace);
+    setSpokenRole(*imgScene, QAccessible::Graphic);
     imgScene->setAccessibleName(u"Four companions at a camp fire below a ruined arch"_s);
     auto* imgLogo = new QLabel(picOntainer);
     imgLogo->setObjectName(u"imgLogo"_s);
@@ -154,6 +156,7 @@ void frmInformation::addFigure(int index) {
     figure->setGeometry(figurePlaces[static_cast<size_t>(index)]);
     figure->setMouseTracking(true);
     figure->setFocusPolicy(Qt::TabFocus);
+    setSpokenRole(*figure, QAccessible::Graphic);
     figure->setAccessibleName(QString::fromLatin1(text.name));
     figure->setAccessibleDescription(QString::fromLatin1(text.words) + u' ' + QString::fromLatin1(text.tag));
     figure->installEventFilter(this);

@@ -27,8 +27,16 @@ InformationWindow::InformationWindow(const QString& name, int width, MapViewport
 }
 
 void InformationWindow::dismiss() {
+    const bool shown = !isHidden();
     hide();
     tag_.clear();
+    if (shown)
+        tellScreenReaders();
+}
+
+void InformationWindow::tellScreenReaders() {
+    QAccessibleEvent told(&map_, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&told);
 }
 
 void InformationWindow::frameWithBand(Colour band, int bandHeight, const QRect& marker) {
@@ -47,14 +55,17 @@ void InformationWindow::frame(const QRect& marker) {
     const int w = width() - 1;
     const int h = height() - 1;
     Drawing drawing(&surface());
+    drawing.painter().save();
     drawing.painter().setOpacity(mapOpacity);
+    drawing.painter().translate(-pos());
     map_.paintShown(drawing.painter(), QRect(x(), y(), w, h));
-    drawing.painter().setOpacity(1);
+    drawing.painter().restore();
     drawing.outline(0, 0, w, h, outerLine);
     drawing.outline(bandInset, bandInset, w - bandInset, h - bandInset, innerLine);
     update();
     show();
     raise();
+    tellScreenReaders();
 }
 
 void InformationWindow::separator(int y) {

@@ -37,6 +37,8 @@ class InformationWindow : public PictureBox {
 
   private:
     void frame(const QRect& marker);
+    // The map is described by what the window tells.
+    void tellScreenReaders();
 
     MapViewport& map_;
     QString tag_;

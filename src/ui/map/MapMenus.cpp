@@ -13,6 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr int regionCaption = 3;
+constexpr int notesCaption = 65;
 constexpr int insertCaption = 66;
 constexpr int editCaption = 67;
 constexpr int deleteCaption = 68;
@@ -51,6 +53,7 @@ MapMenus::MapMenus(Surroundings with, NoteActions actions)
 void MapMenus::buildNoteMenu() {
     const ProgramState& state = with_.state;
     MenuPopUp_->setObjectName(u"MenuPopUp"_s);
+    MenuPopUp_->setAccessibleName(state.text(notesCaption));
     mnuNoteInsert_ = addEntry(*MenuPopUp_, u"mnuNoteInsert"_s, state.text(insertCaption));
     mnuNoteEdit_ = addEntry(*MenuPopUp_, u"mnuNoteEdit"_s, state.text(editCaption));
     mnuNoteDelete_ = addEntry(*MenuPopUp_, u"mnuNoteDelete"_s, state.text(deleteCaption));
@@ -61,9 +64,11 @@ void MapMenus::buildNoteMenu() {
 
 void MapMenus::buildRegionMenu() {
     MenuPopupRegion_->setObjectName(u"MenuPopupRegion"_s);
+    MenuPopupRegion_->setAccessibleName(with_.state.text(regionCaption));
     for (const CampaignMenu& campaign : regionMenus(with_.state)) {
         QMenu* submenu = MenuPopupRegion_->addMenu(verbatim(campaign.caption));
         submenu->setObjectName(arrayName(u"mnuCampaign"_s, campaign.campaign));
+        submenu->setAccessibleName(campaign.caption);
         const QString name = u"mnuC%1Region"_s.arg(campaign.campaign - 1);
         int i = 0;
         for (const ListEntry& region : campaign.regions) {

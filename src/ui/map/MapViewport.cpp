@@ -18,6 +18,14 @@ constexpr int wheelStep = 64; // pixels per notch
 constexpr int notch = 120;    // what a wheel reports for one
 constexpr int veryFar = 1 << 20;
 
+// From now on the painter counts in pixels of the screen, from the whole one that is nearest to its origin:
+// at odd scale factors a part painted anew would stand a pixel beside the rest.
+void countInScreenPixels(QPainter& painter) {
+    const QTransform now = painter.deviceTransform();
+    const auto whole = QTransform::fromTranslate(std::round(now.dx()), std::round(now.dy()));
+    painter.setWorldTransform(whole * now.inverted() * painter.worldTransform());
+}
+
 } // namespace
 
 MapViewport::MapViewport(QWidget* parent) : QWidget(parent) {
@@ -73,15 +81,18 @@ void MapViewport::paintShown(QPainter& painter, const QRect& area) {
     const double ratio = devicePixelRatioF();
     const QRect pixels = QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio).toAlignedRect();
     painter.save();
-    painter.scale(1 / ratio, 1 / ratio);
-    painter.translate(-pixels.topLeft());
+    countInScreenPixels(painter);
     painter.setClipRect(pixels);
-    if (!surface_) {
+    if (surface_)
+        paintSurface(painter, pixels);
+    else {
         painter.fillRect(pixels, Qt::black);
         painter.drawImage(pixels.topLeft(), empty_, pixels);
-        painter.restore();
-        return;
     }
+    painter.restore();
+}
+
+void MapViewport::paintSurface(QPainter& painter, const QRect& pixels) {
     const QRect visible = view_.visible();
     if (visible.width() < screenPixels().width() || visible.height() < screenPixels().height())
         painter.fillRect(pixels, Qt::black);
@@ -91,14 +102,11 @@ void MapViewport::paintShown(QPainter& painter, const QRect& area) {
     for (const auto& shown : selections_)
         if (shown)
             painter.drawImage(shown->selection.at + scroll, shown->picture);
-    painter.restore();
 }
 
 void MapViewport::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const QRect area = event->rect();
-    painter.translate(area.topLeft());
-    paintShown(painter, area);
+    paintShown(painter, event->rect());
 }
 
 void MapViewport::resizeEvent(QResizeEvent*) {
@@ -106,16 +114,19 @@ void MapViewport::resizeEvent(QResizeEvent*) {
     emit resized();
 }
 
-ViewPoint MapViewport::toView(QPointF position) const {
+ViewPoint MapViewport::toView(const QMouseEvent& event) const {
+    // Of all the event's positions only that inside the window is not rounded, which would lose screen
+    // pixels.
+    const QPointF position = event.scenePosition() - mapTo(window(), QPointF());
     return {position.x() * devicePixelRatioF(), position.y() * devicePixelRatioF()};
 }
 
 void MapViewport::mousePressEvent(QMouseEvent* event) {
-    emit pressed(event->button(), event->modifiers(), toView(event->position()));
+    emit pressed(event->button(), event->modifiers(), toView(*event));
 }
 
 void MapViewport::mouseMoveEvent(QMouseEvent* event) {
-    emit moved(toView(event->position()));
+    emit moved(toView(*event));
 }
 
 void MapViewport::mouseReleaseEvent(QMouseEvent* event) {

@@ -35,7 +35,8 @@ class MapViewport : public QWidget {
     };
     void setSelection(int kind, std::optional<Selection> selection, const MarkerArt& art);
 
-    // Paints what the viewport shows in `area` (its own pixels) at the painter's origin.
+    // Paints what the viewport shows in `area` (its own pixels); the painter's origin is the viewport's
+    // corner.
     void paintShown(QPainter& painter, const QRect& area);
     // Of a rectangle of the region picture, in the viewport's own pixels; edges inclusive on both sides.
     QRect toWidget(const QRect& mapArea) const;
@@ -70,7 +71,8 @@ class MapViewport : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    ViewPoint toView(QPointF position) const;
+    ViewPoint toView(const QMouseEvent& event) const;
+    void paintSurface(QPainter& painter, const QRect& pixels);
 
     MapView view_;
     MapSurface* surface_ = nullptr;

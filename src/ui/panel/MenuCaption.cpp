@@ -37,11 +37,32 @@ class AccessibleCaption : public QAccessibleWidget {
     MenuCaption& caption_;
 };
 
+// Its rows are what can be chosen; the text beside a box is the box's name.
+class AccessibleMenu : public QAccessibleWidget {
+  public:
+    explicit AccessibleMenu(frmPopupMenu& menu)
+        : QAccessibleWidget(&menu, QAccessible::PopupMenu), menu_(menu) {}
+
+    QAccessibleInterface* parent() const override {
+        return QAccessible::queryAccessibleInterface(menu_.parentWidget());
+    }
+    int childCount() const override { return static_cast<int>(menu_.rows().size()); }
+    QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(menu_.rows().value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return static_cast<int>(menu_.rows().indexOf(child ? child->object() : nullptr));
+    }
+
+  private:
+    const frmPopupMenu& menu_;
+};
+
 QAccessibleInterface* accessibleMenuPart(const QString&, QObject* object) {
     if (auto* caption = qobject_cast<MenuCaption*>(object))
         return new AccessibleCaption(*caption);
     if (auto* menu = qobject_cast<frmPopupMenu*>(object))
-        return new QAccessibleWidget(menu, QAccessible::PopupMenu);
+        return new AccessibleMenu(*menu);
     if (auto* bar = qobject_cast<MenuBar*>(object))
         return new QAccessibleWidget(bar, QAccessible::MenuBar);
     return nullptr;

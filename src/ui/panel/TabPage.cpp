@@ -17,7 +17,7 @@ constexpr QRect designPlace(-1, 194, 219, 541);
 TabPage::TabPage(int index, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
     setObjectName(arrayName(QStringLiteral("picTab"), index));
     setGeometry(designPlace);
-    setSpokenRole(*this, QAccessible::PropertyPage);
+    setSpokenRole(*this, QAccessible::Pane);
     setCursor(programCursor(101));
     // A press beside the controls is not one on the panel's own background, which drags it.
     setAttribute(Qt::WA_NoMousePropagation);

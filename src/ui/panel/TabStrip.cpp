@@ -36,7 +36,7 @@ TabStrip::TabStrip(std::array<TabPage*, tabCount> pages, QWidget* panel)
         header->setGeometry(design.place);
         auto* box = new SmallCheckBox(arrayName(u"chkShowObject"_s, i), panel);
         box->move(design.place.topLeft() + QPoint(3, 3));
-        connect(header, &TabHeader::clicked, this, [this, i] { activate(i); });
+        connect(header, &TabHeader::clicked, this, [this, i] { activateWithFocus(i); });
         connect(header, &TabHeader::stepWanted, this, &TabStrip::step);
         lblTab[size_t(i)] = header;
         chkShowObject[size_t(i)] = box;
@@ -89,13 +89,13 @@ void TabStrip::activate(int index) {
     emit activated(index);
 }
 
-void TabStrip::activateByKey(int index) {
+void TabStrip::activateWithFocus(int index) {
     activate(index);
     lblTab[size_t(index)]->setFocus(Qt::TabFocusReason);
 }
 
 void TabStrip::step(int by) {
-    activateByKey((active() + by + tabCount) % tabCount);
+    activateWithFocus((active() + by + tabCount) % tabCount);
 }
 
 void TabStrip::swapRows(int left, int right) {

@@ -29,8 +29,8 @@ class TabStrip : public QObject {
     void applyCaptions(const ProgramState& state);
     // lblTab_Click.
     void activate(int index);
-    // The same by a key: the header has the focus afterwards, so that Tab leads into the page.
-    void activateByKey(int index);
+    // The same by the player: the header has the focus afterwards, so that Tab leads into the page.
+    void activateWithFocus(int index);
     // To the tab so many further on, round the ends.
     void step(int by);
     // -1: none yet.

@@ -38,8 +38,8 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), state_(state), desktop_(desktop), drag_(*this) {
     setObjectName(u"frmMenu"_s);
     setWindowTitle(programName());
+    setSpokenRole(*this, QAccessible::Window); // before its name: telling of that makes screen readers look
     setAccessibleName(titleText());
-    setSpokenRole(*this, QAccessible::Window);
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
     setCursor(programCursor(101));

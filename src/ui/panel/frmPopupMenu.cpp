@@ -4,6 +4,7 @@
 #include "app/ProgramState.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QKeyEvent>
@@ -92,7 +93,7 @@ void frmPopupMenu::SetValue(int menu, int entryNumber, int value) {
         entries[static_cast<size_t>(entryNumber)].Value = value;
 }
 
-void frmPopupMenu::OpenMenu(int menu, const QWidget& label) {
+void frmPopupMenu::OpenMenu(int menu, const Label& label) {
     if (menu < 0 || menu >= static_cast<int>(Menus.size()))
         return;
     hide();
@@ -100,6 +101,7 @@ void frmPopupMenu::OpenMenu(int menu, const QWidget& label) {
     shaSelection->hide();
     HoverEntry = -1;
     OpenMenuId = menu;
+    setAccessibleName(label.text());
     makePools();
     int widest = 0;
     for (int e = 0; e < shown().EntryCount; ++e)
@@ -139,8 +141,11 @@ void frmPopupMenu::makePools() {
         makeBox(box, u"optEntry(%1)"_s.arg(i));
         return box;
     });
-    setCount(linEntry, menu.LineCount,
-             [this](int i) { return patch(u"linEntry(%1)"_s.arg(i), darkGrey, this); });
+    setCount(linEntry, menu.LineCount, [this](int i) {
+        QWidget* line = patch(u"linEntry(%1)"_s.arg(i), darkGrey, this);
+        setSpokenRole(*line, QAccessible::Separator);
+        return line;
+    });
 }
 
 void frmPopupMenu::watch(QWidget& control) {
@@ -199,14 +204,25 @@ void frmPopupMenu::placeFrames(int widest, int labelWidth) {
     lblFalseHole->raise();
 }
 
-QWidget* frmPopupMenu::focusOf(int e) const {
-    const MenuEntry& row = entry(e);
-    const auto kindIndex = static_cast<size_t>(row.KindIndex);
-    if (row.Kind == MenuKind::Check)
+QWidget* frmPopupMenu::row(int e) const {
+    const auto kindIndex = static_cast<size_t>(entry(e).KindIndex);
+    switch (entry(e).Kind) {
+    case MenuKind::Check:
         return chkEntry[kindIndex];
-    if (row.Kind == MenuKind::Option)
+    case MenuKind::Option:
         return optEntry[kindIndex];
-    return lblEntry[static_cast<size_t>(e)];
+    case MenuKind::Separator:
+        return linEntry[kindIndex];
+    default:
+        return lblEntry[static_cast<size_t>(e)];
+    }
+}
+
+QList<QWidget*> frmPopupMenu::rows() const {
+    QList<QWidget*> all;
+    for (int e = 0; e < static_cast<int>(lblEntry.size()); ++e) // none before the first opening
+        all << row(e);
+    return all;
 }
 
 void frmPopupMenu::highlight(int e) {
@@ -223,7 +239,7 @@ void frmPopupMenu::highlight(int e) {
     shaSelection->setGeometry(label.x() - highlightMargin, label.y() - highlightMargin,
                               label.width() + 2 * highlightMargin, rowHeight);
     shaSelection->lower();
-    focusOf(e)->setFocus();
+    row(e)->setFocus();
 }
 
 void frmPopupMenu::highlightFirst() {

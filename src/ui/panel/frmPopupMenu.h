@@ -24,12 +24,14 @@ class frmPopupMenu : public QWidget {
     std::function<void(int menu, int entry)> OnMenuEntryClick;
 
     // Builds menu 0..2 and shows it below `label`. Nothing happens with another number.
-    void OpenMenu(int menu, const QWidget& label);
+    void OpenMenu(int menu, const Label& label);
     // Shown at the next opening. Nothing happens with an entry that does not exist.
     void SetValue(int menu, int entry, int value);
     // Highlights the first entry that can be chosen: where the keyboard starts.
     void highlightFirst();
 
+    // What stands for each entry to the keyboard and to screen readers: a box, a separator or the text.
+    QList<QWidget*> rows() const;
     // -1: none.
     int hoverEntry() const { return HoverEntry; }
     const MenuTable& menus() const { return Menus; }
@@ -57,7 +59,7 @@ class frmPopupMenu : public QWidget {
     int placeRow(int e);
     void placeBox(QAbstractButton& box, const MenuEntry& row, int e);
     void placeFrames(int widest, int labelWidth);
-    QWidget* focusOf(int e) const;
+    QWidget* row(int e) const;
     void highlight(int e);
     void step(int from, int direction);
     void jumpTo(const QString& typed);

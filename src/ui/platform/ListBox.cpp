@@ -185,15 +185,16 @@ void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& prev
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return; // the view would select, and the map move away
     pickedByPress_ = false;
     const bool before = hasSelection();
     const QModelIndex pressed = indexAt(event->position().toPoint());
     QListView::mousePressEvent(event);
     // A press on a check box is not passed on: without this, Space would act on another entry than the click.
-    if (event->button() == Qt::LeftButton && pressed.isValid() && pressed != currentIndex())
+    if (pressed.isValid() && pressed != currentIndex())
         setCurrentIndex(pressed);
-    if (!pickedByPress_ && pressed.isValid() && pressed == currentIndex() &&
-        event->button() == Qt::LeftButton) {
+    if (!pickedByPress_ && pressed.isValid() && pressed == currentIndex()) {
         if (!before)
             selectionModel()->select(pressed, QItemSelectionModel::ClearAndSelect);
         emit picked();

@@ -1,11 +1,14 @@
 #include "ui/platform/PictureBox.h"
 
+#include "ui/platform/SpokenRole.h"
+
 #include <QMouseEvent>
 
 namespace orvinel {
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setSpokenRole(*this, QAccessible::Graphic);
 }
 
 void PictureBox::setBackground(Colour colour) {

@@ -3,6 +3,9 @@
 #include <QGuiApplication>
 
 #ifdef ORVINEL_X11
+#include <QEvent>
+#include <QWindow>
+
 #include <array>
 #include <cstdlib>
 #include <cstring>
@@ -56,9 +59,7 @@ void askWindowManager(xcb_connection_t* connection, xcb_window_t window, xcb_ato
                    XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, bytes.data());
 }
 
-} // namespace
-
-void keepOffTaskBar(QWidget& window) {
+void writeState(const QWindow& window) {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
     if (!connection)
@@ -73,6 +74,38 @@ void keepOffTaskBar(QWidget& window) {
             xcb_change_property(connection, XCB_PROP_MODE_APPEND, id, state, XCB_ATOM_ATOM, 32, 1, &added);
     }
     xcb_flush(connection);
+}
+
+// Writes it again when the window is on the screen: Qt gives a window that was kept on top, or no longer,
+// while it was hidden a new X window then, without the old one's state.
+class AgainWhenSeen : public QObject {
+  public:
+    explicit AgainWhenSeen(QWindow* window) : QObject(window), window_(*window) {
+        window->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Expose && window_.isExposed()) {
+            window_.removeEventFilter(this);
+            writeState(window_);
+            deleteLater();
+        }
+        return false;
+    }
+
+  private:
+    QWindow& window_;
+};
+
+} // namespace
+
+void keepOffTaskBar(QWidget& window) {
+    window.winId(); // makes the window that the system knows, if there is none yet
+    QWindow* handle = window.windowHandle();
+    if (!handle->isExposed())
+        new AgainWhenSeen(handle);
+    writeState(*handle);
 }
 
 #elif defined(Q_OS_WIN)

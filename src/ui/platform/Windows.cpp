@@ -11,6 +11,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolTip>
 #include <QTranslator>
 #include <QWindow>
 
@@ -20,6 +21,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The same option for a widget that shows its focus, even before the first key of the player.
+template <typename Option>
+Option withFocusShown(const QStyleOption& option) {
+    Option shown(static_cast<const Option&>(option));
+    shown.state |= QStyle::State_KeyboardFocusChange;
+    return shown;
+}
+
 // Drop-down lists as high as told instead of as high as the screen; everything else as Fusion does it.
 class ProgramStyle : public QProxyStyle {
   public:
@@ -28,6 +37,24 @@ class ProgramStyle : public QProxyStyle {
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override {
         return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const auto draw = [&](const QStyleOption& shown) {
+            QProxyStyle::drawPrimitive(element, &shown, painter, widget);
+        };
+        if (element == PE_FrameFocusRect)
+            return draw(withFocusShown<QStyleOptionFocusRect>(*option));
+        if (element == PE_PanelButtonCommand)
+            return draw(withFocusShown<QStyleOptionButton>(*option));
+        draw(*option);
+    }
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        if (control != CC_ComboBox)
+            return QProxyStyle::drawComplexControl(control, option, painter, widget);
+        const auto shown = withFocusShown<QStyleOptionComboBox>(*option);
+        QProxyStyle::drawComplexControl(control, &shown, painter, widget);
     }
     // The narrow drop-down lists of the panel would cut off the end of "<<< None >>>" otherwise.
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -64,6 +91,9 @@ QPalette lightColours() {
     colours.setColor(QPalette::Highlight, QColor(0x20, 0x5E, 0x9C));
     colours.setColor(QPalette::HighlightedText, Qt::white);
     colours.setColor(QPalette::Disabled, QPalette::Base, QColor(0xEC, 0xEC, 0xEC));
+    colours.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xDC));
+    colours.setColor(QPalette::ToolTipText, Qt::black);
+    colours.setColor(QPalette::PlaceholderText, QColor(0x80, 0x80, 0x80));
     return colours;
 }
 
@@ -89,12 +119,21 @@ void chooseWindowSystem() {
 
 QCursor programCursor(int number) {
     const QPoint at = hotSpot(number);
-    return QCursor(QPixmap(u":/cursors/%1.png"_s.arg(number)), at.x(), at.y());
+    // Under X11 a pointer's picture is shown as it is, at every scale factor.
+    const qreal scale = QGuiApplication::platformName() == u"xcb"_s ? qGuiApp->devicePixelRatio() : 1;
+    if (scale <= 1)
+        return QCursor(QPixmap(u":/cursors/%1.png"_s.arg(number)), at.x(), at.y());
+    const QPixmap large(u":/cursors/%1-large.png"_s.arg(number));
+    const QSize size = (QSizeF(large.size()) / 2 * scale).toSize();
+    const QPoint scaled = (QPointF(at) * scale).toPoint();
+    return QCursor(large.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), scaled.x(),
+                   scaled.y());
 }
 
 void applyAppearance(QApplication& application) {
     QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(lightColours());
+    QToolTip::setPalette(lightColours());
     bringFace(QCoreApplication::applicationDirPath() + u"/Fonts"_s);
     QApplication::setFont(arial(points8_25));
     QIcon icon;
