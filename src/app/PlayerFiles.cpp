@@ -7,7 +7,7 @@ namespace orvinel {
 namespace {
 
 QByteArray hashOf(const QByteArray& bytes) {
-    return bytes.isEmpty() ? QByteArray() : QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    return bytes.isEmpty() ? QByteArray() : QCryptographicHash::hash(bytes, QCryptographicHash::Blake2b_256);
 }
 
 QString nameOf(const QString& path) {

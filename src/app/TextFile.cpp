@@ -7,7 +7,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A field takes far more memory than its TAB: no line of the program needs a tenth of these.
-constexpr qsizetype mostFields = 255;
+constexpr size_t mostFields = 255;
 
 } // namespace
 
@@ -18,12 +18,21 @@ TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
     text_ = decodeText(source_.bytes);
 }
 
+// Where the line that begins at next_ ends. LF and CR are looked for one after the other, since a search for
+// one character compares many places at once; where the next LF is stays known as long as it lies ahead.
+qsizetype TextFile::lineEnd() {
+    if (lineFeed_ < next_)
+        lineFeed_ = text_.indexOf(u'\n', next_);
+    if (lineFeed_ < 0)
+        lineFeed_ = text_.size();
+    const qsizetype carriageReturn = QStringView(text_).sliced(next_, lineFeed_ - next_).indexOf(u'\r');
+    return carriageReturn < 0 ? lineFeed_ : next_ + carriageReturn;
+}
+
 bool TextFile::nextLine() {
     if (next_ >= text_.size())
         return false;
-    qsizetype end = next_;
-    while (end < text_.size() && text_[end] != u'\n' && text_[end] != u'\r')
-        ++end;
+    const qsizetype end = lineEnd();
     line_ = QStringView(text_).sliced(next_, end - next_);
     next_ = end + 1;
     if (end + 1 < text_.size() && text_[end] == u'\r' && text_[end + 1] == u'\n')
@@ -41,12 +50,10 @@ bool TextFile::nextRecord() {
 }
 
 bool TextFile::split(size_t fewest) {
-    if (line_.count(u'\t') >= mostFields) {
-        fields_.clear();
+    if (!splitFields(line_, fields_, mostFields)) {
         skip({}, u"more than %1 fields"_s.arg(mostFields));
         return false;
     }
-    fields_ = splitFields(line_);
     if (fields_.size() >= fewest)
         return true;
     if (!line_.trimmed().isEmpty())

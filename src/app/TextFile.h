@@ -51,6 +51,7 @@ class TextFile {
     void skip(const QString& field, const QString& reason);
 
   private:
+    qsizetype lineEnd();
     std::optional<int> accept(std::optional<int> value, size_t position, const char* name);
 
     QString path_;
@@ -58,6 +59,7 @@ class TextFile {
     ReadResult source_;
     QString text_;
     qsizetype next_ = 0;
+    qsizetype lineFeed_ = -1; // the first at or behind next_, or the end; before next_: not looked for yet
     QStringView line_;
     std::vector<QStringView> fields_;
     int number_ = 0;

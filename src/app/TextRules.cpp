@@ -1,5 +1,6 @@
 #include "app/TextRules.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -90,6 +91,19 @@ double valueOf(const std::string& ascii) {
     return value;
 }
 
+// What nearly every number is: few digits and nothing else.
+std::optional<int> plainDigits(QStringView text) {
+    if (text.isEmpty() || text.size() > 9)
+        return std::nullopt;
+    int value = 0;
+    for (const QChar c : text) {
+        if (!isDigit(c))
+            return std::nullopt;
+        value = 10 * value + (c.unicode() - u'0');
+    }
+    return value;
+}
+
 std::optional<int> inRange(double value, int lowest, int highest) {
     const double rounded = std::nearbyint(value);
     if (!(rounded >= lowest && rounded <= highest))
@@ -103,6 +117,9 @@ QString decodeText(const QByteArray& bytes) {
     if (bytes.startsWith(utf8Mark))
         return QString::fromUtf8(QByteArrayView(bytes).sliced(utf8Mark.size()));
     QString text = QString::fromLatin1(bytes);
+    const auto differs = [](char c) { return static_cast<signed char>(c) <= static_cast<signed char>(0x9F); };
+    if (std::none_of(bytes.begin(), bytes.end(), differs))
+        return text;
     for (QChar& c : text)
         if (c >= QChar(0x80) && c <= QChar(0x9F))
             if (const char16_t mapped = upperControls[c.unicode() - 0x80u])
@@ -129,10 +146,13 @@ double leadingNumber(QStringView text) {
 }
 
 std::optional<int> leadingInteger(QStringView text, int lowest, int highest) {
-    return inRange(leadingNumber(text), lowest, highest);
+    const std::optional<int> plain = plainDigits(text);
+    return inRange(plain ? *plain : leadingNumber(text), lowest, highest);
 }
 
 std::optional<int> wholeNumber(QStringView text, int lowest, int highest) {
+    if (const std::optional<int> plain = plainDigits(text))
+        return inRange(*plain, lowest, highest);
     const QStringView trimmed = text.trimmed();
     if (trimmed.startsWith(u"&H", Qt::CaseInsensitive)) {
         bool ok = false;
@@ -148,15 +168,19 @@ std::optional<int> wholeNumber(QStringView text, int lowest, int highest) {
     return inRange(valueOf(prefix.ascii), lowest, highest);
 }
 
-std::vector<QStringView> splitFields(QStringView line) {
-    std::vector<QStringView> fields;
-    qsizetype from = 0;
-    for (qsizetype tab = line.indexOf(u'\t'); tab >= 0; tab = line.indexOf(u'\t', from)) {
-        fields.push_back(line.sliced(from, tab - from));
-        from = tab + 1;
-    }
-    fields.push_back(line.sliced(from));
-    return fields;
+bool splitFields(QStringView line, std::vector<QStringView>& fields, size_t most) {
+    fields.clear();
+    // Fields are short: looking at each character beats a call of the search for each.
+    const QChar* from = line.begin();
+    for (const QChar* c = from; c != line.end(); ++c)
+        if (*c == u'\t') {
+            fields.emplace_back(from, c);
+            from = c + 1;
+        }
+    fields.emplace_back(from, line.end());
+    if (fields.size() > most)
+        fields.clear();
+    return !fields.empty();
 }
 
 namespace {
@@ -169,18 +193,19 @@ std::string foldedUnicode(QStringView text) {
 
 // Nearly all texts are ASCII; folding those without the detour counts at the start.
 std::string folded(QStringView text) {
-    std::string result;
-    result.reserve(static_cast<size_t>(text.size()));
-    for (const QChar c : text) {
-        if (c.unicode() >= 0x80)
-            return foldedUnicode(text);
-        const char byte = static_cast<char>(c.unicode());
-        result += byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+    std::string result(static_cast<size_t>(text.size()), '\0');
+    char16_t seen = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.utf16()[i];
+        seen |= c;
+        result[static_cast<size_t>(i)] = static_cast<char>(c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c);
     }
-    return result;
+    return seen < 0x80 ? result : foldedUnicode(text);
 }
 
 QString withLineBreaks(QStringView text) {
+    if (!text.contains(u'\\'))
+        return text.toString();
     return text.toString().replace(QLatin1String("\\n"), QLatin1String("\r\n"));
 }
 

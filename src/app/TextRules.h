@@ -30,8 +30,9 @@ std::optional<int> leadingInteger(QStringView text, int lowest, int highest);
 // hexadecimal.
 std::optional<int> wholeNumber(QStringView text, int lowest, int highest);
 
-// One more field than there are TABs; empty fields stay in place. The views point into `line`.
-std::vector<QStringView> splitFields(QStringView line);
+// One more field than there are TABs; empty fields stay in place. The views point into `line` and replace
+// what `fields` held. False, without any field: there are more than `most`.
+bool splitFields(QStringView line, std::vector<QStringView>& fields, size_t most);
 
 // Lower-cased UTF-8 of a text: one substring search in it is a case-insensitive search in the text.
 std::string folded(QStringView text);

@@ -36,7 +36,8 @@ std::optional<Costs> readCosts(TextFile& file) {
     return Costs{*upkeep, *adrenaline, *energy, *recharge};
 }
 
-void readSkill(ProgramState& state, TextFile& file, int campaign) {
+// `pictures`: the campaign's folder of skill pictures.
+void readSkill(ProgramState& state, TextFile& file, int campaign, const QString& pictures) {
     const auto id = file.integer(0, "skill", 0, largestIdentifier);
     const auto profession = file.whole(1, "profession", 0, 255);
     const bool full = file.fieldCount() == fullListLine;
@@ -58,7 +59,7 @@ void readSkill(ProgramState& state, TextFile& file, int campaign) {
     skill.CastTime = file.text(8);
     skill.Recharge = costs->recharge;
     skill.Description = file.text(10);
-    skill.Picture = campaignFolder(state, campaign) + u"/imgElite/"_s + fixedDigits(*id, 4) + u".jpg"_s;
+    skill.Picture = pictures + fixedDigits(*id, 4) + u".jpg"_s;
 }
 
 void sortSkills(ProgramState& state) {
@@ -92,13 +93,13 @@ class LocationFile {
             if (!file_.split(7))
                 continue;
             const auto id = file_.integer(0, "skill", 0, state.EliteSkills.highest());
-            const std::optional<MapLocation> location = id ? readLocation() : std::nullopt;
+            std::optional<MapLocation> location = id ? readLocation() : std::nullopt;
             if (!location)
                 continue;
             if (++stored_ > mostLocations)
                 file_.skip({}, u"more than %1 bosses"_s.arg(mostLocations));
             else
-                store(*id, *location);
+                store(*id, std::move(*location));
         }
     }
 
@@ -147,10 +148,11 @@ bool carriesGreens(const MapLocation& at) {
 void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complaints) {
     state.EliteSkills.reset();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
-        TextFile file(disk, campaignFolder(state, n) + u"/EliteList.txt"_s, complaints);
+        const QString folder = campaignFolder(state, n);
+        TextFile file(disk, folder + u"/EliteList.txt"_s, complaints);
         while (file.nextRecord())
             if (file.split(3))
-                readSkill(state, file, n);
+                readSkill(state, file, n, folder + u"/imgElite/"_s);
     }
     for (EliteSkill& skill : state.EliteSkills)
         skill.Captured.assign(static_cast<size_t>(state.Characters.highest()) + 1, false);
@@ -160,11 +162,11 @@ void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complain
 void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         LocationFile file(state, disk, n, complaints);
-        file.read(state, [&](int id, const MapLocation& location) {
-            const int index = state.EliteSkills[id].addLocation(location);
+        file.read(state, [&](int id, MapLocation&& read) {
+            const int index = state.EliteSkills[id].addLocation(std::move(read));
+            MapLocation& location = state.EliteSkills[id].Locations[index];
             if (carriesGreens(location))
-                state.EliteSkills[id].Locations[index].Greens =
-                    LinkGreensToBoss(state, id, index, location.Boss);
+                location.Greens = LinkGreensToBoss(state, id, index, location.Boss);
         });
     }
 }

@@ -79,6 +79,7 @@ class CollectorReader {
                 continue;
             }
             std::vector<QString> stats;
+            stats.reserve(file_.fieldCount() - 2);
             for (size_t i = 2; i < file_.fieldCount(); ++i)
                 stats.push_back(file_.text(i));
             collector.addObject(file_.text(0), *mask, std::move(stats));

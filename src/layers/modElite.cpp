@@ -109,9 +109,9 @@ void EliteSkill::setAttribute(const QString& attribute) {
     FoldedAttribute = folded(attribute);
 }
 
-int EliteSkill::addLocation(const MapLocation& location) {
+int EliteSkill::addLocation(MapLocation location) {
     FoldedBosses += location.FoldedBoss + '\n';
-    return Locations.append(location);
+    return Locations.append(std::move(location));
 }
 
 std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice& choice) {
