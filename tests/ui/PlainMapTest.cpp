@@ -1,0 +1,36 @@
+#include "compare/PlainMap.h"
+#include "support/LayersFixture.h"
+#include "ui/map/RegionPictures.h"
+
+namespace orvinel {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+struct PlainMapTest : LayersFixture {
+    PlainMapTest() {
+        putFile("EliteList.txt", "1\t1\tFlare\r\n2\t2\tHymn\r\n");
+        putFile("EliteLocations.txt", ";[Version]2.0\r\n1\t1\t100\t104\tGrim\tM\t11\r\n"
+                                      "1\t1\t600\t80\tHollow\tWM\t12\r\n2\t1\t108\t96\tSilas\t\t12\r\n");
+    }
+
+    void expectPlain(const QString& boss) {
+        map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0), boss));
+        const QImage picture = loadPicture(disk, findRegion(state, 3, 1)->RegionPicture);
+        EXPECT_EQ(bench::plainMap(picture, *zones, map->shown(0),
+                                  bench::allMarkers(state, map->shown(0), boss), map->art()),
+                  map->picMap().surface()->composed())
+            << boss.toStdString();
+    }
+};
+
+// Boxes and zones that are drawn once and copied must look as if each were drawn in its place.
+TEST_F(PlainMapTest, theMapEqualsTheOneDrawnTheObviousWayPixelForPixel) {
+    start();
+    showFjord();
+    for (const QString& boss : {u""_s, u"grim"_s, u"o"_s, u"nobody"_s})
+        expectPlain(boss);
+}
+
+} // namespace
+} // namespace orvinel
