@@ -1,6 +1,7 @@
 #include "app/FileDisk.h"
 #include "app/SingleInstance.h"
 #include "app/modOrvinel.h"
+#include "ui/platform/Fonts.h"
 #include "ui/platform/QtDesktop.h"
 #include "ui/platform/Windows.h"
 
@@ -13,6 +14,7 @@ int main(int, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication application(argc, argv);
     orvinel::applyAppearance(application);
+    const std::future<void> faces = orvinel::readFacesAhead();
 
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
     const orvinel::SingleInstance instance(folder);
@@ -21,5 +23,8 @@ int main(int, char** argv) {
     orvinel::FileDisk disk(folder);
     orvinel::QtDesktop desktop(folder);
     orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
-    return program.Main() ? QApplication::exec() : 1;
+    if (!program.Main())
+        return 1;
+    orvinel::setProgramIcon();
+    return QApplication::exec();
 }

@@ -11,6 +11,27 @@ namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+// The picture of the region that the panel is going to choose from the options; empty: none. Looked up before
+// the tables are loaded, since decoding it takes about as long as everything else that a start does.
+QString rememberedPicture(const QString& appPath, Disk& disk) {
+    ProgramState state;
+    state.AppPath = appPath;
+    PlayerFiles files(disk);
+    LoadCampaigns(state, disk);
+    LoadOptions(state, files);
+    const auto data = [](const std::vector<ListEntry>& entries, int index) {
+        return index >= 0 && index < std::ssize(entries) ? entries[static_cast<size_t>(index)].data : -1;
+    };
+    const int campaign = data(campaignEntries(state), state.AppOptions.Campaign);
+    const int region = data(regionEntries(state, campaign), state.AppOptions.Region);
+    const Region* found = region > 0 ? findRegion(state, campaign, region) : nullptr;
+    return found ? found->RegionPicture : QString();
+}
+
+} // namespace
+
 Program::Program(QString appPath, Disk& disk, Desktop& desktop, std::function<void(int)> endProcess)
     : files_(disk), desktop_(desktop), endProcess_(std::move(endProcess)) {
     state_.AppPath = std::move(appPath);
@@ -30,10 +51,12 @@ bool Program::start() {
         ended_ = true;
         return false;
     }
+    PictureAhead remembered(files_.disk(), rememberedPicture(state_.AppPath, files_.disk()));
     LoadAll(state_, files_, desktop_);
     if (refuseUnknownCampaign())
         return false;
     makeWindows();
+    map_->expect(std::move(remembered));
     map_->InizializzaVariabili({}, -1, -1);
     panel_->Form_Load();
     showWindows();
@@ -117,6 +140,7 @@ void Program::showWindows() {
     else
         legend_->move(map_->x(), map_->y() + map_->height() - legend_->height());
     panel_->show();
+    panel_->activateWindow(); // before the first paint, which shows where the keyboard is
     map_->show();
     legend_->setVisible(options.Legend);
     applyAlwaysOnTop();

@@ -31,6 +31,7 @@ struct Legend {
     QImage picture;
 
     explicit Legend(int professions) : state(stateWith(professions)), window(state, nullptr) {
+        window.show();
         picture = window.findChild<QWidget*>(u"picLegenda"_s)
                       ->grab()
                       .toImage()

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <array>
+#include <utility>
 
 namespace orvinel {
 
@@ -108,7 +109,7 @@ QString spokenLegend(const ProgramState& state) {
 } // namespace
 
 frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
-    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), title_(state.text(legendCaption)),
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), state_(state), title_(state.text(legendCaption)),
       picLegenda_(new PictureBox(this)) {
     setObjectName(u"frmLegenda"_s);
     setWindowTitle(title_);
@@ -125,7 +126,11 @@ frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
         new PictureButton(u"cmdClose"_s, u":/windows/close.png"_s, state.text(closeCaption), this);
     cmdClose->setGeometry(closePlace);
     connect(cmdClose, &QAbstractButton::clicked, this, &frmLegenda::dismiss);
-    DrawLegend(state);
+    const int height =
+        (longerColumn(state.Professions.highest()) + static_cast<int>(legendRows.size())) * pitch + 10 +
+        legendRows.back().OffsetY;
+    picLegenda_->setGeometry(QRect(picturePlace, QSize(pictureWidth, height)));
+    setFixedSize(clientWidth, picturePlace.y() + height + bottomMargin);
 }
 
 void frmLegenda::DrawLegendTitle() {
@@ -136,36 +141,31 @@ void frmLegenda::DrawLegendTitle() {
     drawing.print((width() - drawing.textWidth(title_)) / 2, (bandHeight - drawing.lineHeight()) / 2, title_);
 }
 
-void frmLegenda::DrawLegend(const ProgramState& state) {
-    const int professions = state.Professions.highest();
-    const int height = (longerColumn(professions) + static_cast<int>(legendRows.size())) * pitch + 10 +
-                       legendRows.back().OffsetY;
-    picLegenda_->setGeometry(QRect(picturePlace, QSize(pictureWidth, height)));
-    setFixedSize(clientWidth, picturePlace.y() + height + bottomMargin);
+void frmLegenda::DrawLegend() {
     picLegenda_->clear();
     Drawing drawing(&picLegenda_->surface());
-    int line = drawProfessions(drawing, state);
+    int line = drawProfessions(drawing);
     drawing.setFont(arial(points7));
     for (const LegendRow& row : legendRows) {
         const int y = line++ * pitch + rowsTop + row.OffsetY;
         drawSymbol(drawing, art_, row, y);
         const int shift = row.symbol == Symbol::Green ? greenTextShift : 0;
-        drawing.print(firstColumn + textIndent + shift, y, state.text(row.text));
+        drawing.print(firstColumn + textIndent + shift, y, state_.text(row.text));
     }
 }
 
 // Returns the number of lines that the columns take.
-int frmLegenda::drawProfessions(Drawing& drawing, const ProgramState& state) {
-    const int professions = state.Professions.highest();
+int frmLegenda::drawProfessions(Drawing& drawing) {
+    const int professions = state_.Professions.highest();
     const int half = professions / 2;
     drawing.setFont(arial(points6_75));
     for (int i = 1; i <= professions; ++i) {
         const bool second = i > half;
         const int x = second ? pictureWidth / 2 + 1 : firstColumn;
         const int y = (second ? i - 1 - half : i - 1) * pitch + professionsTop;
-        drawing.setFill(state.Professions[i].Color);
+        drawing.setFill(state_.Professions[i].Color);
         drawing.box(x + 1, y, x + 1 + boxSize, y + boxSize);
-        drawing.print(x + textIndent, y, state.Professions[i].Name);
+        drawing.print(x + textIndent, y, state_.Professions[i].Name);
     }
     return longerColumn(professions);
 }
@@ -180,6 +180,8 @@ void frmLegenda::paintEvent(QPaintEvent*) {
 }
 
 void frmLegenda::showEvent(QShowEvent* event) {
+    if (!std::exchange(drawn_, true))
+        DrawLegend();
     keepOffTaskBar(*this);
     QWidget::showEvent(event);
 }

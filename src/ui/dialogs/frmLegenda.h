@@ -9,12 +9,12 @@
 
 namespace orvinel {
 
-// The small window that explains the map's markers. Drawn once, from the professions as they are when it is
-// made; shown, hidden and placed by its owner.
+// The small window that explains the map's markers. Laid out for the professions as they are when it is
+// made and drawn when it is first shown; shown, hidden and placed by its owner.
 class frmLegenda : public QWidget {
     Q_OBJECT
   public:
-    // `owner`: the window that the legend stays above.
+    // `owner`: the window that the legend stays above. `state` outlives the legend.
     frmLegenda(const ProgramState& state, QWidget* owner);
 
   signals:
@@ -32,11 +32,13 @@ class frmLegenda : public QWidget {
 
   private:
     void DrawLegendTitle();
-    void DrawLegend(const ProgramState& state);
-    int drawProfessions(Drawing& drawing, const ProgramState& state);
+    void DrawLegend();
+    int drawProfessions(Drawing& drawing);
     void dismiss();
 
+    const ProgramState& state_;
     QString title_;
+    bool drawn_ = false;
     MarkerArt art_;
     PictureBox* picLegenda_;
     WindowDrag drag_{*this};

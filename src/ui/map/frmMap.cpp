@@ -3,7 +3,6 @@
 #include "app/About.h"
 #include "app/modLanguage.h"
 #include "ui/map/EmptyMap.h"
-#include "ui/map/RegionPictures.h"
 #include "ui/platform/EdgeResize.h"
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/SpokenRole.h"
@@ -118,7 +117,8 @@ void frmMap::sayWhatIsShown() {
 std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campaign, int region) {
     if (auto cached = cache_.take(picture))
         return cached;
-    QImage ground = loadPicture(with_.disk, picture);
+    std::optional<QImage> expected = expected_.take(picture);
+    QImage ground = expected ? std::move(*expected) : loadPicture(with_.disk, picture);
     if (ground.isNull())
         return nullptr;
     for (MapLayer* layer : chains_.drawing)

@@ -7,6 +7,7 @@
 #include "ui/map/MapLayer.h"
 #include "ui/map/MapViewport.h"
 #include "ui/map/MarkerArt.h"
+#include "ui/map/RegionPictures.h"
 #include "ui/map/SurfaceCache.h"
 
 #include <QWidget>
@@ -64,6 +65,8 @@ class frmMap : public QWidget {
     // Shows a region's picture, without markers. A missing or broken picture, or region -1, gives the empty
     // map. The region already shown stays as it is.
     void InizializzaVariabili(const QString& picture, int campaign, int region);
+    // A picture that is being decoded because it will be shown first.
+    void expect(PictureAhead picture) { expected_ = std::move(picture); }
     void CenterMapOn(int x, int y);
     void DrawEverythingOnMap();
     void UpdateMapWithNewEliteSkills();
@@ -107,6 +110,7 @@ class frmMap : public QWidget {
     Surroundings with_;
     MarkerArt art_;
     SurfaceCache cache_;
+    PictureAhead expected_;
     Chains chains_;
     std::vector<InformationWindow*> windows_;
     MapViewport* viewport_;

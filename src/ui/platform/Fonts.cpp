@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetrics>
 #include <QStringList>
 
 namespace orvinel {
@@ -28,11 +29,15 @@ QFont arial(int pixels, bool bold) {
 }
 
 void bringFace(const QString& folder) {
-    if (faces().contains(QFontInfo(arial(points8_25)).family()))
-        return;
     const QDir fonts(folder);
+    if (!fonts.exists() || faces().contains(QFontInfo(arial(points8_25)).family()))
+        return;
     for (const QString& name : fonts.entryList({u"*.ttf"_s}, QDir::Files))
         QFontDatabase::addApplicationFont(fonts.filePath(name));
+}
+
+std::future<void> readFacesAhead() {
+    return std::async(std::launch::async, [] { QFontMetrics(arial(points8_25)).height(); });
 }
 
 } // namespace orvinel

@@ -2,6 +2,8 @@
 
 #include <QFont>
 
+#include <future>
+
 namespace orvinel {
 
 // Pixel sizes of the point sizes that the windows are laid out with, at 96 dots per inch.
@@ -20,5 +22,9 @@ QFont arial(int pixels, bool bold = false);
 // Where the machine has no such face, the program uses the font files (*.ttf) of this folder, if there is
 // one.
 void bringFace(const QString& folder);
+
+// Has the system's list of faces read by another thread; whoever needs a text before waits for it. Destroying
+// the result waits too. After the application object is made.
+std::future<void> readFacesAhead();
 
 } // namespace orvinel

@@ -136,14 +136,16 @@ void applyAppearance(QApplication& application) {
     QToolTip::setPalette(lightColours());
     bringFace(QCoreApplication::applicationDirPath() + u"/Fonts"_s);
     QApplication::setFont(arial(points8_25));
-    QIcon icon;
-    // Larger ones would be decoded before the first paint, for a task bar that shows none of them.
-    for (const int size : {16, 32, 48})
-        icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size));
-    QApplication::setWindowIcon(icon);
     auto* translator = new QTranslator(&application);
     if (translator->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(translator);
+}
+
+void setProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size), {size, size});
+    QApplication::setWindowIcon(icon);
 }
 
 void WindowDrag::press(QPoint global) {
