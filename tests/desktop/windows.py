@@ -1,62 +1,145 @@
 #!/usr/bin/env python3
-"""windows.py PROGRAM: the player's errands with the program for Windows, under Wine, down to the same bytes.
+"""windows.py PROGRAM: what the program asks of the window manager, under each of those that are installed.
 
-PROGRAM lies in the folder that packaging/windows/build has made. Exit code 77: Wine, the folder or a tool is missing.
+Exit code 77: a tool is missing here.
 """
 
 import os
-import pathlib
 import shutil
-import subprocess
 import sys
 
 import journeys
-import screen
-from journeys import PROGRAM, Player
-from screen import Running, pixels, until
+from journeys import Player, in_marsh, make_world
+from screen import keys, run, until, windows
 
-PREFIX = PROGRAM.parent.parent / "wine"
-
-
-def shipped(folder):
-    """The folder as players unpack it: nothing is wrong with its world, and a region of it shows."""
-    for part in PROGRAM.parent.iterdir():
-        if part.name.startswith("Campaign."):
-            (folder / part.name).symlink_to(part)
-        else:
-            (shutil.copytree if part.is_dir() else shutil.copy2)(part, folder / part.name)
-    check = subprocess.run(["wine", folder / "orvinel-check.exe", folder, "--summary"], capture_output=True, text=True)
-    assert check.returncode == 0, f"orvinel-check ends with {check.returncode}: {check.stdout}{check.stderr}"
-    journeys.options(folder, Campaign=0, Region=1)
-    with Player(folder) as player:
-        until("a region in many colours", lambda: len(set(zip(*[iter(pixels(*player.view((50, 50)), 300, 300))] * 3))) > 500)
-        player.quit()
+MANAGERS = ["openbox", "xfwm4"]
+MONITOR = 1280  # pixels wide; there are two of them
+MAXIMISE = 30  # pixels from the map's right edge
 
 
-# Wine itself could not live with a limit to the size of files.
-ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand is not journeys.cannot_write)]
+class Desktop(Player):
+    """The program with the window behind its task bar button."""
+
+    def __enter__(self):
+        super().__enter__()
+        self.button = self.window("the task bar's window", lambda w: w.width == 1)
+        return self
+
+    def shown(self):
+        """The numbers of panel and map as they are on the screen now."""
+        wide = sorted((w for w in windows(self.process.pid) if w.width > 1), key=lambda w: w.width)
+        return [w.number for w in wide]
+
+    def options(self, *way):
+        self.panel.number = self.shown()[0]
+        run("xdotool", "windowactivate", "--sync", str(self.panel.number))
+        menu = self.popup(lambda: keys("F10"))
+        keys("Right", *way, "Return")
+        self.gone(menu)
+
+
+def state(number):
+    said = run("xprop", "-id", str(number), "_NET_WM_STATE")
+    return {word.strip(" ,\n") for word in said.partition("=")[2].split("_NET_WM_STATE_")}
+
+
+def all_have(player, wanted, unwanted=()):
+    def look():
+        states = [state(number) for number in player.shown()]
+        return states and all(wanted <= s and not s & set(unwanted) for s in states)
+    until(f"windows with {wanted} and without {unwanted}", look)
+
+
+def task_bar(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Desktop(folder) as player:
+        player.ready()
+        all_have(player, {"SKIP_TASKBAR"})
+        assert "SKIP_TASKBAR" not in state(player.button.number)
+        player.options("Home")  # the legend
+        until("the legend", lambda: len(player.shown()) == 3)
+        for _ in range(2):
+            run("xdotool", "windowminimize", str(player.button.number))
+            until("nothing left on the screen", lambda: not player.shown())
+            run("xdotool", "windowactivate", str(player.button.number))
+            until("all windows back", lambda: len(player.shown()) == 3)
+            all_have(player, {"SKIP_TASKBAR"})
+
+
+def always_on_top(folder):
+    make_world(folder)
+    in_marsh(folder)
+    with Desktop(folder) as player:
+        player.ready()
+        before = player.shown()
+        player.options("Home", "Down")
+        all_have(player, {"ABOVE", "SKIP_TASKBAR"})
+        assert player.shown() == before, "a window was made anew"
+        assert int(run("xdotool", "getactivewindow")) == player.panel.number, "another window became active"
+        run("xdotool", "windowminimize", str(player.button.number))
+        until("nothing left on the screen", lambda: not player.shown())
+        run("xdotool", "windowactivate", str(player.button.number))
+        until("both windows back", lambda: len(player.shown()) == 2)
+        all_have(player, {"ABOVE", "SKIP_TASKBAR"})
+        player.options("End")
+        dialog = player.dialog("Characters")
+        until("the dialog above", lambda: {"ABOVE", "SKIP_TASKBAR"} <= state(dialog.number))
+        keys("Escape")
+        player.gone(dialog)
+        player.options("Home", "Down")
+        all_have(player, {"SKIP_TASKBAR"}, unwanted={"ABOVE"})
+
+
+def second_monitor(folder):
+    make_world(folder)
+    in_marsh(folder)
+    for name, left, output in (("left", 0, "screen"), ("right", MONITOR, "none")):
+        run("xrandr", "--setmonitor", name, f"{MONITOR}/300x900/200+{left}+0", output)
+
+    def places(player):
+        found = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
+        return [(w.x, w.y, w.width, w.height) for w in found]
+
+    with Desktop(folder) as player:
+        assert player.map.x + player.map.width <= MONITOR, "more than the first monitor is filled"
+        player.map.click(player.map.width - MAXIMISE, 10)
+        until("smaller windows", lambda: places(player)[0][0] > 0)
+        x, y, _, _ = places(player)[0]
+        run("xdotool", "mousemove", str(x + 150), str(y + 8), "mousedown", "1")
+
+        def pulled(by):
+            run("xdotool", "mousemove", str(x + 150 + by), str(y + 20))
+            return places(player)[0][0] > x
+
+        steps = iter(range(1, MONITOR))  # the window manager needs a moment to take over
+        until("the windows to follow", lambda: pulled(next(steps)))
+        pulled(MONITOR - 30)
+        run("xdotool", "mouseup", "1")
+        until("the windows on the second monitor",
+              lambda: places(player)[0][0] >= MONITOR and places(player)[1][0] == sum(places(player)[0][::2]))
+        stood = places(player)
+        keys("alt+F4")
+        assert player.end() == 0
+    with Desktop(folder) as player:
+        until(f"the windows at {stood}", lambda: places(player) == stood)
+
+
+ERRANDS = [task_bar, always_on_top, second_monitor]
 
 
 def main():
-    if not PROGRAM.exists():
-        print("skipped, not built: the program for Windows (packaging/windows/build)")
-        return 77
-    if not shutil.which("wine"):
-        print("skipped, not installed: wine")
-        return 77
-    os.environ.update(WINEPREFIX=str(PREFIX), WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=")
-    screen.LIMIT = 60  # Wine starts a whole system before the first window
-    Running.launcher = ["wine"]
-    Running.program = "orvinel.exe"
-    if "ORVINEL_JOURNEYS" not in os.environ:
+    if "ORVINEL_JOURNEYS" in os.environ:
         return journeys.main(__file__, ERRANDS)
-    subprocess.run(["wineserver", "--persistent"])
-    try:
-        if not (PREFIX / "system.reg").exists():
-            subprocess.run(["wineboot", "--init"], capture_output=True)
-        return journeys.main(__file__, ERRANDS)
-    finally:
-        subprocess.run(["wineserver", "--kill"])
+    if not shutil.which("xrandr"):
+        print("skipped, not installed: xrandr")
+        return 77
+    results = []
+    for manager in filter(shutil.which, MANAGERS):
+        print(f"under {manager}", flush=True)
+        os.environ.update(ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{2 * MONITOR}x900")
+        results.append(journeys.main(__file__, ERRANDS))
+    return next((code for code in results if code), 0)
 
 
 if __name__ == "__main__":
