@@ -19,7 +19,7 @@ struct Case {
 
     MapSurface surface() {
         QImage ground = picture.copy();
-        zones.drawGround(ground, shown);
+        zones.drawGround(ground, ground.rect(), shown);
         return MapSurface(std::move(ground), art);
     }
 

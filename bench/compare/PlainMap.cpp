@@ -35,7 +35,7 @@ std::vector<Marker> allMarkers(const ProgramState& tables, const MapShown& shown
 QImage plainMap(const QImage& picture, ZonesView& zones, const MapShown& shown,
                 const std::vector<Marker>& markers, const MarkerArt& art) {
     QImage map = picture.copy();
-    zones.drawGround(map, shown);
+    zones.drawGround(map, map.rect(), shown);
     Drawing drawing(&map);
     drawing.setFont(arial(points8, true));
     for (const Marker& marker : markers) {

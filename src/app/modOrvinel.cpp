@@ -51,7 +51,8 @@ bool Program::start() {
         ended_ = true;
         return false;
     }
-    PictureAhead remembered(files_.disk(), rememberedPicture(state_.AppPath, files_.disk()));
+    PictureAhead remembered(files_.disk(), rememberedPicture(state_.AppPath, files_.disk()),
+                            desktop_.workArea().height());
     LoadAll(state_, files_, desktop_);
     if (refuseUnknownCampaign())
         return false;

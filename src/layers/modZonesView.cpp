@@ -9,6 +9,7 @@ namespace orvinel {
 namespace {
 
 constexpr Colour nameColour = 0xCBEAFF;
+constexpr int furthest = 100; // pixels: no marker and no name reaches so far up or down from its zone
 
 void writeName(Drawing& drawing, int campaign, const Zone& zone) {
     const int width = drawing.textWidth(zone.ZoneName);
@@ -22,14 +23,17 @@ void writeName(Drawing& drawing, int campaign, const Zone& zone) {
 
 } // namespace
 
-void ZonesView::DrawZones(QImage& ground, const MapShown& shown) const {
+void ZonesView::DrawZones(QImage& ground, const QRect& part, const MapShown& shown) const {
     const Region* region = findRegion(state_, shown.campaign, shown.region);
     if (!region || shown.region <= 0)
         return;
     Drawing drawing(&ground);
+    drawing.painter().setClipRect(part);
     drawing.setFont(arial(points10, true));
     drawing.setForeground(nameColour);
     for (const Zone& zone : region->RegionZones) {
+        if (zone.Y + furthest < part.top() || zone.Y - furthest > part.bottom())
+            continue;
         if (const auto sprite = zoneSprite(shown.campaign, zone)) {
             const QPoint offset = zoneMarkerOffset(shown.campaign, zone.ZoneType);
             drawing.painter().drawImage(zone.X - offset.x(), zone.Y - offset.y(), art_.picture(*sprite));

@@ -11,10 +11,12 @@ class ZonesView : public MapLayer {
   public:
     ZonesView(const ProgramState& state, const MarkerArt& art) : state_(state), art_(art) {}
 
-    void drawGround(QImage& ground, const MapShown& shown) override { DrawZones(ground, shown); }
+    void drawGround(QImage& ground, const QRect& part, const MapShown& shown) override {
+        DrawZones(ground, part, shown);
+    }
 
   private:
-    void DrawZones(QImage& ground, const MapShown& shown) const;
+    void DrawZones(QImage& ground, const QRect& part, const MapShown& shown) const;
 
     const ProgramState& state_;
     const MarkerArt& art_;

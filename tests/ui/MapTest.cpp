@@ -228,16 +228,16 @@ TEST_F(MapTest, aPictureDecodedAheadIsShownOnceAndOnlyForItsOwnRegion) {
     const QString glacier = findRegion(state, 3, 2)->RegionPicture;
     MemoryDisk other;
     other.put(glacier, jpeg({120, 90}, QColor(10, 20, 30)));
-    map->expect(PictureAhead(other, glacier));
+    map->expect(PictureAhead(other, glacier, 60));
     showOnMap(*map, state, {3, 3, 5, 5});
     EXPECT_FALSE(map->mapLoaded());
     showOnMap(*map, state, {3, 2, 10, 10});
     ASSERT_TRUE(map->mapLoaded());
     EXPECT_EQ(QSize(120, 90), map->picMap().surface()->size());
-    PictureAhead missing(other, u"/o/none.jpg"_s);
-    EXPECT_TRUE(missing.take(u"/o/none.jpg"_s).value().isNull());
-    EXPECT_EQ(std::nullopt, missing.take(u"/o/none.jpg"_s));
-    EXPECT_EQ(std::nullopt, PictureAhead(other, {}).take({}));
+    PictureAhead missing(other, u"/o/none.jpg"_s, 60);
+    EXPECT_TRUE(missing.take(u"/o/none.jpg"_s).value().image.isNull());
+    EXPECT_FALSE(missing.take(u"/o/none.jpg"_s));
+    EXPECT_FALSE(PictureAhead(other, {}, 60).take({}));
 }
 
 } // namespace

@@ -14,13 +14,14 @@ struct PlainMapTest : LayersFixture {
                                       "1\t1\t600\t80\tHollow\tWM\t12\r\n2\t1\t108\t96\tSilas\t\t12\r\n");
     }
 
+    QImage plain(const QString& boss) {
+        const QImage picture = loadPicture(disk, findRegion(state, 3, 1)->RegionPicture);
+        return bench::plainMap(picture, *zones, map->shown(0), bench::allMarkers(state, map->shown(0), boss),
+                               map->art());
+    }
     void expectPlain(const QString& boss) {
         map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0), boss));
-        const QImage picture = loadPicture(disk, findRegion(state, 3, 1)->RegionPicture);
-        EXPECT_EQ(bench::plainMap(picture, *zones, map->shown(0),
-                                  bench::allMarkers(state, map->shown(0), boss), map->art()),
-                  map->picMap().surface()->composed())
-            << boss.toStdString();
+        EXPECT_EQ(plain(boss), map->picMap().surface()->composed()) << boss.toStdString();
     }
 };
 
@@ -30,6 +31,17 @@ TEST_F(PlainMapTest, theMapEqualsTheOneDrawnTheObviousWayPixelForPixel) {
     showFjord();
     for (const QString& boss : {u""_s, u"grim"_s, u"o"_s, u"nobody"_s})
         expectPlain(boss);
+}
+
+// Zones and markers that lie across the border of what is decoded first come out whole.
+TEST_F(PlainMapTest, aPictureDecodedInTwoStepsEndsAsOneDecodedAtOnce) {
+    start();
+    map->expect(PictureAhead(disk, findRegion(state, 3, 1)->RegionPicture, 100));
+    showFjord();
+    map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0)));
+    const QRect upper(0, 0, 800, 64);
+    EXPECT_EQ(plain({}).copy(upper), map->picMap().surface()->composed(upper).copy(upper));
+    expectPlain({});
 }
 
 } // namespace

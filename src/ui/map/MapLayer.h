@@ -4,6 +4,7 @@
 #include "world/MapView.h"
 
 #include <QImage>
+#include <QRect>
 
 #include <vector>
 
@@ -14,8 +15,9 @@ class MapLayer {
   public:
     virtual ~MapLayer() = default;
 
-    // Draws what never changes onto a region picture, once when it is loaded.
-    virtual void drawGround(QImage&, const MapShown&) {}
+    // Draws what never changes onto a part of a region picture, once when its pixels are there; the rest of
+    // the picture is left alone.
+    virtual void drawGround(QImage&, const QRect& /*part*/, const MapShown&) {}
     // Appends the markers that the layer shows now, in drawing order; nothing when the layer is switched off.
     virtual void appendMarkers(std::vector<Marker>&) {}
     // True when the layer has an item at the place; its information window is shown then.

@@ -27,14 +27,21 @@ void copyRect(QImage& to, QPoint at, const QImage& from, const QRect& area) {
 
 } // namespace
 
-MapSurface::MapSurface(QImage ground, const MarkerArt& art)
-    : art_(art), image_(std::move(ground)), columns_((image_.width() + tileSize - 1) / tileSize),
-      rows_((image_.height() + tileSize - 1) / tileSize),
+MapSurface::MapSurface(GrowingPicture picture, const MarkerArt& art, DrawGround drawGround)
+    : art_(art), drawGround_(std::move(drawGround)), picture_(std::move(picture)),
+      columns_((size().width() + tileSize - 1) / tileSize),
+      rows_((size().height() + tileSize - 1) / tileSize),
       tiles_(static_cast<size_t>(columns_) * size_t(rows_)) {
+    drawGroundOn(0);
+}
+
+void MapSurface::drawGroundOn(int fromRow) {
+    if (drawGround_)
+        drawGround_(image(), {0, fromRow, size().width(), picture_.rows - fromRow});
 }
 
 QRect MapSurface::tilesOf(const QRect& area) const {
-    const QRect inside = area.intersected(image_.rect());
+    const QRect inside = area.intersected(image().rect());
     if (inside.isEmpty())
         return {};
     return {QPoint(inside.left() / tileSize, inside.top() / tileSize),
@@ -42,7 +49,7 @@ QRect MapSurface::tilesOf(const QRect& area) const {
 }
 
 QRect MapSurface::tileRect(int column, int row) const {
-    return QRect(column * tileSize, row * tileSize, tileSize, tileSize).intersected(image_.rect());
+    return QRect(column * tileSize, row * tileSize, tileSize, tileSize).intersected(image().rect());
 }
 
 void MapSurface::setMarkers(std::vector<Marker> markers) {
@@ -76,6 +83,11 @@ void MapSurface::setMarkers(std::vector<Marker> markers) {
 
 const QImage& MapSurface::composed(const QRect& area) {
     const QRect range = tilesOf(area);
+    if (!range.isEmpty() && tileRect(0, range.bottom()).bottom() >= picture_.rows) {
+        const int known = picture_.rows;
+        picture_.finish();
+        drawGroundOn(known);
+    }
     QPainter painter;
     for (int row = range.top(); row <= range.bottom(); ++row)
         for (int column = range.left(); column <= range.right(); ++column) {
@@ -84,7 +96,7 @@ const QImage& MapSurface::composed(const QRect& area) {
                 continue;
             redraw(painter, column, row);
         }
-    return image_;
+    return image();
 }
 
 void MapSurface::redraw(QPainter& painter, int column, int row) {
@@ -92,15 +104,15 @@ void MapSurface::redraw(QPainter& painter, int column, int row) {
     Tile& tile = tiles_[index];
     const QRect area = tileRect(column, row);
     if (tile.drawn != 0) {
-        copyRect(image_, area.topLeft(), tile.clean, tile.clean.rect());
+        copyRect(image(), area.topLeft(), tile.clean, tile.clean.rect());
     } else {
-        tile.clean = QImage(area.size(), image_.format());
-        copyRect(tile.clean, {}, image_, area);
+        tile.clean = QImage(area.size(), image().format());
+        copyRect(tile.clean, {}, image(), area);
     }
     if (tile.wanted == 0)
         tile.clean = {};
     if (!painter.isActive())
-        painter.begin(&image_);
+        painter.begin(&image());
     painter.setClipRect(area);
     for (int i = starts_[index]; i < starts_[index + 1]; ++i)
         art_.draw(painter, markers_[static_cast<size_t>(order_[static_cast<size_t>(i)])]);

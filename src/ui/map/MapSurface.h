@@ -2,10 +2,12 @@
 
 #include "layers/Marker.h"
 #include "ui/map/MarkerArt.h"
+#include "ui/map/RegionPictures.h"
 
 #include <QImage>
 #include <QRect>
 
+#include <functional>
 #include <vector>
 
 namespace orvinel {
@@ -14,19 +16,23 @@ namespace orvinel {
 // and only when somebody asks for them; the picture below a tile's markers is kept with the tile.
 class MapSurface {
   public:
-    // Takes the region picture (RGB32), with its zones drawn on it. `art` outlives the surface.
-    MapSurface(QImage ground, const MarkerArt& art);
+    // Draws what never changes onto a part of the region picture.
+    using DrawGround = std::function<void(QImage& picture, const QRect& part)>;
 
-    QSize size() const { return image_.size(); }
+    // Takes the region picture (RGB32). `drawGround` is called once for each part of it, when its pixels are
+    // there; `art` and what it refers to outlive the surface.
+    MapSurface(GrowingPicture picture, const MarkerArt& art, DrawGround drawGround = {});
+
+    QSize size() const { return image().size(); }
     // Bytes held, about.
-    qint64 cost() const { return image_.sizeInBytes(); }
+    qint64 cost() const { return image().sizeInBytes(); }
 
     // In drawing order, later ones over earlier ones.
     void setMarkers(std::vector<Marker> markers);
 
     // The composition, up to date within `area` (map pixels).
     const QImage& composed(const QRect& area);
-    const QImage& composed() { return composed(image_.rect()); }
+    const QImage& composed() { return composed(image().rect()); }
 
   private:
     struct Tile {
@@ -36,12 +42,16 @@ class MapSurface {
     };
     static constexpr int tileSize = 64; // pixels
 
+    QImage& image() { return picture_.image; }
+    const QImage& image() const { return picture_.image; }
+    void drawGroundOn(int fromRow);
     QRect tilesOf(const QRect& area) const; // columns and rows
     QRect tileRect(int column, int row) const;
     void redraw(QPainter& painter, int column, int row);
 
     const MarkerArt& art_;
-    QImage image_;
+    DrawGround drawGround_;
+    GrowingPicture picture_;
     int columns_;
     int rows_;
     std::vector<Tile> tiles_;

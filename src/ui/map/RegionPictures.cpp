@@ -3,42 +3,94 @@
 #include <QBuffer>
 #include <QImageReader>
 
+#include <cstring>
+
 namespace orvinel {
 
 namespace {
 
 constexpr qint64 mostBytes = 256ll * 1024 * 1024;
 
-QImage decoded(QByteArray bytes) {
-    if (bytes.isEmpty())
-        return {};
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, QByteArrayLiteral("jpeg"));
-    // The header is checked before a byte is decoded: a small file can claim gigabytes.
+class JpegReader {
+  public:
+    explicit JpegReader(QByteArray bytes) : bytes_(std::move(bytes)) {
+        QImageReader::setAllocationLimit(static_cast<int>(mostBytes / (1024 * 1024)) + 1);
+        reader_.setAutoTransform(false);
+    }
+
+    // Empty: nothing that the program is ready to hold. The header is checked before a byte is decoded: a
+    // small file can claim gigabytes.
+    QSize size() const {
+        const QSize claimed = bytes_.isEmpty() ? QSize() : reader_.size();
+        const bool fits = qint64(claimed.width()) * claimed.height() * 4 <= mostBytes;
+        return fits && !claimed.isEmpty() ? claimed : QSize();
+    }
+    // Whether Qt decodes rows into an RGB32 image that is there already.
+    bool decodesInPlace() const { return reader_.imageFormat() == QImage::Format_RGB32; }
+
+    QImage readAll() {
+        if (size().isEmpty())
+            return {};
+        QImage picture = reader_.read();
+        if (picture.format() != QImage::Format_RGB32)
+            picture = std::move(picture).convertToFormat(QImage::Format_RGB32);
+        picture.setDevicePixelRatio(1);
+        return picture;
+    }
+    bool readRows(QRgb* at, int from, int count, int width) {
+        const qsizetype line = qsizetype(width) * qsizetype(sizeof(QRgb));
+        QImage rows(reinterpret_cast<uchar*>(at), width, count, line, QImage::Format_RGB32);
+        reader_.setClipRect({0, from, width, count});
+        if (!reader_.read(&rows) || rows.size() != QSize(width, count))
+            return false;
+        if (rows.constBits() != reinterpret_cast<const uchar*>(at))
+            std::memcpy(at, rows.convertToFormat(QImage::Format_RGB32).constBits(),
+                        size_t(line) * size_t(count));
+        return true;
+    }
+
+  private:
+    QByteArray bytes_;
+    QBuffer buffer_{&bytes_};
+    QImageReader reader_{&buffer_, QByteArrayLiteral("jpeg")};
+};
+
+GrowingPicture decodedInSteps(const QByteArray& bytes, int firstRows) {
+    JpegReader reader(bytes);
     const QSize size = reader.size();
-    if (size.isEmpty() || qint64(size.width()) * size.height() * 4 > mostBytes)
-        return {};
-    QImageReader::setAllocationLimit(static_cast<int>(mostBytes / (1024 * 1024)) + 1);
-    reader.setAutoTransform(false);
-    QImage picture = reader.read();
-    if (picture.format() != QImage::Format_RGB32)
-        picture = std::move(picture).convertToFormat(QImage::Format_RGB32);
-    picture.setDevicePixelRatio(1);
-    return picture;
+    const int lower = size.height() - firstRows;
+    if (size.isEmpty() || lower <= 0 || !reader.decodesInPlace())
+        return reader.readAll();
+    QImage picture(size, QImage::Format_RGB32);
+    QRgb* const pixels = reinterpret_cast<QRgb*>(picture.bits());
+    if (picture.isNull() || !reader.readRows(pixels, 0, firstRows, size.width()))
+        return QImage();
+    QRgb* const at = pixels + qsizetype(firstRows) * size.width();
+    auto rest = std::async(std::launch::async, [bytes, at, firstRows, lower, width = size.width()] {
+        if (!JpegReader(bytes).readRows(at, firstRows, lower, width))
+            std::memset(at, 0, size_t(lower) * size_t(width) * sizeof(QRgb));
+    });
+    return {std::move(picture), firstRows, std::move(rest)};
 }
 
 } // namespace
 
 QImage loadPicture(const Disk& disk, const QString& path) {
-    return decoded(disk.read(path).bytes);
+    return JpegReader(disk.read(path).bytes).readAll();
 }
 
-PictureAhead::PictureAhead(const Disk& disk, const QString& path) : path_(path) {
+void GrowingPicture::finish() {
+    if (rest.valid())
+        rest.get();
+    rows = image.height();
+}
+
+PictureAhead::PictureAhead(const Disk& disk, const QString& path, int firstRows) : path_(path) {
     if (!path.isEmpty())
-        picture_ = std::async(std::launch::async, decoded, disk.read(path).bytes);
+        picture_ = std::async(std::launch::async, decodedInSteps, disk.read(path).bytes, firstRows);
 }
 
-std::optional<QImage> PictureAhead::take(const QString& path) {
+std::optional<GrowingPicture> PictureAhead::take(const QString& path) {
     if (path != path_ || !picture_.valid())
         return std::nullopt;
     return picture_.get();

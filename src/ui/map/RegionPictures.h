@@ -14,20 +14,37 @@ namespace orvinel {
 // hold (256 MB decoded). Pictures of other formats count as broken. The result is RGB32.
 QImage loadPicture(const Disk& disk, const QString& path);
 
-// A picture that is decoded on another thread while the program gets ready to show it. Destroying it waits
-// for the decoding to end.
+// A picture of which another thread may still be decoding the lower rows, into the image's own memory: until
+// finish() only rows above `rows` may be read or written, and the image may not be copied to another owner.
+struct GrowingPicture {
+    // One that is there altogether.
+    GrowingPicture(QImage whole) : image(std::move(whole)), rows(image.height()) {}
+    GrowingPicture(QImage upper, int decodedRows, std::future<void> lower)
+        : image(std::move(upper)), rows(decodedRows), rest(std::move(lower)) {}
+
+    // Waits for the rest. Rows that cannot be decoded are black.
+    void finish();
+
+    QImage image; // null: broken
+    int rows = 0; // from the top, decoded
+    std::future<void> rest;
+};
+
+// A picture that is decoded on another thread while the program gets ready to show it, the upper rows first.
+// Destroying it waits for the decoding to end.
 class PictureAhead {
   public:
     PictureAhead() = default;
-    // Reads the file at once; an empty path: no picture.
-    PictureAhead(const Disk& disk, const QString& path);
+    // Reads the file at once; an empty path: no picture. `firstRows`: so many, at least, are going to be seen
+    // first.
+    PictureAhead(const Disk& disk, const QString& path, int firstRows);
 
-    // What loadPicture gives, when `path` is the picture decoded here; the picture is given away.
-    std::optional<QImage> take(const QString& path);
+    // Waits for the upper rows, when `path` is the picture decoded here; the picture is given away.
+    std::optional<GrowingPicture> take(const QString& path);
 
   private:
     QString path_;
-    std::future<QImage> picture_;
+    std::future<GrowingPicture> picture_;
 };
 
 } // namespace orvinel

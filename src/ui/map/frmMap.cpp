@@ -117,13 +117,15 @@ void frmMap::sayWhatIsShown() {
 std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campaign, int region) {
     if (auto cached = cache_.take(picture))
         return cached;
-    std::optional<QImage> expected = expected_.take(picture);
-    QImage ground = expected ? std::move(*expected) : loadPicture(with_.disk, picture);
-    if (ground.isNull())
+    std::optional<GrowingPicture> expected = expected_.take(picture);
+    GrowingPicture ground = expected ? std::move(*expected) : loadPicture(with_.disk, picture);
+    if (ground.image.isNull())
         return nullptr;
-    for (MapLayer* layer : chains_.drawing)
-        layer->drawGround(ground, {campaign, region, 0});
-    return std::make_unique<MapSurface>(std::move(ground), art_);
+    const auto drawGround = [this, shown = MapShown{campaign, region, 0}](QImage& image, const QRect& part) {
+        for (MapLayer* layer : chains_.drawing)
+            layer->drawGround(image, part, shown);
+    };
+    return std::make_unique<MapSurface>(std::move(ground), art_, drawGround);
 }
 
 void frmMap::showEmptyMap() {
