@@ -177,9 +177,10 @@ ReadResult FileDisk::read(const QString& path) const {
     if (info.size() > largestDataFile)
         return {ReadResult::Outcome::Failed, {}, u"larger than 64 MB"_s};
     QFile file(info.filePath());
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {ReadResult::Outcome::Failed, {}, file.errorString()};
-    QByteArray bytes = file.read(largestDataFile);
+    // Not more than asked for is set aside: the memory for the largest file would be fetched anew each time.
+    QByteArray bytes = file.read(std::min(file.size(), largestDataFile));
     if (file.error() != QFileDevice::NoError)
         return {ReadResult::Outcome::Failed, {}, file.errorString()};
     return {ReadResult::Outcome::Read, std::move(bytes), {}};
