@@ -2,6 +2,7 @@
 #include "ui/panel/WindowKeys.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QSignalSpy>
 
 namespace orvinel {
@@ -57,6 +58,22 @@ TEST_F(KeyboardTest, everyStopShowsThatItHasTheFocus) {
         stop->setFocus(Qt::TabFocusReason);
         EXPECT_NE(without, stop->grab().toImage()) << name;
     }
+}
+
+TEST_F(KeyboardTest, theMapsMarginTellsOfItsFocus) {
+    showFjord();
+    const auto corners = [this] {
+        const QImage seen = map->grab().toImage();
+        return std::pair(seen.pixelColor(1, 1), seen.pixelColor(seen.width() - 1, seen.height() - 1));
+    };
+    const QColor mark = map->palette().color(QPalette::Highlight);
+    const auto unmarked = corners();
+    map->picMap().setFocus();
+    QApplication::setActiveWindow(map.get());
+    EXPECT_EQ(std::pair(mark, mark), corners());
+    QApplication::setActiveWindow(panel.get());
+    EXPECT_EQ(unmarked, corners());
+    EXPECT_NE(mark, unmarked.first);
 }
 
 TEST_F(KeyboardTest, arrowsGoThroughTheTabsAndRoundTheirEnds) {

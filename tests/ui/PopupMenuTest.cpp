@@ -162,6 +162,20 @@ TEST_F(PopupMenuTest, closesAtAClickElsewhereAndAtEscape) {
     EXPECT_THAT(chosen, IsEmpty());
 }
 
+TEST_F(PopupMenuTest, aPressOnAnotherWordOpensThatMenu) {
+    MenuCaption other(u"lblMenu(2)"_s, &panel);
+    other.move(98, 18);
+    other.setCaption(u"Help"_s);
+    other.show();
+    QObject::connect(&other, &Label::clicked, &menu, [&] { menu.OpenMenu(2, other); });
+    menu.OpenMenu(1, label);
+    QTest::mousePress(&menu, Qt::LeftButton, {}, menu.mapFromGlobal(other.mapToGlobal(QPoint(3, 3))));
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(u"T93"_s, caption(0)->text());
+    QTest::mousePress(&menu, Qt::LeftButton, {}, menu.mapFromGlobal(other.mapToGlobal(QPoint(3, 3))));
+    EXPECT_FALSE(menu.isVisible()) << "a press on its own word closes it";
+}
+
 TEST_F(PopupMenuTest, isUsableByKeysAlone) {
     menu.OpenMenu(1, label);
     key(Qt::Key_Down);

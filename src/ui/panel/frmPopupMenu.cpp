@@ -7,6 +7,7 @@
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -334,10 +335,17 @@ void frmPopupMenu::mouseMoveEvent(QMouseEvent*) {
 }
 
 void frmPopupMenu::mousePressEvent(QMouseEvent* event) {
-    // A press on the open label closes the menu; handed on, it would open it again.
-    const bool onLabel = labelPlace_.contains(event->globalPosition().toPoint());
-    setAttribute(Qt::WA_NoMouseReplay, onLabel);
+    // A press on the open label closes the menu; handed on, it would open it again. On another one it opens
+    // that menu at once: not every system hands on a press that closes a popup.
+    const QPoint at = event->globalPosition().toPoint();
+    const bool onLabel = labelPlace_.contains(at);
+    auto* word = onLabel || frameGeometry().contains(at)
+                     ? nullptr
+                     : qobject_cast<MenuCaption*>(QApplication::widgetAt(at));
+    setAttribute(Qt::WA_NoMouseReplay, onLabel || word);
     QWidget::mousePressEvent(event);
+    if (word)
+        emit word->clicked();
 }
 
 void frmPopupMenu::hideEvent(QHideEvent* event) {
