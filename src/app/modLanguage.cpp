@@ -35,6 +35,16 @@ QString builtIn(OwnText number) {
         return u"Minimise"_s;
     case OwnText::Maximise:
         return u"Fill the screen or make smaller"_s;
+    case OwnText::Upkeep:
+        return u"Upkeep"_s;
+    case OwnText::Adrenaline:
+        return u"Adrenaline"_s;
+    case OwnText::Energy:
+        return u"Energy"_s;
+    case OwnText::Recharge:
+        return u"Recharge"_s;
+    case OwnText::CastTime:
+        return u"Casting time"_s;
     }
     return {};
 }

@@ -32,7 +32,12 @@ enum class OwnText {
     FolderReadOnly = 209, // %1 reason
     Quit = 210,           // the map window's buttons, for screen readers
     Minimise = 211,
-    Maximise = 212
+    Maximise = 212,
+    Upkeep = 213, // what the numbers beside the skill's icons are, for screen readers
+    Adrenaline = 214,
+    Energy = 215,
+    Recharge = 216,
+    CastTime = 217
 };
 QString ownText(const ProgramState& state, OwnText number);
 

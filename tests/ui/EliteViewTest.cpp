@@ -2,6 +2,8 @@
 
 #include "ui/platform/Fonts.h"
 
+#include <QAccessible>
+
 namespace orvinel {
 namespace {
 
@@ -130,6 +132,8 @@ TEST_F(EliteViewTest, theWindowTellsAllAboutTheSkillTheBossAndItsItems) {
         EXPECT_EQ(text, shownText(name)) << name;
     EXPECT_TRUE(label("imgExtUpKeep").isHidden());
     EXPECT_FALSE(label("imgExtEnergy").isHidden());
+    const QString spoken = QAccessible::queryAccessibleInterface(&window())->text(QAccessible::Name);
+    EXPECT_TRUE(spoken.contains(u"Energy\n5\n"_s) && !spoken.contains(u"Upkeep"_s)) << spoken.toStdString();
     hover(chorister);
     EXPECT_EQ(u"-1"_s, shownText("lblExtUpKeep"));
     EXPECT_EQ(u"(hidden)"_s, shownText("lblExtEnergy"));

@@ -1,5 +1,6 @@
 #include "ui/map/EliteWindow.h"
 
+#include "app/modLanguage.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 
@@ -67,11 +68,11 @@ EliteWindow::EliteWindow(const ProgramState& state, frmMap& map)
       type_(makeRow("Type", state.text(10), rowTop)),
       attribute_(makeRow("Attribute", state.text(53), rowTop + rowStep)),
       campaign_(makeRow("Campaign", state.text(2), rowTop + 2 * rowStep)),
-      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep")),
-      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline")),
-      energy_(makeCost("imgExtEnergy", "lblExtEnergy")),
-      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime")),
-      cast_(makeCost("imgExtCast", "lblExtCastTime")),
+      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep", ownText(state, OwnText::Upkeep))),
+      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline", ownText(state, OwnText::Adrenaline))),
+      energy_(makeCost("imgExtEnergy", "lblExtEnergy", ownText(state, OwnText::Energy))),
+      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime", ownText(state, OwnText::Recharge))),
+      cast_(makeCost("imgExtCast", "lblExtCastTime", ownText(state, OwnText::CastTime))),
       lblExtDescription_(informationLabel(u"lblExtDescription"_s, arial(points8_25), white, *this)),
       boss_(makeRow("Boss", state.text(33), 0)), zone_(makeRow("Zone", state.text(41), 0)),
       lblExtCaptionNote_(informationLabel(u"lblExtCaptionNote"_s, arial(points8_25), captionColour, *this)),
@@ -101,10 +102,11 @@ EliteWindow::Row EliteWindow::makeRow(const char* name, const QString& caption, 
     return row;
 }
 
-EliteWindow::Cost EliteWindow::makeCost(const char* icon, const char* value) {
+EliteWindow::Cost EliteWindow::makeCost(const char* icon, const char* value, const QString& spoken) {
     const QString file = QLatin1String(icon);
     const Cost cost{informationPicture(file, {besidePicture, costTop, iconSize, iconSize}, *this),
                     informationLabel(QLatin1String(value), arial(points8), white, *this)};
+    cost.icon->setAccessibleName(spoken);
     setPicture(*cost.icon, QImage(u":/windows/%1.png"_s.arg(file)));
     return cost;
 }

@@ -36,7 +36,7 @@ class EliteWindow : public InformationWindow {
         Label* stats;
     };
     Row makeRow(const char* name, const QString& caption, int top);
-    Cost makeCost(const char* icon, const char* value);
+    Cost makeCost(const char* icon, const char* value, const QString& spoken);
     void hideOnClicks(frmMap& map);
     void fillSkill(const EliteTooltip& tip, const QImage& picture);
     void fillCost(const Cost& cost, const std::optional<QString>& text, bool seen, int x);

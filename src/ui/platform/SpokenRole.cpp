@@ -12,13 +12,16 @@ namespace {
 
 constexpr const char* property = "spokenRole";
 
-// What the labels in a widget say at the moment.
+// What the labels in a widget say at the moment, pictures by their names.
 QString shownTexts(const QWidget& widget) {
     QStringList texts;
     for (const QObject* part : widget.children()) {
         const auto* label = qobject_cast<const QLabel*>(part);
-        if (label && !label->isHidden() && !label->text().isEmpty())
-            texts << label->text();
+        if (!label || label->isHidden())
+            continue;
+        const QString said = label->text().isEmpty() ? label->accessibleName() : label->text();
+        if (!said.isEmpty())
+            texts << said;
     }
     return texts.join(u'\n');
 }
