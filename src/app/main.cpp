@@ -12,9 +12,9 @@ int main(int, char** argv) {
     int argc = 1;
     orvinel::chooseWindowSystem();
     QApplication::setQuitOnLastWindowClosed(false);
+    const std::future<void> faces = orvinel::readFacesAhead();
     QApplication application(argc, argv);
     orvinel::applyAppearance(application);
-    const std::future<void> faces = orvinel::readFacesAhead();
 
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
     const orvinel::SingleInstance instance(folder);
@@ -25,6 +25,5 @@ int main(int, char** argv) {
     orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
     if (!program.Main())
         return 1;
-    orvinel::setProgramIcon();
     return QApplication::exec();
 }

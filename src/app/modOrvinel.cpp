@@ -6,12 +6,16 @@
 #include "app/modLanguage.h"
 
 #include <QScopeGuard>
+#include <QTimer>
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+// What can wait begins so long after the first paint: the screen needs the processor to show it.
+constexpr int screenFirstMs = 100;
 
 // The picture of the region that the panel is going to choose from the options; empty: none. Looked up before
 // the tables are loaded, since decoding it takes about as long as everything else that a start does.
@@ -52,7 +56,7 @@ bool Program::start() {
         return false;
     }
     PictureAhead remembered(files_.disk(), rememberedPicture(state_.AppPath, files_.disk()),
-                            desktop_.workArea().height());
+                            MapSurface::rowsNeededFor(desktop_.workArea().height()));
     LoadAll(state_, files_, desktop_);
     if (refuseUnknownCampaign())
         return false;
@@ -61,6 +65,7 @@ bool Program::start() {
     map_->InizializzaVariabili({}, -1, -1);
     panel_->Form_Load();
     showWindows();
+    QTimer::singleShot(screenFirstMs, map_, &frmMap::beginRest);
     return true;
 }
 

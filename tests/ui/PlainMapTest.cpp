@@ -36,7 +36,7 @@ TEST_F(PlainMapTest, theMapEqualsTheOneDrawnTheObviousWayPixelForPixel) {
 // Zones and markers that lie across the border of what is decoded first come out whole.
 TEST_F(PlainMapTest, aPictureDecodedInTwoStepsEndsAsOneDecodedAtOnce) {
     start();
-    map->expect(PictureAhead(disk, findRegion(state, 3, 1)->RegionPicture, 100));
+    map->expect(PictureAhead(disk, findRegion(state, 3, 1)->RegionPicture, MapSurface::rowsNeededFor(64)));
     showFjord();
     map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0)));
     const QRect upper(0, 0, 800, 64);

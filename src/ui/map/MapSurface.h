@@ -23,9 +23,15 @@ class MapSurface {
     // there; `art` and what it refers to outlive the surface.
     MapSurface(GrowingPicture picture, const MarkerArt& art, DrawGround drawGround = {});
 
+    // The rows of a picture that have to be there before `rows` of them, from the top, can be composed.
+    static int rowsNeededFor(int rows) { return (rows + tileSize - 1) / tileSize * tileSize; }
+
     QSize size() const { return image().size(); }
     // Bytes held, about.
     qint64 cost() const { return image().sizeInBytes(); }
+
+    // Begins to get what of the picture is missing yet; who needs it before waits for it.
+    void beginRest() { picture_.beginRest(); }
 
     // In drawing order, later ones over earlier ones.
     void setMarkers(std::vector<Marker> markers);

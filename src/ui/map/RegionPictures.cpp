@@ -4,6 +4,7 @@
 #include <QImageReader>
 
 #include <cstring>
+#include <utility>
 
 namespace orvinel {
 
@@ -66,11 +67,10 @@ GrowingPicture decodedInSteps(const QByteArray& bytes, int firstRows) {
     if (picture.isNull() || !reader.readRows(pixels, 0, firstRows, size.width()))
         return QImage();
     QRgb* const at = pixels + qsizetype(firstRows) * size.width();
-    auto rest = std::async(std::launch::async, [bytes, at, firstRows, lower, width = size.width()] {
-        if (!JpegReader(bytes).readRows(at, firstRows, lower, width))
-            std::memset(at, 0, size_t(lower) * size_t(width) * sizeof(QRgb));
-    });
-    return {std::move(picture), firstRows, std::move(rest)};
+    return {std::move(picture), firstRows, [bytes, at, firstRows, lower, width = size.width()] {
+                if (!JpegReader(bytes).readRows(at, firstRows, lower, width))
+                    std::memset(at, 0, size_t(lower) * size_t(width) * sizeof(QRgb));
+            }};
 }
 
 } // namespace
@@ -79,7 +79,13 @@ QImage loadPicture(const Disk& disk, const QString& path) {
     return JpegReader(disk.read(path).bytes).readAll();
 }
 
+void GrowingPicture::beginRest() {
+    if (decodeRest)
+        rest = std::async(std::launch::async, std::exchange(decodeRest, nullptr));
+}
+
 void GrowingPicture::finish() {
+    beginRest();
     if (rest.valid())
         rest.get();
     rows = image.height();

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QString>
 
+#include <functional>
 #include <future>
 #include <optional>
 
@@ -14,19 +15,24 @@ namespace orvinel {
 // hold (256 MB decoded). Pictures of other formats count as broken. The result is RGB32.
 QImage loadPicture(const Disk& disk, const QString& path);
 
-// A picture of which another thread may still be decoding the lower rows, into the image's own memory: until
-// finish() only rows above `rows` may be read or written, and the image may not be copied to another owner.
+// A picture whose lower rows may be missing yet; another thread decodes them into the image's own memory.
+// Until finish() only rows above `rows` may be read or written, and the image may not be copied to another
+// owner.
 struct GrowingPicture {
     // One that is there altogether.
     GrowingPicture(QImage whole) : image(std::move(whole)), rows(image.height()) {}
-    GrowingPicture(QImage upper, int decodedRows, std::future<void> lower)
-        : image(std::move(upper)), rows(decodedRows), rest(std::move(lower)) {}
+    // `lower` decodes the rest.
+    GrowingPicture(QImage upper, int decodedRows, std::function<void()> lower)
+        : image(std::move(upper)), rows(decodedRows), decodeRest(std::move(lower)) {}
 
+    // Begins with the rest, on another thread, when there is one that nobody began with.
+    void beginRest();
     // Waits for the rest. Rows that cannot be decoded are black.
     void finish();
 
     QImage image; // null: broken
     int rows = 0; // from the top, decoded
+    std::function<void()> decodeRest;
     std::future<void> rest;
 };
 

@@ -128,6 +128,11 @@ std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campa
     return std::make_unique<MapSurface>(std::move(ground), art_, drawGround);
 }
 
+void frmMap::beginRest() {
+    if (surface_)
+        surface_->beginRest();
+}
+
 void frmMap::showEmptyMap() {
     // Before the first layout nobody can see it.
     if (isVisible())

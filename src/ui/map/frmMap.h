@@ -67,6 +67,8 @@ class frmMap : public QWidget {
     void InizializzaVariabili(const QString& picture, int campaign, int region);
     // A picture that is being decoded because it will be shown first.
     void expect(PictureAhead picture) { expected_ = std::move(picture); }
+    // To be called when what is seen first has been painted: the rest of an expected picture follows.
+    void beginRest();
     void CenterMapOn(int x, int y);
     void DrawEverythingOnMap();
     void UpdateMapWithNewEliteSkills();

@@ -3,8 +3,11 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFontMetrics>
 #include <QStringList>
+
+#ifdef ORVINEL_X11
+#include <fontconfig/fontconfig.h>
+#endif
 
 namespace orvinel {
 
@@ -37,7 +40,11 @@ void bringFace(const QString& folder) {
 }
 
 std::future<void> readFacesAhead() {
-    return std::async(std::launch::async, [] { QFontMetrics(arial(points8_25)).height(); });
+#ifdef ORVINEL_X11
+    return std::async(std::launch::async, [] { FcInit(); });
+#else
+    return {};
+#endif
 }
 
 } // namespace orvinel

@@ -24,7 +24,7 @@ QFont arial(int pixels, bool bold = false);
 void bringFace(const QString& folder);
 
 // Has the system's list of faces read by another thread; whoever needs a text before waits for it. Destroying
-// the result waits too. After the application object is made.
+// the result waits too. Before the application object is made, so that both take place at once.
 std::future<void> readFacesAhead();
 
 } // namespace orvinel

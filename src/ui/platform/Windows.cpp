@@ -11,6 +11,7 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTimer>
 #include <QToolTip>
 #include <QTranslator>
 #include <QWindow>
@@ -78,6 +79,16 @@ class ProgramStyle : public QProxyStyle {
     }
 };
 
+// Decoding the icon's pictures takes longer than the windows' first paint, which goes first.
+constexpr int iconDelayMs = 150;
+
+void setProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size), {size, size});
+    QApplication::setWindowIcon(icon);
+}
+
 QPalette lightColours() {
     QPalette colours(QColor(0xF0, 0xF0, 0xF0));
     colours.setColor(QPalette::Window, QColor(0xF0, 0xF0, 0xF0));
@@ -136,16 +147,10 @@ void applyAppearance(QApplication& application) {
     QToolTip::setPalette(lightColours());
     bringFace(QCoreApplication::applicationDirPath() + u"/Fonts"_s);
     QApplication::setFont(arial(points8_25));
+    QTimer::singleShot(iconDelayMs, &application, setProgramIcon);
     auto* translator = new QTranslator(&application);
     if (translator->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(translator);
-}
-
-void setProgramIcon() {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128})
-        icon.addFile(u":/icon/orvinel-%1.png"_s.arg(size), {size, size});
-    QApplication::setWindowIcon(icon);
 }
 
 void WindowDrag::press(QPoint global) {

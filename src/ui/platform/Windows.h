@@ -17,11 +17,9 @@ QCursor programCursor(int number);
 // so it is preferred to Wayland.
 void chooseWindowSystem();
 
-// Light colours and the same widgets on every desktop, texts of the boxes in the player's language.
+// Light colours and the same widgets on every desktop, texts of the boxes in the player's language;
+// the program icon a moment later, since decoding its pictures takes longer than the windows' first paint.
 void applyAppearance(QApplication& application);
-
-// The icon of all windows. After they are shown: decoding its pictures takes longer than their first paint.
-void setProgramIcon();
 
 // Moves a window without a title bar while the left button is held on its background: by the window manager
 // where there is one, else by following the mouse. One per window; it calls for nothing but the window's
