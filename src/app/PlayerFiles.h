@@ -36,6 +36,11 @@ class PlayerFiles {
 
     Disk& disk() const { return disk_; }
 
+    // Where the loaders read: the disk itself unless something else was set. `source` gives the disk's bytes
+    // or fails; nullptr ends it.
+    const Disk& source() const { return source_ ? *source_ : disk_; }
+    void readThrough(const Disk* source) { source_ = source; }
+
     // To be called by a loader when it has read `path` to its end.
     void loaded(const QString& path, const TextFile& file);
 
@@ -59,6 +64,7 @@ class PlayerFiles {
     DiskError keepCopy(const QString& path, const QByteArray& bytes);
 
     Disk& disk_;
+    const Disk* source_ = nullptr;
     QHash<QString, Known> known_;
 };
 

@@ -6,8 +6,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A field takes far more memory than its TAB: no line of the program needs a tenth of these.
-constexpr size_t mostFields = 255;
+// A field takes far more memory than its TAB: no line of the program needs half of these.
+constexpr size_t mostFields = 40;
 
 } // namespace
 
@@ -30,6 +30,15 @@ qsizetype TextFile::lineEnd() {
 }
 
 bool TextFile::nextLine() {
+    while (cutLine()) {
+        if (line_.size() <= longestLine)
+            return true;
+        skip({}, u"longer than %1 characters"_s.arg(longestLine));
+    }
+    return false;
+}
+
+bool TextFile::cutLine() {
     if (next_ >= text_.size())
         return false;
     const qsizetype end = lineEnd();

@@ -10,6 +10,10 @@
 
 namespace orvinel {
 
+// Characters of a line; longer ones are skipped. No text of a player comes near it, and the windows could not
+// show it.
+inline constexpr qsizetype longestLine = 100'000;
+
 // A data file read whole and walked line by line. Lines end with CR LF, LF or CR; the last one needs no end.
 // A missing, empty, unreadable or oversized file has no lines.
 class TextFile {
@@ -52,6 +56,7 @@ class TextFile {
 
   private:
     qsizetype lineEnd();
+    bool cutLine();
     std::optional<int> accept(std::optional<int> value, size_t position, const char* name);
 
     QString path_;

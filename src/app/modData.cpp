@@ -1,8 +1,13 @@
 #include "app/modData.h"
 
+#include "app/About.h"
 #include "app/ProgramState.h"
+#include "app/RationedDisk.h"
+#include "app/modLanguage.h"
 #include "progress/CapturedSkills.h"
 #include "progress/OpenedTreasures.h"
+
+#include <QScopeGuard>
 
 namespace orvinel {
 
@@ -17,11 +22,14 @@ constexpr int updaterPauseMs = 1000;
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
     MoveToPersonalFolder(state, files.disk());
     InstallPendingUpdater(state, files.disk(), desktop);
-    loadTables(state, files);
+    if (!loadTables(state, files))
+        desktop.message(MessageIcon::Critical, programName(), ownText(state, OwnText::TooMuchData));
 }
 
-void loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
-    const Disk& disk = files.disk();
+bool loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+    const RationedDisk disk(files.disk(), largestDataSum);
+    files.readThrough(&disk);
+    const auto unlimited = qScopeGuard([&files] { files.readThrough(nullptr); });
     state.TabColors = {0x5DDBFF, 0xDA9C76, 0xC4E0AF, 0xB0B0B0, 0x3C7BCC, 0, 0, 0, 0xB0B0B0};
     LoadCharacters(state, files, complaints);
     LoadCampaigns(state, disk, complaints);
@@ -39,6 +47,7 @@ void loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints)
     LoadPets(state, disk, complaints);
     LoadPetLocations(state, disk, complaints);
     LoadOptions(state, files);
+    return !disk.exhausted();
 }
 
 void MoveToPersonalFolder(const ProgramState& state, Disk& disk) {

@@ -10,10 +10,16 @@ struct ProgramState;
 
 // Reads everything below AppPath into the tables, in the one order in which later loaders find what they
 // need. Moves files of older versions into Personal and swaps in a pending updater first.
+// When the folder holds more than largestDataSum, the player is told.
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop);
 
-// Only the reading part of LoadAll: changes nothing on the disk.
-void loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints = nullptr);
+// Bytes that all tables are read from, hundreds of times what a world takes: a byte of text can take thirty
+// in memory, and the program is to stay below 1 GB with whatever folder.
+inline constexpr qint64 largestDataSum = 24ll * 1024 * 1024;
+
+// Only the reading part of LoadAll: changes nothing on the disk. False when files were left out because all
+// of them together are larger than largestDataSum.
+bool loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints = nullptr);
 
 // First start: brings the characters and captured skills from Data into a new Personal folder. A start that
 // was cut off in the middle is repeated the next time. File errors are ignored.

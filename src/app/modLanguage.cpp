@@ -45,6 +45,8 @@ QString builtIn(OwnText number) {
         return u"Recharge"_s;
     case OwnText::CastTime:
         return u"Casting time"_s;
+    case OwnText::TooMuchData:
+        return u"The data files are larger than the program can hold. Some of them were left out."_s;
     }
     return {};
 }

@@ -37,7 +37,8 @@ enum class OwnText {
     Adrenaline = 214,
     Energy = 215,
     Recharge = 216,
-    CastTime = 217
+    CastTime = 217,
+    TooMuchData = 218
 };
 QString ownText(const ProgramState& state, OwnText number);
 

@@ -80,7 +80,7 @@ QString optionsPath(const ProgramState& state) {
 
 void LoadOptions(ProgramState& state, PlayerFiles& files) {
     state.AppOptions = {};
-    TextFile file(files.disk(), optionsPath(state));
+    TextFile file(files.source(), optionsPath(state));
     while (file.nextLine()) {
         const QStringView line = file.line().trimmed();
         const qsizetype equals = line.indexOf(u'=');

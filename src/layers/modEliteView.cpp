@@ -83,7 +83,7 @@ EliteTooltip EliteView::FillEliteTooltip(EliteHit hit) {
     const bool skillListed =
         panel_.layerShown(0) && std::find(listed.begin(), listed.end(), hit.id) != listed.end();
     const EliteTooltip tip = eliteTooltip(state_, hit, map_.shown(0), skillListed, panel_.layerShown(2));
-    window_->fill(tip, tip.skillShown ? loadPicture(disk_, tip.picture) : QImage());
+    window_->fill(tip, tip.skillShown ? loadPicture(disk_, tip.picture, largestIcon) : QImage());
     return tip;
 }
 

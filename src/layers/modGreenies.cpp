@@ -14,7 +14,7 @@ namespace {
 
 constexpr int barHeight = 3;
 // Every location of a boss lists its items: without a bound two long files would multiply each other.
-constexpr size_t mostItemsOfBoss = 255;
+constexpr size_t mostItemsOfBoss = 32;
 
 void readGreens(ProgramState& state, TextFile& file) {
     while (file.nextLine()) {

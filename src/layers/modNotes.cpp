@@ -52,17 +52,19 @@ void sortNotes(ProgramState& state) {
         ++position;
 }
 
+QString lineOf(const Note& note) {
+    QString body = note.Body;
+    QString line = note.ShortDesc + u'\t' + body.replace(lineBreak, writtenLineBreak);
+    for (const int number : {note.At.X, note.At.Y, note.At.Campaign, note.At.Region})
+        line += u'\t' + QString::number(number);
+    return line;
+}
+
 QString textOf(const List1<Note>& notes) {
     QString text;
-    for (const Note& note : notes) {
-        if (note.ShortDesc.isEmpty())
-            continue;
-        QString body = note.Body;
-        text += note.ShortDesc + u'\t' + body.replace(lineBreak, writtenLineBreak);
-        for (const int number : {note.At.X, note.At.Y, note.At.Campaign, note.At.Region})
-            text += u'\t' + QString::number(number);
-        text += lineBreak;
-    }
+    for (const Note& note : notes)
+        if (!note.ShortDesc.isEmpty())
+            text += lineOf(note) + lineBreak;
     return text;
 }
 
@@ -120,7 +122,7 @@ void Note::setTexts(const QString& title, const QString& body) {
 
 void LoadNotes(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
     state.Notes.clear();
-    TextFile file(files.disk(), notesPath(state), complaints);
+    TextFile file(files.source(), notesPath(state), complaints);
     while (file.nextLine())
         readLine(state, file);
     files.loaded(notesPath(state), file);
@@ -185,6 +187,8 @@ SaveResult storeNote(ProgramState& state, PlayerFiles& files, NoteEdit& edit, bo
     note.setTexts(oneLine(edit.title).trimmed(), storedBody(edit.body));
     note.At.Campaign = edit.campaign;
     note.At.Region = edit.region;
+    if (lineOf(note).size() > longestLine)
+        return {SaveResult::Outcome::Failed, notesPath(state).section(u'/', -1), u"the note is too long"_s};
     SaveResult result = replaceNotes(state, files, std::move(notes), evenIfChanged);
     if (result.saved())
         edit.index = index;

@@ -96,7 +96,7 @@ void PetsView::ShowPetTooltip(const HitArea& item) {
 
 // A pet without a picture leaves an empty line as wide as its name.
 void PetsView::showPicture(const Pet& pet) {
-    QImage picture = loadPicture(disk_, pet.Picture);
+    QImage picture = loadPicture(disk_, pet.Picture, largestIcon);
     if (picture.width() > largestPicture.width() || picture.height() > largestPicture.height())
         picture = picture.scaled(largestPicture, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     imgPetImage_->setPixmap(QPixmap::fromImage(picture));

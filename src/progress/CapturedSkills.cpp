@@ -15,7 +15,7 @@ namespace {
 
 void loadCaptures(ProgramState& state, PlayerFiles& files, int character, Complaints* complaints) {
     const QString path = capturedPath(state, character);
-    TextFile file(files.disk(), path, complaints);
+    TextFile file(files.source(), path, complaints);
     while (file.nextLine()) {
         if (!file.split(1) || file.line().trimmed().isEmpty())
             continue;

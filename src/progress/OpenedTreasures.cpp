@@ -101,7 +101,7 @@ void LoadOpenedTreasures(ProgramState& state, PlayerFiles& files, Complaints* co
     state.ChestsBeyondTable.clear();
     for (int c = 1; c <= state.Characters.highest(); ++c) {
         const QString path = openedTreasuresPath(state, c);
-        TextFile file(files.disk(), path, complaints);
+        TextFile file(files.source(), path, complaints);
         while (file.nextLine())
             readLine(state, c, file);
         files.loaded(path, file);

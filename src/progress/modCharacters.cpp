@@ -9,7 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 void LoadCharacters(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
     state.Characters.reset();
-    TextFile file(files.disk(), charactersPath(state), complaints);
+    TextFile file(files.source(), charactersPath(state), complaints);
     while (file.nextLine()) {
         if (!file.split(2))
             continue;

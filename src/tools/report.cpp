@@ -39,7 +39,10 @@ int main(int argc, char** argv) {
         return exitUnusable;
     }
     PlayerFiles files(disk);
-    loadTables(state, files);
+    if (!loadTables(state, files)) {
+        printError(u"orvinel-report: %1: the data files are too large\n"_s.arg(words[0]));
+        return exitUnusable;
+    }
     print(writer(completionRows(state)));
     return exitGood;
 }

@@ -3,6 +3,7 @@
 #include "app/modLanguage.h"
 #include "fuzz/HostileWorld.h"
 #include "support/MemoryDisk.h"
+#include "support/RecordingDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -88,6 +89,47 @@ TEST(HostileData, listsEndWhereNoWorldNeedsThem) {
     EXPECT_EQ(1, state.GreenItems.count());
     ASSERT_TRUE(SaveNotes(state, files).saved());
     EXPECT_TRUE(disk.exists(QStringLiteral("/o/Personal/Notes.txt.bak"))); // the notes that found no room
+}
+
+TEST(HostileData, longLinesArePassedOverAndNoNoteGrowsThatLong) {
+    MemoryDisk disk;
+    const QByteArray texts(longestLine, 'x');
+    disk.put(QStringLiteral("/o/Personal/Notes.txt"), "a\t" + texts + "\t0\t0\t0\t0\nb\t\t0\t0\t0\t0\n");
+    ProgramState state;
+    state.AppPath = QStringLiteral("/o/");
+    PlayerFiles files(disk);
+    loadTables(state, files);
+    ASSERT_EQ(1, state.Notes.count());
+    NoteEdit edit{1, QStringLiteral("b"), QString(longestLine, u'\n'), 0, 0, 0, 0};
+    EXPECT_EQ(QStringLiteral("the note is too long"), storeNote(state, files, edit).reason);
+    edit.body = QStringLiteral("short");
+    ASSERT_TRUE(storeNote(state, files, edit).saved());
+    EXPECT_TRUE(disk.exists(QStringLiteral("/o/Personal/Notes.txt.bak"))); // the long one
+}
+
+TEST(HostileData, manyLargeFilesAreLeftOutTogetherAndToldOnce) {
+    MemoryDisk disk;
+    const QByteArray comments = QByteArray(";").repeated(99'999) + '\n';
+    for (const char* name :
+         {"Campaign.01.A/Zones.txt", "Campaign.01.A/Greens.txt", "Campaign.02.B/Greens.txt"})
+        disk.put(QStringLiteral("/o/") + QString::fromLatin1(name), comments.repeated(100));
+    const QString notes = QStringLiteral("/o/Personal/Notes.txt");
+    disk.put(notes, "a\tdeep\t1\t1\t1\t1\n" + comments.repeated(100));
+    disk.put(QStringLiteral("/o/Personal/Characters.txt"), "01\tAda\r\n");
+    const QByteArray before = disk.content(notes);
+    ProgramState state;
+    state.AppPath = QStringLiteral("/o/");
+    PlayerFiles files(disk);
+    RecordingDesktop desktop;
+    LoadAll(state, files, desktop);
+    EXPECT_EQ(1, desktop.log.size());
+    EXPECT_TRUE(desktop.log[0].contains(QStringLiteral("larger than")));
+    EXPECT_EQ(QStringLiteral("Ada"), state.Characters[1]);
+    EXPECT_EQ(0, state.Notes.count());
+    // Notes that were not read are not taken for none: nobody replaces them unasked, and then they are kept.
+    EXPECT_EQ(SaveResult::Outcome::ChangedOutside, SaveNotes(state, files).outcome);
+    ASSERT_TRUE(SaveNotes(state, files, true).saved());
+    EXPECT_EQ(before, disk.content(notes + QStringLiteral(".bak")));
 }
 
 // In kB; what the process has held at most so far.

@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QString path = QStringLiteral("/o/1.jpg");
     disk.put(path, QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
     const QImage picture = orvinel::loadPicture(disk, path);
-    if (picture.sizeInBytes() > 256ll * 1024 * 1024)
+    if (picture.sizeInBytes() > orvinel::largestRegion)
         std::abort();
     return 0;
 }

@@ -40,6 +40,13 @@ void MapSurface::drawGroundOn(int fromRow) {
         drawGround_(image(), {0, fromRow, size().width(), picture_.rows - fromRow});
 }
 
+qint64 MapSurface::cost() const {
+    qint64 bytes = image().sizeInBytes();
+    for (const Tile& tile : tiles_)
+        bytes += tile.clean.sizeInBytes();
+    return bytes;
+}
+
 QRect MapSurface::tilesOf(const QRect& area) const {
     const QRect inside = area.intersected(image().rect());
     if (inside.isEmpty())

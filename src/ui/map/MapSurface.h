@@ -28,7 +28,7 @@ class MapSurface {
 
     QSize size() const { return image().size(); }
     // Bytes held, about.
-    qint64 cost() const { return image().sizeInBytes(); }
+    qint64 cost() const;
 
     // Begins to get what of the picture is missing yet; who needs it before waits for it.
     void beginRest() { picture_.beginRest(); }

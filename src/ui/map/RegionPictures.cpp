@@ -10,12 +10,13 @@ namespace orvinel {
 
 namespace {
 
-constexpr qint64 mostBytes = 256ll * 1024 * 1024;
-
 class JpegReader {
   public:
-    explicit JpegReader(QByteArray bytes) : bytes_(std::move(bytes)) {
-        QImageReader::setAllocationLimit(static_cast<int>(mostBytes / (1024 * 1024)) + 1);
+    // `mostBytes`: decoded.
+    explicit JpegReader(QByteArray bytes, qint64 mostBytes = largestRegion)
+        : bytes_(std::move(bytes)), mostBytes_(mostBytes) {
+        // Of all readers, on whatever thread: each looks at its picture's size first.
+        QImageReader::setAllocationLimit(static_cast<int>(largestRegion / (1024 * 1024)) + 1);
         reader_.setAutoTransform(false);
     }
 
@@ -23,7 +24,7 @@ class JpegReader {
     // small file can claim gigabytes.
     QSize size() const {
         const QSize claimed = bytes_.isEmpty() ? QSize() : reader_.size();
-        const bool fits = qint64(claimed.width()) * claimed.height() * 4 <= mostBytes;
+        const bool fits = qint64(claimed.width()) * claimed.height() * 4 <= mostBytes_;
         return fits && !claimed.isEmpty() ? claimed : QSize();
     }
     // Whether Qt decodes rows into an RGB32 image that is there already.
@@ -52,6 +53,7 @@ class JpegReader {
 
   private:
     QByteArray bytes_;
+    qint64 mostBytes_;
     QBuffer buffer_{&bytes_};
     QImageReader reader_{&buffer_, QByteArrayLiteral("jpeg")};
 };
@@ -75,8 +77,8 @@ GrowingPicture decodedInSteps(const QByteArray& bytes, int firstRows) {
 
 } // namespace
 
-QImage loadPicture(const Disk& disk, const QString& path) {
-    return JpegReader(disk.read(path).bytes).readAll();
+QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes) {
+    return JpegReader(disk.read(path).bytes, mostBytes).readAll();
 }
 
 void GrowingPicture::beginRest() {

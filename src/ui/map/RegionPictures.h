@@ -11,9 +11,13 @@
 
 namespace orvinel {
 
-// Decodes a JPEG picture of the world; null when it is missing, broken or larger than the program is ready to
-// hold (256 MB decoded). Pictures of other formats count as broken. The result is RGB32.
-QImage loadPicture(const Disk& disk, const QString& path);
+// Bytes decoded, four for each pixel.
+inline constexpr qint64 largestRegion = 128ll * 1024 * 1024;
+inline constexpr qint64 largestIcon = 16ll * 1024 * 1024;
+
+// Decodes a JPEG picture of the world; null when it is missing, broken or takes more than `mostBytes`
+// decoded. Pictures of other formats count as broken. The result is RGB32.
+QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes = largestRegion);
 
 // A picture whose lower rows may be missing yet; another thread decodes them into the image's own memory.
 // Until finish() only rows above `rows` may be read or written, and the image may not be copied to another
