@@ -4,6 +4,7 @@
 #include "app/TextRules.h"
 #include "app/modLanguage.h"
 
+#include <map>
 #include <utility>
 
 namespace orvinel {
@@ -109,6 +110,25 @@ SaveResult createCharacter(ProgramState& state, PlayerFiles& files, CharacterEdi
     return result;
 }
 
+// The text of what the character has on the disk, by path.
+std::map<QString, QString> writtenProgress(const ProgramState& state, const PlayerFiles& files, int number) {
+    std::map<QString, QString> texts = {
+        {capturedPath(state, number), capturedFile(state, number)},
+        {openedTreasuresPath(state, number), openedTreasuresFile(state, number)}};
+    std::erase_if(texts, [&](const auto& text) { return files.disk().length(text.first) < 1; });
+    return texts;
+}
+
+// The character was taken out of the table, but not all its files could be removed: a file that stays would
+// be read as somebody's at the next start. True when the character is there again with all it had.
+bool bringBack(ProgramState& state, PlayerFiles& files, int number, const QString& name,
+               const std::map<QString, QString>& removed) {
+    for (const auto& [path, text] : removed)
+        if (!files.save(path, text).saved())
+            return false;
+    return saveName(state, files, number, name, false).saved();
+}
+
 } // namespace
 
 NameProblem checkName(const ProgramState& state, const QString& name, int edited) {
@@ -172,15 +192,20 @@ SaveResult saveCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit&
 }
 
 SaveResult deleteCharacter(ProgramState& state, PlayerFiles& files, int number, bool evenIfChanged) {
+    const QString name = state.Characters[number];
     if (SaveResult result = saveName(state, files, number, {}, evenIfChanged); !result.saved())
         return result;
-    forgetProgress(state, number);
-    SaveResult first;
-    for (const QString& path : characterFiles(state, number))
-        if (files.disk().length(path) >= 1)
-            if (SaveResult result = files.remove(path); first.saved())
-                first = result;
-    return first;
+    std::map<QString, QString> removed;
+    SaveResult result;
+    for (const auto& [path, text] : writtenProgress(state, files, number)) {
+        result = files.remove(path);
+        if (!result.saved())
+            break;
+        removed.emplace(path, text);
+    }
+    if (result.saved() || !bringBack(state, files, number, name, removed))
+        forgetProgress(state, number);
+    return result;
 }
 
 } // namespace orvinel

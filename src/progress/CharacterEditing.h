@@ -51,9 +51,10 @@ struct CharacterEdit {
 SaveResult saveCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit& edit,
                          bool evenIfChanged = false);
 
-// The character goes first and its files after it, so that a failure half-way leaves no character without its
-// files. When only a file could not be removed, the character is gone all the same; the result names the
-// file, which is put aside when a new character takes the number.
+// The character goes whole or not at all: when one of its files cannot be removed, it comes back with all it
+// had. The table is written first, so that a program that is killed half-way leaves no character without its
+// files. Only when coming back fails as well is the character gone with a file left, which the result names
+// and which is put aside when a new character takes the number.
 SaveResult deleteCharacter(ProgramState& state, PlayerFiles& files, int number, bool evenIfChanged = false);
 
 } // namespace orvinel

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace orvinel {
 namespace {
 
@@ -134,9 +136,29 @@ TEST_F(Editing, aDeletionThatCannotBeWrittenDeletesNothing) {
     EXPECT_TRUE(state.EliteSkills[1].capturedBy(2) && state.Treasures[1].openedBy(2).isValid());
 }
 
+TEST_F(Editing, aDeletionThatMeetsAFileThatStaysIsTakenBack) {
+    const auto onDisk = [this] {
+        return std::array{disk.content(table), disk.content(captures(2)), disk.content(chests(2))};
+    };
+    const auto before = onDisk();
+    disk.failOnce = true;
+    for (const auto& [change, file] :
+         {std::pair(2, u"Char02CapElite.txt"_s), std::pair(3, u"Char02OpenedTreasures.txt"_s)}) {
+        disk.failAt = static_cast<int>(disk.log.size()) + change;
+        EXPECT_EQ(file, deleteCharacter(state, files, 2).file);
+        EXPECT_EQ(u"Bert"_s, state.Characters[2]);
+        EXPECT_TRUE(state.EliteSkills[1].capturedBy(2) && state.Treasures[1].openedBy(2).isValid());
+        EXPECT_EQ(before, onDisk());
+    }
+    EXPECT_TRUE(deleteCharacter(state, files, 2).saved());
+    EXPECT_FALSE(disk.exists(captures(2)) || disk.exists(chests(2)));
+}
+
 TEST_F(Editing, aFileThatCannotBeRemovedDoesNotBecomeTheNextCharacters) {
-    disk.failAt = 2;
+    disk.failAt = 2; // and everything from there on: the character cannot come back either
     EXPECT_EQ(u"Char02CapElite.txt"_s, deleteCharacter(state, files, 2).file);
+    EXPECT_EQ(QString(), state.Characters[2]);
+    EXPECT_FALSE(state.EliteSkills[1].capturedBy(2));
     disk.failAt = 0;
     ASSERT_TRUE(create(u"Cora"_s, {}).saved());
     EXPECT_EQ("0001\r\n", disk.content(captures(2) + u".bak"_s));

@@ -84,9 +84,9 @@ bool tryFault(int step, int nth, bool once) {
     trial.runFailing(nth, once);
     expectOldOrNew(trial, playersFiles(whole.disk));
     EXPECT_EQ(trial.reread().toStdString(), progressOf(trial.player.state).toStdString());
-    // Deleting goes on where it stopped only in part: what is left is put aside when the number is used
+    // A deletion that could not even be taken back left files: they are put aside when the number is used
     // again.
-    if (step % 11 == 10)
+    if (step % 11 == 10 && !once)
         return true;
     EXPECT_TRUE(trial.player.step(step, bulk)) << "a second try";
     EXPECT_EQ(playersFiles(whole.disk), playersFiles(trial.disk));
