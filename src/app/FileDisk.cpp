@@ -134,6 +134,17 @@ DiskError writeUnfinished(const QString& path, const QByteArray& bytes, const QF
 
 } // namespace
 
+const std::vector<QString>& FileDisk::namesOnce(const QString& folder) const {
+    // Two changes shortly after one another can carry the same time.
+    constexpr qint64 settledMs = 1000;
+    const QDateTime changed = QFileInfo(folder).lastModified();
+    if (latest_.folder == folder && latest_.changed.isValid() && latest_.changed == changed)
+        return latest_.names;
+    const bool settled = changed.msecsTo(QDateTime::currentDateTime()) > settledMs;
+    latest_ = {folder, settled ? changed : QDateTime(), namesIn(folder)};
+    return latest_.names;
+}
+
 QString FileDisk::resolve(const QString& path) const {
     if (exists(path) || !path.startsWith(root_))
         return path;
@@ -142,7 +153,7 @@ QString FileDisk::resolve(const QString& path) const {
     for (const QString& component : components) {
         QString found = component;
         if (!exists(resolved + component)) {
-            const std::vector<QString> names = namesIn(resolved);
+            const std::vector<QString>& names = namesOnce(resolved);
             const auto same = std::find_if(names.begin(), names.end(), [&](const QString& name) {
                 return name.compare(component, Qt::CaseInsensitive) == 0;
             });

@@ -2,6 +2,8 @@
 
 #include "app/Disk.h"
 
+#include <QDateTime>
+
 namespace orvinel {
 
 // Ends the name of a file that is being written beside the one that it is to replace. A save that was cut off
@@ -26,7 +28,17 @@ class FileDisk : public Disk {
     DiskError removeFolder(const QString& path) override;
 
   private:
+    // The names in a folder that has not changed since they were read. A start asks for hundreds of files
+    // that are not there, and a folder may hold a hundred thousand others.
+    struct Listing {
+        QString folder;
+        QDateTime changed; // invalid: to be read again whatever happens
+        std::vector<QString> names;
+    };
+    const std::vector<QString>& namesOnce(const QString& folder) const;
+
     QString root_;
+    mutable Listing latest_;
 };
 
 } // namespace orvinel
