@@ -62,7 +62,7 @@ def pin_note(player):
     """At the skill's place."""
     player.next_window(player.map)
     player.popup(lambda: keys("Insert"))
-    keys("Down", "Return")
+    keys("Return")
     dialog = player.dialog("Note")
     type_text("Tonight")
     keys("Tab")

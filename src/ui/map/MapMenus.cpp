@@ -5,6 +5,8 @@
 #include "ui/panel/Controls.h"
 #include "world/modCampaigns.h"
 
+#include <QGuiApplication>
+
 #include <utility>
 
 namespace orvinel {
@@ -92,6 +94,8 @@ void MapMenus::openNoteMenu(int note, MapPoint at, QPoint global) {
     mnuNoteEdit_->setEnabled(there);
     mnuNoteDelete_->setEnabled(there);
     MenuPopUp_->popup(global);
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) // opened by a key, which goes on from a marked entry
+        MenuPopUp_->setActiveAction(there ? mnuNoteEdit_ : mnuNoteInsert_);
 }
 
 void MapMenus::goToRegion(int campaign, int region) {

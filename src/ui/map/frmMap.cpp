@@ -31,6 +31,7 @@ frmMap::frmMap(Surroundings with, QWidget* owner)
     : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), with_(with), cache_(cachedBytes),
       viewport_(new MapViewport(this)) {
     setObjectName(u"frmMap"_s);
+    setWindowTitle(programName());
     setSpokenRole(*this, QAccessible::Window);
     setMinimumSize(smallest, smallest);
     setCursor(programCursor(101));
