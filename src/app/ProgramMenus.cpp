@@ -90,7 +90,7 @@ void Program::chooseHelp(int entry) {
     case 5:
         return ShowHistory();
     case 6:
-        return OpenWithShell(helpPage());
+        return ShowGuide();
     case 8:
         frmInformation(dialogContext(), panel_.get()).exec();
         return;

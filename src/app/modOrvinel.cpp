@@ -199,6 +199,11 @@ void Program::ShowHistory() {
     OpenWithShell(files_.disk().resolve(state_.AppPath + u"Data/History.txt"_s));
 }
 
+void Program::ShowGuide() {
+    const QString guide = state_.AppPath + u"Data/Guide/guide.html"_s;
+    OpenWithShell(files_.disk().length(guide) > 0 ? files_.disk().resolve(guide) : helpPage());
+}
+
 void Program::RunUpdater() {
     OpenWithShell(files_.disk().resolve(state_.AppPath + u"Update.exe"_s));
     QuitProgram();

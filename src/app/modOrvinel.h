@@ -37,6 +37,8 @@ class Program : public QObject {
     void ToggleMapMaximised();
     void OpenWithShell(const QString& target);
     void ShowHistory();
+    // The guide that came with the program; where it is missing, the page about it.
+    void ShowGuide();
     void RunUpdater();
 
     ProgramState& state() { return state_; }

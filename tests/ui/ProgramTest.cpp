@@ -1,3 +1,4 @@
+#include "app/About.h"
 #include "app/modOrvinel.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
@@ -125,6 +126,15 @@ TEST_F(ProgramTest, theUpdaterIsFoundWhateverItsCaseAndEndsTheProgram) {
     program->RunUpdater();
     EXPECT_TRUE(desktop.log.contains(u"open /o/update.exe"_s));
     EXPECT_EQ(0, exitCode);
+}
+
+TEST_F(ProgramTest, theGuideIsTheOneThatCameWithTheProgramOrElseAPageOfTheWeb) {
+    ASSERT_TRUE(start());
+    program->ShowGuide();
+    EXPECT_EQ(u"open "_s + helpPage(), desktop.log.last());
+    disk.put(u"/o/Data/Guide/guide.html"_s, "<html>");
+    program->ShowGuide();
+    EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
 }
 
 } // namespace

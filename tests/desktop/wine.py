@@ -1,0 +1,63 @@
+#!/usr/bin/env python3
+"""wine.py PROGRAM: the player's errands with the program for Windows, under Wine, down to the same bytes.
+
+PROGRAM lies in the folder that packaging/windows/build has made. Exit code 77: Wine, the folder or a tool is missing.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+import journeys
+import screen
+from journeys import PROGRAM, Player
+from screen import Running, pixels, until
+
+PREFIX = PROGRAM.parent.parent / "wine"
+
+
+def shipped(folder):
+    """The folder as players unpack it: nothing is wrong with its world, and a region of it shows."""
+    for part in PROGRAM.parent.iterdir():
+        if part.name.startswith("Campaign."):
+            (folder / part.name).symlink_to(part)
+        else:
+            (shutil.copytree if part.is_dir() else shutil.copy2)(part, folder / part.name)
+    check = subprocess.run(["wine", folder / "orvinel-check.exe", folder, "--summary"], capture_output=True, text=True)
+    assert check.returncode == 0, f"orvinel-check ends with {check.returncode}: {check.stdout}{check.stderr}"
+    journeys.options(folder, Campaign=0, Region=1)
+    with Player(folder) as player:
+        until("a region in many colours", lambda: len(set(zip(*[iter(pixels(*player.view((50, 50)), 300, 300))] * 3))) > 500)
+        player.quit()
+
+
+# Wine itself could not live with a limit to the size of files.
+ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand is not journeys.cannot_write)]
+
+
+def main():
+    if not PROGRAM.exists():
+        print("skipped, not built: the program for Windows (packaging/windows/build)")
+        return 77
+    if not shutil.which("wine"):
+        print("skipped, not installed: wine")
+        return 77
+    os.environ.update(WINEPREFIX=str(PREFIX), WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=")
+    screen.LIMIT = 60  # Wine starts a whole system before the first window
+    Running.launcher = ["wine"]
+    Running.program = "orvinel.exe"
+    if "ORVINEL_JOURNEYS" not in os.environ:
+        return journeys.main(__file__, ERRANDS)
+    subprocess.run(["wineserver", "--persistent"])
+    try:
+        if not (PREFIX / "system.reg").exists():
+            subprocess.run(["wineboot", "--init"], capture_output=True)
+        return journeys.main(__file__, ERRANDS)
+    finally:
+        subprocess.run(["wineserver", "--kill"])
+
+
+if __name__ == "__main__":
+    sys.exit(main())
