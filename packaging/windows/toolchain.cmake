@@ -7,7 +7,7 @@ set(CMAKE_CXX_COMPILER ${triple}-g++-posix)
 set(CMAKE_RC_COMPILER ${triple}-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 
-set(CMAKE_FIND_ROOT_PATH /usr/${triple})
+list(APPEND CMAKE_FIND_ROOT_PATH /usr/${triple}) # behind what the build looks in first
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
