@@ -1,5 +1,7 @@
 #include "compare/Bare.h"
 
+#include "compare/Layout.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -33,12 +35,7 @@ Bare::Bare(QImage picture, QStringList texts)
 }
 
 void Bare::show(const QRect& panel, const QRect& map) {
-    panel_.setGeometry(panel);
-    map_.setGeometry(map);
-    field_->setGeometry(4, 4, panel.width() - 8, 21);
-    list_->setGeometry(4, 30, panel.width() - 8, panel.height() - 34);
-    panel_.show();
-    map_.show();
+    showLaidOut(panel_, map_, *field_, *list_, panel, map);
 }
 
 } // namespace orvinel::bench

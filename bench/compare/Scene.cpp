@@ -1,5 +1,6 @@
 #include "compare/Scene.h"
 
+#include "compare/Layout.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 
@@ -85,12 +86,7 @@ void Scene::search(const QString& text) {
 }
 
 void Scene::show(const QRect& panel, const QRect& map) {
-    panel_.setGeometry(panel);
-    map_.setGeometry(map);
-    field_->setGeometry(4, 4, panel.width() - 8, 21);
-    list_->setGeometry(4, 30, panel.width() - 8, panel.height() - 34);
-    panel_.show();
-    map_.show();
+    showLaidOut(panel_, map_, *field_, *list_, panel, map);
 }
 
 } // namespace orvinel::bench

@@ -206,21 +206,23 @@ def lists_and_their_rows(folder):
         assert has(Tree().one("list", "T32: 1"), "FOCUSED")
 
 
+def choose_from_menu(player, *way):
+    menu = player.popup(lambda: keys("F10"))
+    keys(*way, "Return")
+    player.gone(menu)
+
+
 def legend_and_drawn_windows(folder):
     make_world(folder)
     in_marsh(folder)
     with Player(folder) as player:
         player.ready()
-        menu = player.popup(lambda: keys("F10"))
-        keys("Right", "Home", "Return")
-        player.gone(menu)
+        choose_from_menu(player, "Right", "Home")
         becomes("the legend", lambda t: t.shown("T30") and t.shown("Scout") and t.shown("T83"))
         nothing_is_nameless(Tree())
         for way, texts in ((["End"], ("free software", "Maruvel", "Mail to")),
                            (["Down", "Down"], ("Special thanks", "Lampwick"))):
-            menu = player.popup(lambda: keys("F10"))
-            keys("Left", *way, "Return")
-            player.gone(menu)
+            choose_from_menu(player, "Left", *way)
             becomes(f"the window with {texts[0]}", lambda t: all(t.shown(text) for text in texts))
             nothing_is_nameless(Tree())
             keys("Escape")
@@ -232,9 +234,7 @@ def dialogs(folder):
     in_marsh(folder)
     with Player(folder) as player:
         player.ready()
-        menu = player.popup(lambda: keys("F10"))
-        keys("Right", "End", "Return")
-        player.gone(menu)
+        choose_from_menu(player, "Right", "End")
         player.dialog("Characters")
         becomes("the characters", lambda t: t.having("push button", "Create"))
         nothing_is_nameless(Tree())

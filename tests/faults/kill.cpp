@@ -137,7 +137,7 @@ bool killOnce(const Game& game, int from, useconds_t after, Figures& figures) {
     const QString place = QFileInfo(QString::fromLatin1(fastFolder)).isWritable()
                               ? QString::fromLatin1(fastFolder)
                               : QDir::tempPath();
-    const QTemporaryDir temporary(place + u"/orvinel-kill-XXXXXX"_s);
+    const QTemporaryDir temporary(place + u"/orvinel-kill-"_s);
     const QString folder = temporary.path() + u'/';
     prepare(folder, game.history[game.begins[static_cast<size_t>(from)]]);
     int ready[2];
