@@ -24,7 +24,7 @@ WindowsShown afterTaskBarUse(WindowsShown now, bool first, bool legendWanted) {
 }
 
 frmFAKE::frmFAKE(TaskBarGroup group)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | minimisable()), group_(group) {
+    : QWidget(nullptr, Qt::Window | frameless() | minimisable()), group_(group) {
     setObjectName(u"frmFAKE"_s);
     setSpokenRole(*this, QAccessible::Window);
     setWindowTitle(u"Orvinel (%1)"_s.arg(byLine()));

@@ -110,7 +110,7 @@ class LinkSpot : public QPushButton {
 
 frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner)
     : Dialog(u"frmInformation"_s, outerSize, dialogContext, owner) {
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    setWindowFlags(Qt::Dialog | frameless());
     setWindowTitle(u"Orvinel - Informations"_s);
     ArrangeInformation(new QWidget(this));
     for (int i = 0; i < figures; ++i)

@@ -109,7 +109,7 @@ QString spokenLegend(const ProgramState& state) {
 } // namespace
 
 frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
-    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), state_(state), title_(state.text(legendCaption)),
+    : QWidget(owner, Qt::Dialog | frameless()), state_(state), title_(state.text(legendCaption)),
       picLegenda_(new PictureBox(this)) {
     setObjectName(u"frmLegenda"_s);
     setWindowTitle(title_);

@@ -28,7 +28,7 @@ constexpr int emptyMapTitle = 12;
 } // namespace
 
 frmMap::frmMap(Surroundings with, QWidget* owner)
-    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), with_(with), cache_(cachedBytes),
+    : QWidget(owner, Qt::Dialog | frameless()), with_(with), cache_(cachedBytes),
       viewport_(new MapViewport(this)) {
     setObjectName(u"frmMap"_s);
     setWindowTitle(programName());

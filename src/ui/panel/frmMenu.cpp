@@ -35,7 +35,7 @@ auto notReady(bool& ready) {
 } // namespace
 
 frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), state_(state), desktop_(desktop), drag_(*this) {
+    : QWidget(nullptr, Qt::Window | frameless()), state_(state), desktop_(desktop), drag_(*this) {
     setObjectName(u"frmMenu"_s);
     setWindowTitle(programName());
     setSpokenRole(*this, QAccessible::Window); // before its name: telling of that makes screen readers look

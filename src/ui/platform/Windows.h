@@ -43,6 +43,9 @@ class WindowDrag {
 // Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
 void keepOffTaskBar(QWidget& window);
 
+// What makes a window one without a title bar.
+Qt::WindowFlags frameless();
+
 // What a window without a title bar needs besides for its button on the task bar to minimise it.
 Qt::WindowFlags minimisable();
 
