@@ -82,7 +82,9 @@ class CollectorReader {
             stats.reserve(file_.fieldCount() - 2);
             for (size_t i = 2; i < file_.fieldCount(); ++i)
                 stats.push_back(file_.text(i));
-            collector.addObject(file_.text(0), *mask, std::move(stats));
+            // Without a name there would be nothing to choose in a list; without rewards it is in none.
+            if (!collector.Name.isEmpty())
+                collector.addObject(file_.text(0), *mask, std::move(stats));
         }
     }
 

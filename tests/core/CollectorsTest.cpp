@@ -66,13 +66,14 @@ TEST_F(CollectorLists, standWhereTheirLastLocationPutsThem) {
 TEST_F(CollectorLists, passOverBlocksAndLinesThatCannotBeUsed) {
     disk.put(u"/o/Campaign.01.A/Collectors.txt"_s,
              "70000\tFar\t1\r\nx\r\ny\r\n5\t7\t1\r\n\r\n\r\n"
-             "4\tshort\r\nx\r\ny\r\nSword\t1\tz\r\n\r\n"
+             "4\tshort\r\nx\r\ny\r\nSword\t1\tz\r\n\r\n3\t\t1\r\nno\r\nname\r\nGem\t1\r\n\r\n"
              "2\tEve\t1\r\nthere\r\nOre\r\nno mask\r\nRing\t99999\r\nGem\t1\r\n"
              "\r\n6\tCut\t1\r\nwhere the file ends");
     disk.put(u"/o/Campaign.01.A/CollectorsLocations.txt"_s,
-             "1\t1\t5\t5\t70\r\n2\t1\t5\t5\tx\r\n2\t1\t5\t5\r\n2\t1\t7\t7\t70\r\n9\t1\t5\t5\t70\r\n");
+             "1\t1\t5\t5\t70\r\n2\t1\t5\t5\tx\r\n2\t1\t5\t5\r\n2\t1\t7\t7\t70\r\n"
+             "3\t1\t5\t5\t70\r\n9\t1\t5\t5\t70\r\n");
     load();
-    ASSERT_EQ(2, state.Collectors.highest());
+    ASSERT_EQ(3, state.Collectors.highest());
     EXPECT_FALSE(state.Collectors[1].Location.placed()) << "no header defined number 1";
     EXPECT_EQ(1u, state.Collectors[2].Objects.size());
     EXPECT_EQ(7, state.Collectors[2].Location.X);
