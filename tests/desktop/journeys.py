@@ -14,6 +14,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from unittest import mock
 
 from screen import (Running, click, colour, drag, hover, keys, near, pixels, run, see, type_text, until)
 
@@ -24,6 +25,7 @@ PROGRAM = pathlib.Path(sys.argv[1]).resolve()
 PANEL_WIDTH = 217
 CAMPAIGN, REGION = (40, 63), (150, 63)
 OPTIONS_MENU, CHARACTERS_ROW = (60, 26), (12, 171)
+HELP_MENU, UPDATE_ROW, HISTORY_ROW = (105, 26), (20, 19), (20, 114)
 MISSING_ONLY = (8, 226)
 QUIT = (208, 8)
 BOSS, CHEST, EMPTY = (200, 300), (420, 300), (300, 500)
@@ -255,6 +257,24 @@ def unknown_campaign(folder):
     assert not (folder / "Data/Options.txt").exists()
 
 
+def shell(folder):
+    make_world(folder)
+    asked = folder / "asked"
+    for tool in (folder / "xdg-open", folder / "UPDATE.exe"):
+        tool.write_text(f'#!/bin/sh\necho "$PWD ${{0##*/}} ${{1##*/}}" >> {asked}\n')
+    (folder / "Data/history.txt").write_text(f"touch {folder}/executed\n")
+    for file in (folder / "xdg-open", folder / "UPDATE.exe", folder / "Data/history.txt"):
+        file.chmod(0o755)  # as a disk of another system gives them all
+    wanted = f"{folder} xdg-open history.txt\n".encode()
+    with mock.patch.dict(os.environ, PATH=f"{folder}:{os.environ['PATH']}"), Player(folder) as player:
+        player.popup(lambda: player.panel.click(*HELP_MENU)).click(*HISTORY_ROW)
+        holds(asked, wanted)
+        player.popup(lambda: player.panel.click(*HELP_MENU)).click(*UPDATE_ROW)
+        assert player.end() == 0
+    holds(asked, wanted + f"{folder} UPDATE.exe \n".encode())
+    assert not (folder / "executed").exists(), "a document was executed"
+
+
 def no_writing():
     """Every write fails, for root too."""
     signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
@@ -288,8 +308,8 @@ def bad_pictures(folder):
             player.quit()
 
 
-ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unknown_campaign, cannot_write,
-           bad_pictures]
+ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unknown_campaign, shell,
+           cannot_write, bad_pictures]
 
 
 def main(script, errands):

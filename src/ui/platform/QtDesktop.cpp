@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -62,14 +63,16 @@ void QtDesktop::warnWithCancel(const QString& title, const QString& text) {
 }
 
 bool QtDesktop::openWithShell(const QString& target) {
+    QDir::setCurrent(folder_); // what is started begins there
     const bool address = target.startsWith(u"http"_s) || target.startsWith(u"mailto:"_s);
     if (address)
         return QDesktopServices::openUrl(QUrl(target));
     const QFileInfo file(target);
     if (!file.isFile())
         return false;
-    if (file.isExecutable())
-        return QProcess::startDetached(file.filePath(), {}, folder_);
+    // On some disks every file may be executed: a document is to be shown all the same.
+    if (file.isExecutable() && file.suffix().compare(u"exe"_s, Qt::CaseInsensitive) == 0)
+        return QProcess::startDetached(file.filePath(), {});
     return QDesktopServices::openUrl(QUrl::fromLocalFile(target));
 }
 
