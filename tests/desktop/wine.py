@@ -50,6 +50,7 @@ def main():
     Running.program = "orvinel.exe"
     if "ORVINEL_JOURNEYS" not in os.environ:
         return journeys.main(__file__, ERRANDS)
+    PREFIX.mkdir(exist_ok=True)
     subprocess.run(["wineserver", "--persistent"])
     try:
         if not (PREFIX / "system.reg").exists():
