@@ -35,6 +35,17 @@ TEST_F(NotesViewTest, theWindowShowsAllLinesOfTheNote) {
     EXPECT_FALSE(shown("picNoteTooltip"));
 }
 
+TEST_F(NotesViewTest, theMapShinesThroughTheWindowOnceAlsoBesideASmallRegion) {
+    startOnFjord();
+    chooseRegion(u"Glacier"_s); // grey 90, 300 pixels wide; black beside it
+    hover({60, 60});
+    ASSERT_EQ(53, notes->window().x());
+    const QImage window = notes->window().grab().toImage();
+    const auto blended = [](int band, int ground) { return qRound((band * 175 + ground * 80) / 255.); };
+    EXPECT_EQ(blended(0xDD, 90), window.pixelColor(150, 8).red());
+    EXPECT_EQ(blended(0xDD, 0), window.pixelColor(250, 8).red());
+}
+
 TEST_F(NotesViewTest, aNewNoteIsPinnedWhereTheMapWasDoubleClicked) {
     startOnFjord();
     map->CenterMapOn(500, 400);

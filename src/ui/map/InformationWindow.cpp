@@ -13,7 +13,7 @@ constexpr Colour outerLine = 0xB4B4B4;
 constexpr Colour innerLine = 0x646464;
 constexpr int bandInset = 6;
 constexpr int separatorInset = 18;
-constexpr double mapOpacity = 80 / 255.;
+constexpr QColor mapOpacity(0, 0, 0, 80);
 
 } // namespace
 
@@ -55,17 +55,26 @@ void InformationWindow::frame(const QRect& marker) {
     const int w = width() - 1;
     const int h = height() - 1;
     Drawing drawing(&surface());
-    drawing.painter().save();
-    drawing.painter().setOpacity(mapOpacity);
-    drawing.painter().translate(-pos());
-    map_.paintShown(drawing.painter(), QRect(x(), y(), w, h));
-    drawing.painter().restore();
+    drawing.painter().drawImage(0, 0, translucentMap());
     drawing.outline(0, 0, w, h, outerLine);
     drawing.outline(bandInset, bandInset, w - bandInset, h - bandInset, innerLine);
     update();
     show();
     raise();
     tellScreenReaders();
+}
+
+// As one picture: several paintings, each translucent, would darken what lies under them several times.
+QImage InformationWindow::translucentMap() {
+    QImage map(surface().size(), QImage::Format_ARGB32_Premultiplied);
+    map.setDevicePixelRatio(surface().devicePixelRatio());
+    map.fill(Qt::black);
+    QPainter painter(&map);
+    painter.translate(-pos());
+    map_.paintShown(painter, geometry());
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(geometry(), mapOpacity);
+    return map;
 }
 
 void InformationWindow::separator(int y) {

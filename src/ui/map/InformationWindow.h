@@ -37,6 +37,8 @@ class InformationWindow : public PictureBox {
 
   private:
     void frame(const QRect& marker);
+    // What the map shows under the box.
+    QImage translucentMap();
     // The map is described by what the window tells.
     void tellScreenReaders();
 
