@@ -77,6 +77,25 @@ TEST_F(ListBoxTest, theOtherButtonsLeaveTheSelectionAlone) {
     EXPECT_EQ(1, picks);
 }
 
+TEST_F(ListBoxTest, aClickWithControlOnTheSelectedEntryKeepsIt) {
+    click(1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, middleOf(1));
+    EXPECT_EQ(1, list.selectedIndex());
+    QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(1, list.selectedIndex());
+    EXPECT_EQ(2, picks);
+}
+
+TEST_F(ListBoxTest, aRowChosenByAScreenReaderIsPicked) {
+    click(2);
+    QAccessibleInterface* row = QAccessible::queryAccessibleInterface(&list)->child(1);
+    QAccessibleActionInterface* actions = row->actionInterface();
+    actions->doAction(actions->actionNames().at(0));
+    QTest::qWait(0);
+    EXPECT_EQ(2, picks);
+    EXPECT_EQ(1, list.selectedIndex());
+}
+
 TEST_F(ListBoxTest, enterAndDoubleClickActivateTheSelectedEntry) {
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_EQ(0, activations);

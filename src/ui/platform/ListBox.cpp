@@ -184,6 +184,27 @@ void ListBox::currentChanged(const QModelIndex& current, const QModelIndex& prev
     emit picked();
 }
 
+// A screen reader selects an entry without making it the current one. The other ways do both, in an order
+// that differs: only afterwards can they be told apart.
+void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    if (!silent_ && !selected.isEmpty())
+        QMetaObject::invokeMethod(this, &ListBox::pickWhatIsSelected, Qt::QueuedConnection);
+}
+
+void ListBox::pickWhatIsSelected() {
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    if (!selected.isEmpty() && selected.front() != currentIndex())
+        select(selected.front().row());
+}
+
+// Ctrl would take the selection away, which leaves nothing for the places to belong to.
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const {
+    const auto command = QListView::selectionCommand(index, event);
+    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+}
+
 void ListBox::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return; // the view would select, and the map move away
