@@ -1,5 +1,7 @@
 #include "support/ProgramFixture.h"
 
+#include <QAccessible>
+
 namespace orvinel {
 namespace {
 
@@ -110,6 +112,16 @@ TEST_F(PanelTest, theCaptureOptionSwitchesTheCharacterList) {
     EXPECT_EQ(u"E1"_s, callsOf([&] { page.cmbCharacter->select(0); }));
     EXPECT_EQ(u"E1"_s, callsOf([&] { page.optCapture[0]->click(); }));
     EXPECT_FALSE(page.cmbCharacter->isEnabled());
+}
+
+TEST_F(PanelTest, optionsAndBoxesAreClickedAndReadOutAllOverTheirPlace) {
+    startPanel();
+    panel->show();
+    QRadioButton* missing = panel->elitePage().optCapture[1];
+    QTest::mouseClick(missing, Qt::LeftButton, {}, missing->rect().bottomRight());
+    EXPECT_TRUE(missing->isChecked());
+    for (QWidget* control : std::initializer_list<QWidget*>{missing, panel->tabs().chkShowObject[0]})
+        EXPECT_EQ(control->size(), QAccessible::queryAccessibleInterface(control)->rect().size());
 }
 
 TEST_F(PanelTest, armourHasNoHandAndIsFilteredOnce) {

@@ -20,7 +20,6 @@ class SmallCheckBox : public QCheckBox {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
     void nextCheckState() override;
 
   private:

@@ -65,6 +65,13 @@ class ProgramStyle : public QProxyStyle {
         const bool leftToRight = option->direction == Qt::LeftToRight;
         return text ? place.adjusted(leftToRight ? 0 : -5, 0, leftToRight ? 5 : 0, 0) : place;
     }
+    // An option or a check box is clicked anywhere in its place, and read out as being that large.
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override {
+        if (element == SE_RadioButtonClickRect || element == SE_CheckBoxClickRect)
+            return option->rect;
+        return QProxyStyle::subElementRect(element, option, widget);
+    }
     // The boxes and buttons that stand alone are 13 pixels wide; one more would be cut off.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         switch (metric) {
