@@ -27,14 +27,14 @@ WindowPair maximisedPair(const QRect& workArea, int panelWidth, bool inset) {
             QRect(mapLeft, area.top(), rightEdge(area) - mapLeft, area.height())};
 }
 
-std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, int screenWidth,
+std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, QSize screens,
                                          int panelWidth) {
     const qint64 needed = qint64(options.PosX) + options.DimX + twipsOf(panelWidth);
-    if (options.PosX == -1 || needed > twipsOf(screenWidth))
+    if (options.PosX == -1 || needed > twipsOf(screens.width()))
         return std::nullopt;
     const QRect panel(pixelsOf(options.PosX), pixelsOf(options.PosY), panelWidth, shrunk(workArea).height());
-    return WindowPair{
-        panel, QRect(panel.left() + panelWidth, panel.top(), pixelsOf(options.DimX), pixelsOf(options.DimY))};
+    const QSize map = QSize(pixelsOf(options.DimX), pixelsOf(options.DimY)).boundedTo(screens);
+    return WindowPair{panel, QRect(QPoint(panel.left() + panelWidth, panel.top()), map)};
 }
 
 int pixelsOf(int twips) {

@@ -20,9 +20,9 @@ struct WindowPair {
 // right edge.
 WindowPair maximisedPair(const QRect& workArea, int panelWidth, bool inset);
 
-// The remembered place; nothing when there is none or when it is wider than all screens together
-// (`screenWidth`).
-std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, int screenWidth,
+// The remembered place; nothing when there is none or when it reaches beyond the width of all screens
+// together (`screens`). The map is at most as large as they are: a system can hold no window of any size.
+std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, QSize screens,
                                          int panelWidth);
 
 // Whole pixels, rounded.

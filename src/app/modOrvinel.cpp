@@ -168,7 +168,7 @@ void Program::attachMap() {
 void Program::RestoreWindowPlacement() {
     Options& options = state_.AppOptions;
     const QRect area = desktop_.workArea();
-    const auto remembered = rememberedPair(options, area, desktop_.allScreens().width(), panel_->width());
+    const auto remembered = rememberedPair(options, area, desktop_.allScreens(), panel_->width());
     if (!remembered)
         options.PosX = options.PosY = options.DimX = options.DimY = -1;
     if (!remembered || !(desktop_.reachable(remembered->panel) || desktop_.reachable(remembered->map))) {

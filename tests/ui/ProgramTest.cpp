@@ -93,6 +93,14 @@ TEST_F(ProgramTest, aPlaceWiderThanTheScreensGivesTheFullWorkArea) {
     EXPECT_EQ(u"-1"_s, option("PosX"));
 }
 
+TEST_F(ProgramTest, theMapIsNeverLargerThanTheScreens) {
+    disk.put(u"/o/Data/Options.txt"_s, "PosX=0\r\nPosY=0\r\nDimX=9000\r\nDimY=2000000000\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(QSize(600, desktop.screens.height()), program->map().size());
+    program->QuitProgram();
+    EXPECT_EQ(u"2000000000"_s, option("DimY"));
+}
+
 TEST_F(ProgramTest, aPlaceOutOfReachIsNotUsedButKept) {
     disk.put(u"/o/Data/Options.txt"_s, "PosX=-90000\r\nPosY=-90000\r\nDimX=9000\r\nDimY=7500\r\n");
     ASSERT_TRUE(start());
