@@ -2,6 +2,7 @@
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/ItemCombo.h"
+#include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
 #include "ui/platform/Windows.h"
 
@@ -148,6 +149,19 @@ TEST_F(ListBoxTest, everyRowStandsInTheAccessibilityTree) {
     ASSERT_TRUE(tree);
     ASSERT_EQ(3, tree->childCount());
     EXPECT_EQ(u"beta"_s, tree->child(1)->text(QAccessible::Name));
+}
+
+TEST(Label, showsEveryLetterOfItsCaptionWhateverItNames) {
+    QWidget named;
+    Label plain(u"lbl"_s, nullptr);
+    plain.setCaption(u"Type & hand"_s);
+    Label naming(u"lbl"_s, nullptr);
+    naming.nameFor(&named);
+    naming.setCaption(u"Type"_s);
+    EXPECT_EQ(&named, naming.buddy());
+    naming.setCaption(u"Type & hand"_s);
+    EXPECT_EQ(plain.grab().toImage(), naming.grab().toImage());
+    EXPECT_EQ(u"Type & hand"_s, named.accessibleName());
 }
 
 TEST(Fonts, haveTheHeightsThatTheLayoutsWereMadeFor) {

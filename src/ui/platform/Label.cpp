@@ -16,6 +16,8 @@ Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
 }
 
 void Label::setCaption(const QString& text) {
+    // Given a text with "&" while it has a buddy, it would underline a letter for good.
+    setBuddy(nullptr);
     // CR LF would be two line breaks.
     setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     tellName();
