@@ -142,16 +142,22 @@ TEST_F(InformationTest, everyTextFitsItsPlaceAndIsReadOut) {
 
 TEST_F(DialogFixture, theCreditsWindowShowsItsListAndCloses) {
     alwaysOnTop = 1;
+    state.LanguageTable[103] = u"Shut & go"_s;
     frmCredits window(context(), nullptr);
-    window.show();
+    window.open();
     EXPECT_EQ(u"T102"_s, window.windowTitle());
     EXPECT_EQ(QSize(514, 253), window.size());
     EXPECT_TRUE(desktop.log.contains(u"top 1"_s));
     auto* picture = window.findChild<QWidget*>(u"picCredits"_s);
     EXPECT_EQ(QRect(4, 6, 507, 205), picture->geometry());
     EXPECT_TRUE(picture->accessibleDescription().contains(authorName()));
+    const auto read = [](QObject* object) { return QAccessible::queryAccessibleInterface(object); };
+    EXPECT_EQ(9 + 2, read(picture)->childCount());
+    EXPECT_TRUE(read(picture)->child(0)->text(QAccessible::Name).startsWith(authorName()));
+    EXPECT_TRUE(read(&window)->state().modal);
     auto* cmdCancel = window.findChild<QPushButton*>(u"cmdCancel"_s);
     EXPECT_EQ(QRect(430, 216, 79, 31), cmdCancel->geometry());
+    EXPECT_EQ(u"Shut & go"_s, read(cmdCancel)->text(QAccessible::Name));
     cmdCancel->click();
     EXPECT_FALSE(window.isVisible());
 }

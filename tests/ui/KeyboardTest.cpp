@@ -1,4 +1,5 @@
 #include "support/ProgramFixture.h"
+#include "ui/map/CreditsList.h"
 #include "ui/panel/WindowKeys.h"
 
 #include <QAccessible>
@@ -160,6 +161,8 @@ TEST_F(KeyboardTest, screenReadersHearLabelsRolesAndTheRegion) {
     ASSERT_FALSE(relations.isEmpty());
     EXPECT_EQ(panel->selection().lblZone, relations.front().first->object());
     EXPECT_EQ(u"Text 48"_s, read(panel->collectorsPage().optCollType[0])->text(QAccessible::Description));
+    map->InizializzaVariabili({}, -1, -1);
+    EXPECT_TRUE(read(&map->picMap())->text(QAccessible::Description).contains(creditsText()));
     showFjord();
     EXPECT_EQ(QAccessible::Graphic, read(&map->picMap())->role());
     EXPECT_EQ(u"Fjord"_s, read(&map->picMap())->text(QAccessible::Name));

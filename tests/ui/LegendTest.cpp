@@ -3,6 +3,7 @@
 #include "ui/platform/Fonts.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -128,6 +129,13 @@ TEST(Legend, isDraggedByTheLeftButtonOnItsBandOnly) {
 
 TEST(Legend, saysItsTextsToAScreenReader) {
     const Legend legend(1);
+    const QAccessibleInterface* rows =
+        QAccessible::queryAccessibleInterface(legend.window.findChild<QWidget*>(u"picLegenda"_s));
+    ASSERT_EQ(1 + 12, rows->childCount());
+    EXPECT_EQ(u"Tidecaller"_s, rows->child(0)->text(QAccessible::Name));
+    EXPECT_EQ(u"Text 34"_s, rows->child(1)->text(QAccessible::Name));
+    EXPECT_EQ(u"?"_s, rows->child(1)->text(QAccessible::Description));
+    EXPECT_FALSE(rows->child(12)->state().invisible);
     const QString spoken = legend.window.findChild<QWidget*>(u"picLegenda"_s)->accessibleDescription();
     EXPECT_TRUE(spoken.startsWith(u"Tidecaller\n?: Text 34\n"_s)) << spoken.toStdString();
     EXPECT_TRUE(spoken.endsWith(u"Text 83"_s));

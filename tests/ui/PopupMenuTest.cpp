@@ -214,8 +214,10 @@ TEST_F(PopupMenuTest, tellsAScreenReaderItsRowsAndTheirStates) {
     EXPECT_TRUE(check->state().checked);
     EXPECT_EQ(QAccessible::RadioButton, read(control<QWidget>(u"optEntry(0)"_s))->role());
     EXPECT_EQ(QAccessible::StaticText, read(caption(3))->role());
+    EXPECT_TRUE(read(caption(3))->state().disabled) << "a heading cannot be chosen";
     QAccessibleInterface* command = read(caption(8));
     EXPECT_EQ(QAccessible::MenuItem, command->role());
+    EXPECT_FALSE(command->state().disabled);
     EXPECT_EQ(u"T14"_s, command->text(QAccessible::Name));
     command->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_THAT(chosen, ElementsAre(Pair(1, 8)));

@@ -3,6 +3,7 @@
 #include "app/modLanguage.h"
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
+#include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
 #include <QPushButton>
@@ -29,6 +30,7 @@ QString buttonText(const QString& caption, qsizetype mnemonic) {
 Dialog::Dialog(const QString& name, QSize client, DialogContext context, QWidget* owner)
     : QDialog(owner, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), context_(context) {
     setObjectName(name);
+    setSpokenRole(*this, QAccessible::Dialog);
     setFixedSize(client);
     setCursor(programCursor(101));
 }

@@ -1,9 +1,12 @@
 #include "ui/dialogs/frmCredits.h"
 
 #include "ui/map/CreditsList.h"
+#include "ui/platform/Fonts.h"
 #include "ui/platform/PictureBox.h"
 
+#include <QFontMetrics>
 #include <QPushButton>
+#include <QStringList>
 
 namespace orvinel {
 
@@ -31,9 +34,11 @@ frmCredits::frmCredits(DialogContext context, QWidget* owner)
     picCredits->setAccessibleDescription(creditsText());
     picCredits->clear();
     DrawCreditsList(picCredits->surface(), 0);
-    auto* cmdCancel = new QPushButton(state().text(closeCaption), this);
-    cmdCancel->setObjectName(u"cmdCancel"_s);
-    cmdCancel->setGeometry(cancelPlace);
+    const QStringList lines = creditsText().split(u'\n');
+    const int lineHeight = QFontMetrics(arial(points9)).height();
+    for (int i = 0; i < lines.size(); ++i)
+        picCredits->tell({0, 15 + i * lineHeight, creditsPlace.width(), lineHeight}, lines[i]);
+    QPushButton* cmdCancel = addButton(u"cmdCancel"_s, cancelPlace, state().text(closeCaption));
     cmdCancel->setDefault(true);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }

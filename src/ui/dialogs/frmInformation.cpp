@@ -132,6 +132,8 @@ void frmInformation::ArrangeInformation(QWidget* client) {
     picOntainer->setFocusPolicy(Qt::ClickFocus);
     picOntainer->setAccessibleName(u"Informations"_s);
     picOntainer->setAccessibleDescription(dedication());
+    picOntainer->tell(headingPlace, u"Informations"_s);
+    picOntainer->tell(dedicationPlace, dedication());
     auto* imgScene = new QLabel(picOntainer);
     imgScene->setObjectName(u"imgScene"_s);
     imgScene->setGeometry(scenePlace);

@@ -73,6 +73,11 @@ int longerColumn(int professions) {
     return professions - professions / 2;
 }
 
+// What a marker of the kind shows; empty: no text.
+QString codeOf(const LegendRow& row) {
+    return row.symbol == Symbol::Code ? QString::fromLatin1(row.Code) : QString();
+}
+
 void drawSymbol(Drawing& drawing, const MarkerArt& art, const LegendRow& row, int y) {
     const int x = firstColumn;
     if (row.symbol == Symbol::NoBoss) {
@@ -87,7 +92,7 @@ void drawSymbol(Drawing& drawing, const MarkerArt& art, const LegendRow& row, in
         drawing.setFill(lightGrey);
         drawing.box(x + 1, y, x + 1 + boxSize, y + boxSize);
         drawing.setBold(true);
-        drawing.print(codeLeft, y, QString::fromLatin1(row.Code));
+        drawing.print(codeLeft, y, codeOf(row));
         drawing.setBold(false);
     }
     if (row.sprite != Sprite::Count)
@@ -100,8 +105,8 @@ QString spokenLegend(const ProgramState& state) {
     for (int i = 1; i <= state.Professions.highest(); ++i)
         lines << state.Professions[i].Name;
     for (const LegendRow& row : legendRows) {
-        const QString code = row.symbol == Symbol::Code ? QString::fromLatin1(row.Code) + u": "_s : QString();
-        lines << code + state.text(row.text);
+        const QString code = codeOf(row);
+        lines << (code.isEmpty() ? QString() : code + u": "_s) + state.text(row.text);
     }
     return lines.join(u'\n');
 }
@@ -149,8 +154,9 @@ void frmLegenda::DrawLegend() {
     for (const LegendRow& row : legendRows) {
         const int y = line++ * pitch + rowsTop + row.OffsetY;
         drawSymbol(drawing, art_, row, y);
-        const int shift = row.symbol == Symbol::Green ? greenTextShift : 0;
-        drawing.print(firstColumn + textIndent + shift, y, state_.text(row.text));
+        const int left = firstColumn + textIndent + (row.symbol == Symbol::Green ? greenTextShift : 0);
+        drawing.print(left, y, state_.text(row.text));
+        picLegenda_->tell({left, y, pictureWidth - left, pitch}, state_.text(row.text), codeOf(row));
     }
 }
 
@@ -166,6 +172,8 @@ int frmLegenda::drawProfessions(Drawing& drawing) {
         drawing.setFill(state_.Professions[i].Color);
         drawing.box(x + 1, y, x + 1 + boxSize, y + boxSize);
         drawing.print(x + textIndent, y, state_.Professions[i].Name);
+        picLegenda_->tell({x + textIndent, y, pictureWidth / 2 - textIndent, pitch},
+                          state_.Professions[i].Name);
     }
     return longerColumn(professions);
 }

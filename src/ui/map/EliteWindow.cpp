@@ -152,6 +152,7 @@ void EliteWindow::fillSkill(const EliteTooltip& tip, const QImage& picture) {
                              lblExtEliteName_->fontMetrics().height() + 2 * nameMargin);
     lblExtEliteName_->setColour(readableOn(tip.band));
     setPicture(*imgExtElite_, picture);
+    imgExtElite_->setAccessibleName(tip.name);
     type_.value->setCaption(tip.type);
     attribute_.value->setCaption(tip.attribute);
     campaign_.value->setCaption(tip.campaign);

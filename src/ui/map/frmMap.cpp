@@ -2,6 +2,7 @@
 
 #include "app/About.h"
 #include "app/modLanguage.h"
+#include "ui/map/CreditsList.h"
 #include "ui/map/EmptyMap.h"
 #include "ui/platform/EdgeResize.h"
 #include "ui/platform/PictureButton.h"
@@ -111,7 +112,8 @@ void frmMap::sayWhatIsShown() {
     const ProgramState& state = with_.state;
     viewport_->setAccessibleName(mapLoaded() ? regionName(state, campaign_, region_)
                                              : state.text(emptyMapTitle));
-    viewport_->setAccessibleDescription(mapLoaded() ? campaignName(state, campaign_) : QString());
+    viewport_->setAccessibleDescription(mapLoaded() ? campaignName(state, campaign_)
+                                                    : byLine() + u'\n' + creditsText());
     setAccessibleName(programName() + u": "_s + viewport_->accessibleName());
 }
 

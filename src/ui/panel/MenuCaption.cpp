@@ -17,6 +17,12 @@ class AccessibleCaption : public QAccessibleWidget {
     QAccessible::Role role() const override {
         return caption_.isCommand() ? QAccessible::MenuItem : QAccessible::StaticText;
     }
+    // Of the texts only a heading is a row.
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.disabled = state.disabled || !caption_.isCommand();
+        return state;
+    }
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Name ? caption_.text() : QAccessibleWidget::text(kind);
     }

@@ -2,6 +2,7 @@
 
 #include "ui/platform/SpokenRole.h"
 
+#include <QLabel>
 #include <QMouseEvent>
 
 namespace orvinel {
@@ -30,6 +31,17 @@ QImage& PictureBox::surface() {
     if (surface_.isNull())
         clear();
     return surface_;
+}
+
+void PictureBox::tell(const QRect& place, const QString& text, const QString& symbol) {
+    if (text.isEmpty())
+        return;
+    auto* label = new QLabel(this);
+    label->setGeometry(place);
+    label->setAccessibleName(text);
+    label->setAccessibleDescription(symbol);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->show();
 }
 
 void PictureBox::paintEvent(QPaintEvent*) {

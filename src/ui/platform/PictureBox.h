@@ -20,6 +20,9 @@ class PictureBox : public QWidget {
     void clear();
     // To be drawn on between clear() and update(). Owned by the box; its device pixel ratio is the screen's.
     QImage& surface();
+    // Tells screen readers what is written at `place`, as a label of its own with `symbol` as its
+    // description. For what is drawn once and stays.
+    void tell(const QRect& place, const QString& text, const QString& symbol = {});
 
   signals:
     void clicked();

@@ -1,5 +1,7 @@
 #include "ui/platform/QtDesktop.h"
 
+#include "ui/platform/SpokenRole.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -24,6 +26,7 @@ namespace {
 int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
            QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    setSpokenRole(box, QAccessible::AlertMessage);
     box.setTextFormat(Qt::PlainText);
     QWidget* owner = QApplication::activeWindow();
     if (owner && owner->windowHandle())

@@ -20,7 +20,8 @@ QString shownTexts(const QWidget& widget) {
         if (!label || label->isHidden())
             continue;
         const QString said = label->text().isEmpty() ? label->accessibleName() : label->text();
-        if (!said.isEmpty())
+        // A picture is often named by a text beside it.
+        if (!said.isEmpty() && !(label->text().isEmpty() && texts.contains(said)))
             texts << said;
     }
     return texts.join(u'\n');
@@ -44,6 +45,11 @@ class SpokenWidget : public QAccessibleWidget {
         const auto menu = openMenus().indexOf(child ? child->object() : nullptr);
         return menu < 0 ? QAccessibleWidget::indexOfChild(child)
                         : QAccessibleWidget::childCount() + static_cast<int>(menu);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.modal = widget()->isModal();
+        return state;
     }
     QString text(QAccessible::Text kind) const override {
         QString text = QAccessibleWidget::text(kind);
