@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array<const char*, static_cast<size_t>(Sprite::Count)> pictureNames = {
+constexpr std::array pictureNames = {
     "picVanquish0",     "picDungeonEntrance0",
     "picOutpost1",      "picOutpost2",
     "picOutpost3",      "picMission1",
@@ -23,7 +23,9 @@ constexpr std::array<const char*, static_cast<size_t>(Sprite::Count)> pictureNam
     "picNote",          "picTreasure",
     "picPet",           "picSelezione",
     "picCollSelezione", "picGreenSelezione",
-    "picNoteSelezione", "picTreasureSelezione"};
+    "picNoteSelezione", "picTreasureSelezione",
+};
+static_assert(pictureNames.size() == static_cast<size_t>(Sprite::Count));
 
 constexpr QRgb seeThrough = 0xFFFF00FF;
 constexpr int codeAbove = 1; // a code's line starts one pixel above the box
