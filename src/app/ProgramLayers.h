@@ -14,8 +14,7 @@
 
 namespace orvinel {
 
-// The kinds of content and the orders in which they are drawn, asked and filtered: the one place to add a
-// line for a new kind.
+// The kinds of content, and the orders in which they are drawn, asked, hidden and filtered.
 struct ProgramLayers {
     struct Actions {
         std::function<void(int eliteId, bool fromMap)> openCapture;
