@@ -128,6 +128,21 @@ TEST_F(MapTest, eachChainAsksInItsOrderUntilALayerHasSomething) {
     map->setChains({});
 }
 
+// The first press was on something that lay over the map and went away with it.
+TEST_F(MapTest, aDoubleClickWhoseFirstPressWasElsewhereIsAPress) {
+    startOnFjord();
+    press(boss);
+    release(boss);
+    const QPointF place(nothing);
+    QMouseEvent second(QEvent::MouseButtonDblClick, place, map->picMap().mapTo(map.get(), place),
+                       map->picMap().mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
+    second.setTimestamp(60'000);
+    QCoreApplication::sendEvent(&map->picMap(), &second);
+    EXPECT_EQ(QStringList(), captures);
+    EXPECT_TRUE(map->dragging());
+    EXPECT_EQ((ViewPoint{place.x(), place.y()}), map->lastPress());
+}
+
 TEST_F(MapTest, anEmptyMapAsksNoLayer) {
     start();
     QStringList log;

@@ -2,6 +2,7 @@
 
 #include "ui/platform/SpokenRole.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -122,6 +123,7 @@ ViewPoint MapViewport::toView(const QMouseEvent& event) const {
 }
 
 void MapViewport::mousePressEvent(QMouseEvent* event) {
+    pressedAt_ = event->timestamp();
     emit pressed(event->button(), event->modifiers(), toView(*event));
 }
 
@@ -133,9 +135,12 @@ void MapViewport::mouseReleaseEvent(QMouseEvent* event) {
     emit released(event->button());
 }
 
-// Not passed on: the base class would make a second press of it.
-void MapViewport::mouseDoubleClickEvent(QMouseEvent*) {
-    emit doubleClicked();
+// Only when both presses were on the map: the first may have closed an information window or a menu over it.
+void MapViewport::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->timestamp() - pressedAt_ > ulong(QApplication::doubleClickInterval()))
+        mousePressEvent(event);
+    else
+        emit doubleClicked();
 }
 
 void MapViewport::wheelEvent(QWheelEvent* event) {

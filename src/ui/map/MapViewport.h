@@ -77,6 +77,7 @@ class MapViewport : public QWidget {
     MapView view_;
     MapSurface* surface_ = nullptr;
     QImage empty_;
+    ulong pressedAt_ = 0; // ms, the events' clock
     struct Shown {
         Selection selection;
         QImage picture;
