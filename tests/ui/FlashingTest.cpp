@@ -92,6 +92,17 @@ TEST_F(FlashingTest, chestsAndPetsShareOneMarker) {
     EXPECT_FALSE(marked({300, 300}));
 }
 
+TEST_F(FlashingTest, aMarkerAtTheEdgeEndsWithThePicture) {
+    disk.put(u"/o/Personal/Notes.txt"_s, "Edge\tx\t299\t100\t3\t2\r\n");
+    startOnFjord();
+    chooseRegion(u"Glacier"_s);
+    panel->tabs().activate(3);
+    lstNotes().select(0);
+    EXPECT_TRUE(marked({289, 100}));
+    const QImage beyond = map->picMap().grab(QRect(300, 80, 20, 40)).toImage();
+    EXPECT_TRUE(beyond.allGray()) << "more than the black beside the picture";
+}
+
 TEST_F(FlashingTest, noMarkerIsShownOnARegionOfWhichTheEntryIsNot) {
     startOnFjord();
     panel->tabs().activate(1);

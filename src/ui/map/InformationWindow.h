@@ -35,6 +35,10 @@ class InformationWindow : public PictureBox {
     // A line across the finished frame at this height, pixels.
     void separator(int y);
 
+  protected:
+    // Kept from the map below.
+    void mouseMoveEvent(QMouseEvent*) override {}
+
   private:
     void frame(const QRect& marker);
     // What the map shows under the box.

@@ -100,6 +100,7 @@ void MapViewport::paintSurface(QPainter& painter, const QRect& pixels) {
     const QPoint scroll(view_.scrollX(), view_.scrollY());
     const QRect part = pixels.translated(-scroll).intersected(visible);
     painter.drawImage(part.topLeft() + scroll, surface_->composed(part), part);
+    painter.setClipRect(part.translated(scroll)); // a marker at the picture's edge ends there
     for (const auto& shown : selections_)
         if (shown)
             painter.drawImage(shown->selection.at + scroll, shown->picture);
