@@ -78,11 +78,13 @@ TEST_F(ListBoxTest, theOtherButtonsLeaveTheSelectionAlone) {
     EXPECT_EQ(1, picks);
 }
 
-TEST_F(ListBoxTest, aClickWithControlOnTheSelectedEntryKeepsIt) {
+TEST_F(ListBoxTest, thePlayerCannotTakeTheSelectionAway) {
     click(1);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, middleOf(1));
     EXPECT_EQ(1, list.selectedIndex());
     QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(1, list.selectedIndex());
+    click(4); // below the last entry
     EXPECT_EQ(1, list.selectedIndex());
     EXPECT_EQ(2, picks);
 }

@@ -198,11 +198,12 @@ void ListBox::pickWhatIsSelected() {
         select(selected.front().row());
 }
 
-// Ctrl would take the selection away, which leaves nothing for the places to belong to.
+// Ctrl or a click below the last entry would take the selection away: what is shown of it would stay alone.
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
                                                               const QEvent* event) const {
     const auto command = QListView::selectionCommand(index, event);
-    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+    return index.isValid() && !(command & QItemSelectionModel::Deselect) ? command
+                                                                         : QItemSelectionModel::NoUpdate;
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
