@@ -65,7 +65,12 @@ bool Program::start() {
     map_->InizializzaVariabili({}, -1, -1);
     panel_->Form_Load();
     showWindows();
-    QTimer::singleShot(screenFirstMs, map_, &frmMap::beginRest);
+    QTimer::singleShot(screenFirstMs, this, [this] {
+        map_->beginRest();
+        // Some window managers pull a new window wholly onto the screen, but leave it where it is moved to
+        // afterwards.
+        attachMap();
+    });
     return true;
 }
 

@@ -125,7 +125,17 @@ def second_monitor(folder):
         until(f"the windows at {stood}", lambda: places(player) == stood)
 
 
-ERRANDS = [task_bar, always_on_top, second_monitor]
+def lower_edge(folder):
+    make_world(folder)
+    journeys.options(folder, PosX=1500, PosY=6000, DimX=9000, DimY=9000)
+    with Desktop(folder) as player:
+        def beside():
+            panel, map_window = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
+            return (map_window.x, map_window.y) == (panel.x + panel.width, panel.y)
+        until("the map beside the panel, partly below the screen", beside)
+
+
+ERRANDS = [task_bar, always_on_top, second_monitor, lower_edge]
 
 
 def main():
