@@ -160,8 +160,9 @@ struct Search {
         const MapLocation& at = collector.Location;
         return at.placed() &&
                (choice.level == CollectorChoice::anyLevel || collector.Level == choice.level) &&
-               passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone) && admitsKind(collector) &&
-               occursIn(collector.FoldedRequest, request) && admitsObjects(collector);
+               passesPlace(choice.place, zone, at.Campaign, at.Region, at.Zone) && admitsZone(at) &&
+               admitsKind(collector) && occursIn(collector.FoldedRequest, request) &&
+               admitsObjects(collector);
     }
 
     bool admits(const Collector& collector, const CollectorObject& object) const {
@@ -179,6 +180,9 @@ struct Search {
     static std::string_view between(std::string_view all, int begin, int end) {
         return all.substr(static_cast<size_t>(begin), static_cast<size_t>(end - begin));
     }
+
+    // A zone with the identifier 0 is a choice too.
+    bool admitsZone(const MapLocation& at) const { return choice.place.zoneIndex == 0 || at.Zone == zone; }
 
     bool admitsKind(const Collector& collector) const {
         return choice.kind == CollectorChoice::Kind::All ||

@@ -17,7 +17,8 @@ struct CollectorLists : testing::Test {
         state.AppPath = u"/o/"_s;
         state.LanguageTable.grow(9) = u"All"_s;
         disk.put(u"/o/Campaign.01.A/Regions.txt"_s, "1\tNorth\r\n2\tSouth\r\n");
-        disk.put(u"/o/Campaign.01.A/Zones.txt"_s, "70\t1\t1\t1\t9\t9\tMoor\r\n80\t1\t1\t1\t9\t9\tFen\r\n");
+        disk.put(u"/o/Campaign.01.A/Zones.txt"_s,
+                 "70\t1\t1\t1\t9\t9\tMoor\r\n80\t1\t1\t1\t9\t9\tFen\r\n0\t1\t1\t1\t9\t9\tHeath\r\n");
         disk.put(
             u"/o/Campaign.01.A/Collectors.txt"_s,
             "; a comment\r\n"
@@ -113,6 +114,10 @@ TEST_F(CollectorLists, areRestrictedByThePanel) {
              c.place = {1, 1, 2};
          }),
          {1}},
+        {choice([](Choice& c) {
+             c.place = {1, 1, 3};
+         }),
+         {}},
         {choice([](Choice& c) { c.level = 1; }), {3}},
         {choice([](Choice& c) { c.kind = Choice::Kind::Objects; }), {2, 1}},
         {choice([](Choice& c) { c.kind = Choice::Kind::Armour; }), {3}},
