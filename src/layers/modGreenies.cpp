@@ -14,7 +14,7 @@ namespace {
 
 constexpr int barHeight = 3;
 // Every location of a boss lists its items: without a bound two long files would multiply each other.
-constexpr size_t mostItemsOfBoss = 32;
+constexpr size_t mostItemsOfBoss = 128;
 
 void readGreens(ProgramState& state, TextFile& file) {
     while (file.nextLine()) {
