@@ -4,6 +4,7 @@
 #include "ui/platform/ItemCombo.h"
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
+#include "ui/platform/SmallCheckBox.h"
 #include "ui/platform/Windows.h"
 
 #include <QAccessible>
@@ -164,6 +165,18 @@ TEST(Label, showsEveryLetterOfItsCaptionWhateverItNames) {
     naming.setCaption(u"Type & hand"_s);
     EXPECT_EQ(plain.grab().toImage(), naming.grab().toImage());
     EXPECT_EQ(u"Type & hand"_s, named.accessibleName());
+}
+
+TEST(SmallCheckBox, aScreenReaderSwitchesItsValue) {
+    SmallCheckBox box(u"chk"_s, nullptr);
+    std::vector<int> values;
+    QObject::connect(&box, &SmallCheckBox::changed, [&] { values.push_back(box.value()); });
+    QAccessibleActionInterface* actions = QAccessible::queryAccessibleInterface(&box)->actionInterface();
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    box.setValue(2);
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_THAT(values, testing::ElementsAre(0, 1, 2, 0));
 }
 
 TEST(Fonts, haveTheHeightsThatTheLayoutsWereMadeFor) {

@@ -9,6 +9,11 @@ SmallCheckBox::SmallCheckBox(const QString& name, QWidget* parent) : QCheckBox(p
     setObjectName(name);
     setChecked(true);
     resize(13, 14);
+    // Screen readers toggle the button itself.
+    connect(this, &QCheckBox::stateChanged, this, [this](int state) {
+        if (state != Qt::PartiallyChecked)
+            setValue(state == Qt::Checked ? 1 : 0);
+    });
 }
 
 int SmallCheckBox::value() const {
