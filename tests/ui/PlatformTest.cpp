@@ -165,6 +165,7 @@ TEST(Label, showsEveryLetterOfItsCaptionWhateverItNames) {
     naming.setCaption(u"Type & hand"_s);
     EXPECT_EQ(plain.grab().toImage(), naming.grab().toImage());
     EXPECT_EQ(u"Type & hand"_s, named.accessibleName());
+    EXPECT_EQ(u"Type & hand"_s, named.accessibleDescription()) << "in place of the label";
 }
 
 TEST(SmallCheckBox, aScreenReaderSwitchesItsValue) {

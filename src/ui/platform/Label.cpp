@@ -34,8 +34,10 @@ void Label::tellName() {
         return;
     named_->setAccessibleName(text());
     // A screen reader asks a drop-down list for its label: the name that it is told is the entry selected. A
-    // label with a buddy would take "&" for a shortcut.
-    setBuddy(text().contains(u'&') ? nullptr : named_);
+    // label with a buddy would take "&" for a shortcut; then a description has to do.
+    const bool shortcut = text().contains(u'&');
+    setBuddy(shortcut ? nullptr : named_);
+    named_->setAccessibleDescription(shortcut ? text() : QString());
 }
 
 void Label::setWrapWidth(int pixels) {
