@@ -199,9 +199,7 @@ TEST_F(MapTest, whatIsNoPictureGivesTheEmptyMap) {
 
 TEST_F(MapTest, theEmptyMapIsPaintedAtEverySize) {
     startOnFjord();
-    EXPECT_EQ(u"Frost"_s, map->picMap().accessibleDescription());
     map->InizializzaVariabili({}, -1, -1);
-    EXPECT_TRUE(map->picMap().accessibleDescription().contains(u"\nSpecial thanks"_s));
     map->resize(500, 400);
     const QImage small = map->picMap().grab().toImage();
     EXPECT_EQ(QSize(496, 396), small.size());
