@@ -127,15 +127,6 @@ void keepOffTaskBar(QWidget&) {
 
 #endif
 
-Qt::WindowFlags frameless() {
-#ifdef Q_OS_WIN
-    // Without a system menu it may pass for a pop-up, which stays above the dialogs.
-    return Qt::FramelessWindowHint | Qt::WindowSystemMenuHint;
-#else
-    return Qt::FramelessWindowHint;
-#endif
-}
-
 Qt::WindowFlags minimisable() {
 #ifdef Q_OS_WIN
     return Qt::WindowMinimizeButtonHint;

@@ -160,6 +160,15 @@ void applyAppearance(QApplication& application) {
         QApplication::installTranslator(translator);
 }
 
+Qt::WindowFlags frameless() {
+#ifdef Q_OS_WIN
+    // Without a system menu it may pass for a pop-up, which stays above the dialogs.
+    return Qt::FramelessWindowHint | Qt::WindowSystemMenuHint;
+#else
+    return Qt::FramelessWindowHint;
+#endif
+}
+
 void WindowDrag::press(QPoint global) {
     QWindow* handle = window_.windowHandle();
     following_ = !(handle && handle->startSystemMove());
