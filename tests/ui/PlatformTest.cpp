@@ -38,6 +38,23 @@ TEST(ItemCombo, selectingFromCodeRunsTheHandlerExactlyOnceAlsoForTheSameEntry) {
     EXPECT_EQ(-1, combo.currentIndex());
 }
 
+TEST(ItemCombo, aRowOfTheOpenListChosenByAScreenReaderIsPicked) {
+    ItemCombo combo(u"cmb"_s, nullptr);
+    combo.setEntries({{u"one"_s, 7}, {u"two"_s, 8}});
+    combo.select(0);
+    int picks = 0;
+    QObject::connect(&combo, &ItemCombo::picked, [&] { ++picks; });
+    combo.show();
+    combo.showPopup();
+    QAccessibleActionInterface* row =
+        QAccessible::queryAccessibleInterface(combo.view())->child(1)->actionInterface();
+    row->doAction(row->actionNames().at(0));
+    QTest::qWait(0);
+    EXPECT_EQ(8, combo.data());
+    EXPECT_EQ(1, picks);
+    EXPECT_FALSE(combo.view()->isVisible());
+}
+
 struct ListBoxTest : testing::Test {
     ListBox list{u"lst"_s, nullptr};
     int picks = 0;

@@ -48,7 +48,18 @@ void ItemCombo::setDropRows(int rows) {
 
 void ItemCombo::showPopup() {
     view()->setAccessibleName(accessibleName());
+    connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ItemCombo::pickWhatIsSelected, Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
     QComboBox::showPopup();
+}
+
+// A screen reader selects a row without making it the current one, as mouse and keys do.
+void ItemCombo::pickWhatIsSelected() {
+    const QModelIndexList selected = view()->selectionModel()->selectedIndexes();
+    if (!view()->isVisible() || selected.isEmpty() || selected.front() == view()->currentIndex())
+        return;
+    hidePopup();
+    select(selected.front().row());
 }
 
 void ItemCombo::wheelEvent(QWheelEvent* event) {

@@ -30,6 +30,9 @@ class ItemCombo : public QComboBox {
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void pickWhatIsSelected();
 };
 
 } // namespace orvinel
