@@ -223,6 +223,18 @@ TEST_F(PopupMenuTest, tellsAScreenReaderItsRowsAndTheirStates) {
     EXPECT_THAT(chosen, ElementsAre(Pair(1, 8)));
 }
 
+TEST_F(PopupMenuTest, aScreenReaderChoosesByTogglingABox) {
+    menu.SetValue(1, 1, 1);
+    menu.SetValue(1, 4, 1);
+    for (const QString& box : {u"chkEntry(0)"_s, u"chkEntry(1)"_s, u"optEntry(2)"_s}) {
+        menu.OpenMenu(1, label);
+        QAccessibleInterface* row = QAccessible::queryAccessibleInterface(control<QWidget>(box));
+        row->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        EXPECT_FALSE(menu.isVisible());
+    }
+    EXPECT_THAT(chosen, ElementsAre(Pair(1, 0), Pair(1, 1), Pair(1, 6)));
+}
+
 TEST_F(PopupMenuTest, belongsToItsWindowForScreenReadersWhileItIsOpen) {
     QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&panel);
     const int parts = window->childCount();

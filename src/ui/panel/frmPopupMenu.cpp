@@ -129,7 +129,13 @@ void frmPopupMenu::makePools() {
     });
     const auto makeBox = [this](QAbstractButton* box, const QString& name) {
         box->setObjectName(name);
-        connect(box, &QAbstractButton::clicked, this, [this, box] { choose(box->property(tag).toInt()); });
+        const auto chooseRow = [this, box] { choose(box->property(tag).toInt()); };
+        connect(box, &QAbstractButton::clicked, this, chooseRow);
+        // Screen readers toggle the box without a click. An option that goes out has not been chosen.
+        connect(box, &QAbstractButton::toggled, this, [box, chooseRow](bool on) {
+            if (on || !box->autoExclusive())
+                chooseRow();
+        });
         watch(*box);
     };
     setCount(chkEntry, menu.CheckCount, [&](int i) {
