@@ -138,6 +138,16 @@ TEST_F(PanelTest, armourHasNoHandAndIsFilteredOnce) {
     EXPECT_EQ(u"C1"_s, callsOf([&] { page.cmbCollReq->select(0); }));
 }
 
+TEST_F(PanelTest, aClickOnTheOptionChosenChangesNothing) {
+    startPanel();
+    CollectorsPage& page = panel->collectorsPage();
+    for (QRadioButton* chosen :
+         {page.optCollType[0], page.optCollLevel[0], panel->elitePage().optCapture[0]}) {
+        EXPECT_EQ(QString(), callsOf([&] { chosen->click(); }));
+        EXPECT_TRUE(chosen->isChecked()) << qPrintable(chosen->objectName());
+    }
+}
+
 TEST_F(PanelTest, aLayersBoxSwitchesItsBlinkingAndRedraws) {
     startPanel();
     SmallCheckBox* notes = panel->tabs().chkShowObject[3];

@@ -1,5 +1,7 @@
 #include "ui/panel/CollectorsPage.h"
 
+#include <QButtonGroup>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,8 +15,13 @@ constexpr std::array<QRect, 3> typePlaces = {QRect(2, 22, 95, 16), QRect(2, 38, 
 
 CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(1, parent) {
     lblCollStuffType = panelLabel(u"lblCollStuffType"_s, {4, 8}, inner());
-    for (int i = 0; i < 3; ++i)
+    // Without a group of their own they would belong together with the levels, which lie deeper on this page:
+    // a click on the type chosen would leave none chosen.
+    auto* types = new QButtonGroup(this);
+    for (int i = 0; i < 3; ++i) {
         optCollType[size_t(i)] = panelOption(arrayName(u"optCollType"_s, i), typePlaces[size_t(i)], inner());
+        types->addButton(optCollType[size_t(i)]);
+    }
     lblCollectorLevel = panelLabel(u"lblCollectorLevel"_s, {124, 8}, inner());
     picCollLevels = new QWidget(inner());
     picCollLevels->setObjectName(u"picCollLevels"_s);
