@@ -27,8 +27,6 @@ QString builtIn(OwnText number) {
         return u"Some changes could not be saved. Quit anyway?"_s;
     case OwnText::NotOpened:
         return u"%1 could not be opened."_s;
-    case OwnText::FolderReadOnly:
-        return u"The program folder cannot be written to: %1"_s;
     case OwnText::Quit:
         return u"Quit"_s;
     case OwnText::Minimise:

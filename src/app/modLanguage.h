@@ -28,9 +28,8 @@ enum class OwnText {
     SkillNumberTooLarge = 205,
     ChangedOutside = 206, // %1 file
     QuitWithoutSaving = 207,
-    NotOpened = 208,      // %1 file
-    FolderReadOnly = 209, // %1 reason
-    Quit = 210,           // the map window's buttons, for screen readers
+    NotOpened = 208, // %1 file
+    Quit = 210,      // the map window's buttons, for screen readers
     Minimise = 211,
     Maximise = 212,
     Upkeep = 213, // what the numbers beside the skill's icons are, for screen readers
