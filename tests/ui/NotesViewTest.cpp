@@ -12,6 +12,10 @@ struct NotesViewTest : LayersFixture {
     const QString file = u"/o/Personal/Notes.txt"_s;
 
     QAction& entry(const char* name) { return inMap<QAction>(name); }
+    void choose(const char* name) {
+        entry(name).trigger();
+        QCoreApplication::processEvents();
+    }
     QString enabledEntries() {
         QString enabled;
         for (const char* name : {"mnuNoteInsert", "mnuNoteEdit", "mnuNoteDelete"})
@@ -53,7 +57,8 @@ TEST_F(NotesViewTest, aNewNoteIsPinnedWhereTheMapWasDoubleClicked) {
     EXPECT_TRUE(menuOpen());
     EXPECT_EQ(u"100"_s, enabledEntries());
     storedNote = 3;
-    entry("mnuNoteInsert").trigger();
+    choose("mnuNoteInsert");
+    EXPECT_FALSE(menuOpen());
     EXPECT_EQ(-1, request.note);
     EXPECT_EQ((MapPoint{450, 330}), request.at);
     EXPECT_EQ(3, request.campaign);
@@ -65,7 +70,7 @@ TEST_F(NotesViewTest, cancellingTheEditorRefillsNothing) {
     startOnFjord();
     doubleClick(alpha);
     EXPECT_EQ(u"011"_s, enabledEntries());
-    entry("mnuNoteEdit").trigger();
+    choose("mnuNoteEdit");
     EXPECT_EQ(1, request.note);
     EXPECT_EQ(0, noteFilters);
 }
@@ -74,11 +79,11 @@ TEST_F(NotesViewTest, aNoteIsDeletedOnlyAfterYes) {
     startOnFjord();
     desktop.answer = false;
     doubleClick(alpha);
-    entry("mnuNoteDelete").trigger();
+    choose("mnuNoteDelete");
     EXPECT_EQ(QStringList{u"ask Question Orvinel|Text 72"_s}, desktop.log);
     EXPECT_EQ(QStringList{u"Alpha"_s}, texts(lstNotes()));
     desktop.answer = true;
-    entry("mnuNoteDelete").trigger();
+    choose("mnuNoteDelete");
     EXPECT_EQ("Beta\tother\t60\t60\t3\t2\r\n", disk.content(file));
     EXPECT_EQ(0, lstNotes().count());
     EXPECT_EQ(u"Text 65: 0"_s, panel->notesPage().lblNoteList->text());
@@ -90,7 +95,7 @@ TEST_F(NotesViewTest, aNoteWhoseFileCannotBeWrittenStays) {
     startOnFjord();
     doubleClick(alpha);
     disk.failAt = 1;
-    entry("mnuNoteDelete").trigger();
+    choose("mnuNoteDelete");
     EXPECT_EQ(2, desktop.log.size()); // the question, then what went wrong
     EXPECT_EQ(QStringList{u"Alpha"_s}, texts(lstNotes()));
 }
@@ -119,7 +124,7 @@ TEST_F(NotesViewTest, aNoteOfAnotherRegionKeepsItsRegionWhenEdited) {
     EXPECT_EQ(2, map->MapRegion());
     map->InizializzaVariabili(u"/o/Campaign.03.Frost/1.jpg"_s, 3, 1);
     QTest::keyClick(&lstNotes(), Qt::Key_Menu);
-    entry("mnuNoteEdit").trigger();
+    choose("mnuNoteEdit");
     EXPECT_EQ(2, request.note);
     EXPECT_EQ(2, request.region);
 }
@@ -143,7 +148,11 @@ TEST_F(RegionMenuTest, anEntryChoosesItsRegionInThePanelAndOnTheMap) {
     startOnFjord();
     chooseCampaign(u"Core"_s);
     EXPECT_FALSE(map->mapLoaded());
+    inMap<QMenu>("MenuPopupRegion").popup({});
+    inMap<QMenu>("MenuPopupRegion").setActiveAction(inMap<QMenu>("mnuCampaign(3)").menuAction());
+    ASSERT_TRUE(inMap<QMenu>("mnuCampaign(3)").isVisible());
     inMap<QAction>("mnuC2Region(2)").trigger();
+    EXPECT_FALSE(inMap<QMenu>("MenuPopupRegion").isVisible() || inMap<QMenu>("mnuCampaign(3)").isVisible());
     EXPECT_EQ(u"Frost"_s, panel->selection().cmbCampaign->currentText());
     EXPECT_EQ(u"Glacier"_s, panel->selection().cmbRegion->currentText());
     EXPECT_EQ(2, map->MapRegion());

@@ -50,6 +50,9 @@ MapMenus::MapMenus(Surroundings with, NoteActions actions)
       MenuPopupRegion_(new QMenu(&with.map)) {
     buildNoteMenu();
     buildRegionMenu();
+    // Only a click closes a menu by itself, a screen reader's choice does not.
+    for (QMenu* menu : {MenuPopUp_, MenuPopupRegion_})
+        connect(menu, &QMenu::triggered, menu, &QMenu::close);
 }
 
 void MapMenus::buildNoteMenu() {
@@ -59,9 +62,10 @@ void MapMenus::buildNoteMenu() {
     mnuNoteInsert_ = addEntry(*MenuPopUp_, u"mnuNoteInsert"_s, state.text(insertCaption));
     mnuNoteEdit_ = addEntry(*MenuPopUp_, u"mnuNoteEdit"_s, state.text(editCaption));
     mnuNoteDelete_ = addEntry(*MenuPopUp_, u"mnuNoteDelete"_s, state.text(deleteCaption));
-    connect(mnuNoteInsert_, &QAction::triggered, this, &MapMenus::editNote);
-    connect(mnuNoteEdit_, &QAction::triggered, this, &MapMenus::editNote);
-    connect(mnuNoteDelete_, &QAction::triggered, this, &MapMenus::askToDelete);
+    // Not at once: a screen reader that chooses waits for an answer, and the dialogs stay open for long.
+    connect(mnuNoteInsert_, &QAction::triggered, this, &MapMenus::editNote, Qt::QueuedConnection);
+    connect(mnuNoteEdit_, &QAction::triggered, this, &MapMenus::editNote, Qt::QueuedConnection);
+    connect(mnuNoteDelete_, &QAction::triggered, this, &MapMenus::askToDelete, Qt::QueuedConnection);
 }
 
 void MapMenus::buildRegionMenu() {

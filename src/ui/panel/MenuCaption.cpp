@@ -4,6 +4,7 @@
 #include "ui/panel/frmPopupMenu.h"
 
 #include <QAccessibleWidget>
+#include <QMetaObject>
 
 namespace orvinel {
 
@@ -33,8 +34,10 @@ class AccessibleCaption : public QAccessibleWidget {
         return names;
     }
     void doAction(const QString& name) override {
+        // Not at once: a screen reader gets its answer only then, and a command's window may stay open for
+        // long.
         if (name == pressAction() && caption_.isCommand())
-            emit caption_.clicked();
+            QMetaObject::invokeMethod(&caption_, &Label::clicked, Qt::QueuedConnection);
         else
             QAccessibleWidget::doAction(name);
     }
