@@ -79,13 +79,16 @@ QString campaignFolder(const ProgramState& state, int campaign) {
 }
 
 std::vector<int> regionOrder(const ProgramState& state, int campaign) {
+    const int highest = state.Campaigns.has(campaign) ? state.Campaigns[campaign].Regions.highest() : 0;
+    if (highest == 0)
+        return {}; // also where the order is fixed: nothing of it would lead anywhere
     if (campaign == 1)
         return {8, 4, 5, 6, 7, 1, 2, 3};
     if (campaign == 2)
         return {4, 1, 2, 3};
     std::vector<int> order;
-    if ((campaign == 3 || campaign == 4) && state.Campaigns.has(campaign))
-        for (int r = 1; r <= state.Campaigns[campaign].Regions.highest(); ++r)
+    if (campaign == 3 || campaign == 4)
+        for (int r = 1; r <= highest; ++r)
             order.push_back(r);
     return order;
 }
