@@ -183,7 +183,6 @@ void Program::RestoreWindowPlacement() {
     }
     MapMaximised_ = false;
     place(*remembered);
-    restored_ = WindowPair{panel_->geometry(), map_->geometry()};
 }
 
 void Program::ToggleMapMaximised() {

@@ -88,8 +88,8 @@ class Program : public QObject {
     std::function<void(int)> endProcess_;
     bool ended_ = false;
     bool MapMaximised_ = false;
-    // Where the windows were put at start; while they stand there, the remembered values are written back
-    // unchanged.
+    // Where the windows were put at start instead of a remembered place that no screen shows; while they
+    // stand there, that place is written back unchanged.
     std::optional<WindowPair> restored_;
 
     std::unique_ptr<frmMenu> panel_; // owns the map window, which owns the legend
