@@ -65,12 +65,8 @@ bool Program::start() {
     map_->InizializzaVariabili({}, -1, -1);
     panel_->Form_Load();
     showWindows();
-    QTimer::singleShot(screenFirstMs, this, [this] {
-        map_->beginRest();
-        // Some window managers pull a new window wholly onto the screen, but leave it where it is moved to
-        // afterwards.
-        attachMap();
-    });
+    QTimer::singleShot(screenFirstMs, map_, &frmMap::beginRest);
+    attachShownMap();
     return true;
 }
 
@@ -138,6 +134,7 @@ void Program::wireMap() {
             [this](int note, MapPoint at, QPoint global) { mapMenus_->openNoteMenu(note, at, global); });
     taskBar_ = std::make_unique<frmFAKE>(TaskBarGroup{*panel_, *map_, *legend_, panel_->MenuLegendShown});
     connect(taskBar_.get(), &frmFAKE::quitWanted, this, &Program::QuitProgram);
+    connect(taskBar_.get(), &frmFAKE::shownAgain, this, &Program::attachShownMap);
 }
 
 void Program::showWindows() {
@@ -168,6 +165,12 @@ void Program::place(const WindowPair& pair) {
 void Program::attachMap() {
     if (map_ && !MapMaximised_)
         map_->move(panel_->x() + panel_->width(), panel_->y());
+}
+
+void Program::attachShownMap() {
+    // Some window managers pull a window that appears wholly onto the screen, but leave it where it is moved
+    // to afterwards.
+    QTimer::singleShot(screenFirstMs, this, &Program::attachMap);
 }
 
 void Program::RestoreWindowPlacement() {

@@ -56,6 +56,7 @@ class Program : public QObject {
     void RestoreWindowPlacement();
     void place(const WindowPair& pair);
     void attachMap();
+    void attachShownMap();
     bool saveOptions();
     void copyPlaces();
 

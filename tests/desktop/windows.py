@@ -133,6 +133,11 @@ def lower_edge(folder):
             panel, map_window = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
             return (map_window.x, map_window.y) == (panel.x + panel.width, panel.y)
         until("the map beside the panel, partly below the screen", beside)
+        run("xdotool", "windowminimize", str(player.button.number))
+        until("nothing left on the screen", lambda: not player.shown())
+        run("xdotool", "windowactivate", str(player.button.number))
+        until("both windows back", lambda: len(player.shown()) == 2)
+        until("the map beside the panel again", beside)
 
 
 ERRANDS = [task_bar, always_on_top, second_monitor, lower_edge]

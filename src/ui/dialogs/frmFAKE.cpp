@@ -69,6 +69,8 @@ void frmFAKE::Form_Resize() {
     group_.legend.setVisible(next.legend);
     if (next.map)
         bringToFront();
+    if (next.map && !now.map)
+        emit shownAgain();
 }
 
 void frmFAKE::bringToFront() {

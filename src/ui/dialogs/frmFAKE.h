@@ -37,6 +37,8 @@ class frmFAKE : public QWidget {
   signals:
     // The task bar's "close" was chosen.
     void quitWanted();
+    // Panel and map have come back to the screen.
+    void shownAgain();
 
   protected:
     void changeEvent(QEvent* event) override;
