@@ -10,7 +10,7 @@ import sys
 
 import journeys
 from journeys import Player, in_marsh, make_world
-from screen import keys, run, until, windows
+from screen import click, hover, keys, run, until, windows
 
 MANAGERS = ["openbox", "xfwm4"]
 MONITOR = 1280  # pixels wide; there are two of them
@@ -91,15 +91,16 @@ def always_on_top(folder):
         all_have(player, {"SKIP_TASKBAR"}, unwanted={"ABOVE"})
 
 
+def places(player):
+    found = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
+    return [(w.x, w.y, w.width, w.height) for w in found]
+
+
 def second_monitor(folder):
     make_world(folder)
     in_marsh(folder)
     for name, left, output in (("left", 0, "screen"), ("right", MONITOR, "none")):
         run("xrandr", "--setmonitor", name, f"{MONITOR}/300x900/200+{left}+0", output)
-
-    def places(player):
-        found = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
-        return [(w.x, w.y, w.width, w.height) for w in found]
 
     with Desktop(folder) as player:
         assert player.map.x + player.map.width <= MONITOR, "more than the first monitor is filled"
@@ -140,7 +141,25 @@ def lower_edge(folder):
         until("the map beside the panel again", beside)
 
 
-ERRANDS = [task_bar, always_on_top, second_monitor, lower_edge]
+def hasty_click(folder):
+    """A button that is let go at once leaves no window hanging on the pointer; a drag in one go takes it along."""
+    make_world(folder)
+    journeys.options(folder, PosX=1500, PosY=750, DimX=9000, DimY=6000)
+    with Desktop(folder) as player:
+        until("the windows", lambda: places(player)[0][:2] == (100, 50))
+        stood = places(player)
+        for x, y in [(250, 95), (916, 200)] * 2:  # the panel's background, the map's right edge
+            click(x, y)
+            hover(900, 700)
+            menu = player.popup(lambda: keys("F10"))  # a key is heard after all of this
+            keys("Escape")
+            player.gone(menu)
+            assert places(player) == stood, f"moved by a click at {x}, {y}: {places(player)}"
+        run("xdotool", "mousemove", "250", "95", "mousedown", "1", "mousemove", "290", "115", "mouseup", "1")
+        until("the windows at their new place", lambda: [p[:2] for p in places(player)] == [(140, 70), (357, 70)])
+
+
+ERRANDS = [task_bar, always_on_top, second_monitor, lower_edge, hasty_click]
 
 
 def main():

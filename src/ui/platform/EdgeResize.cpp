@@ -1,5 +1,7 @@
 #include "ui/platform/EdgeResize.h"
 
+#include "ui/platform/Windows.h"
+
 #include <QCursor>
 #include <QMouseEvent>
 #include <QWidget>
@@ -57,7 +59,7 @@ bool EdgeResize::eventFilter(QObject* watched, QEvent* event) {
         showCursor(*widget, edges);
     if (event->type() == QEvent::MouseButtonPress && at->button() == Qt::LeftButton && edges) {
         QWindow* handle = window_.windowHandle();
-        if (!handle || !handle->startSystemResize(edges)) {
+        if (!systemDrags() || !handle || !handle->startSystemResize(edges)) {
             following_ = edges;
             start_ = window_.geometry();
             grip_ = global;

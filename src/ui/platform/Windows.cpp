@@ -169,9 +169,13 @@ Qt::WindowFlags frameless() {
 #endif
 }
 
+bool systemDrags() {
+    return QGuiApplication::platformName() != u"xcb"_s;
+}
+
 void WindowDrag::press(QPoint global) {
     QWindow* handle = window_.windowHandle();
-    following_ = !(handle && handle->startSystemMove());
+    following_ = !(systemDrags() && handle && handle->startSystemMove());
     grip_ = global - window_.pos();
 }
 

@@ -21,8 +21,12 @@ void chooseWindowSystem();
 // the program icon a moment later, since decoding its pictures takes longer than the windows' first paint.
 void applyAppearance(QApplication& application);
 
-// Moves a window without a title bar while the left button is held on its background: by the window manager
-// where there is one, else by following the mouse. One per window; it calls for nothing but the window's
+// Whether the system can be asked to move or resize a window with the mouse. Not under X11: a button that is
+// let go before the window manager has taken hold would leave the window hanging on the pointer.
+bool systemDrags();
+
+// Moves a window without a title bar while the left button is held on its background: by the system where it
+// can, else by following the mouse. One per window; it calls for nothing but the window's
 // mouse events.
 class WindowDrag {
   public:
