@@ -88,6 +88,20 @@ TEST_F(ListBoxTest, pickingByMouseKeysAndCodeIsToldOnceEach) {
     EXPECT_FALSE(list.hasSelection());
 }
 
+TEST_F(ListBoxTest, rowsAreSpokenOfAsShownOnlyWhileTheListIs) {
+    list.setEntries(std::vector<ListEntry>(40, ListEntry{u"row"_s, 1}));
+    const auto hidden = [this](int row) {
+        return bool(QAccessible::queryAccessibleInterface(&list)->child(row)->state().invisible);
+    };
+    EXPECT_FALSE(hidden(0));
+    list.hide();
+    EXPECT_TRUE(hidden(0));
+    list.select(30); // scrolled to all the same
+    list.show();
+    EXPECT_TRUE(hidden(0));
+    EXPECT_FALSE(hidden(30));
+}
+
 TEST_F(ListBoxTest, theOtherButtonsLeaveTheSelectionAlone) {
     click(1);
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})

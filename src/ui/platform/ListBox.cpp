@@ -94,6 +94,16 @@ void ListBox::setEntries(std::vector<ListEntry> entries) {
     model_->extent = 0;
 }
 
+QRect ListBox::visualRect(const QModelIndex& index) const {
+    return isVisible() || scrolling_ ? QListView::visualRect(index) : QRect();
+}
+
+void ListBox::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    scrolling_ = true;
+    QListView::scrollTo(index, hint);
+    scrolling_ = false;
+}
+
 int ListBox::count() const {
     return model_->rowCount();
 }

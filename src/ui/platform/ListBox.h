@@ -54,6 +54,10 @@ class ListBox : public QListView {
     // Pixels that can be scrolled into view sideways; 0: as wide as the list.
     void setHorizontalExtent(int pixels);
 
+    // Nothing while the list is not to be seen: so a screen reader does not hear its rows as shown.
+    QRect visualRect(const QModelIndex& index) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
   signals:
     void picked();
     // Double click, or Enter on the selected entry. While nobody listens, Enter is left to the window.
@@ -79,6 +83,7 @@ class ListBox : public QListView {
     ListModel* model_;
     int revision_ = 0;
     bool silent_ = false;
+    bool scrolling_ = false;
     bool pickedByPress_ = false;
 };
 
