@@ -33,8 +33,9 @@ def shipped(folder):
         player.quit()
 
 
-# Wine itself could not live with a limit to the size of files.
-ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand is not journeys.cannot_write)]
+# Wine itself could not live with a limit to the size of files, and hands documents to programs of its own.
+ELSEWHERE = [journeys.cannot_write, journeys.shell]
+ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE)]
 
 
 def main():
@@ -51,10 +52,11 @@ def main():
     if "ORVINEL_JOURNEYS" not in os.environ:
         return journeys.main(__file__, ERRANDS)
     PREFIX.mkdir(exist_ok=True)
-    subprocess.run(["wineserver", "--persistent"])
     try:
         if not (PREFIX / "system.reg").exists():
-            subprocess.run(["wineboot", "--init"], capture_output=True)
+            # Into no pipe: what it starts stays, and with it the pipe's other end.
+            subprocess.run(["wineboot", "--init"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        subprocess.run(["wineserver", "--persistent"])
         return journeys.main(__file__, ERRANDS)
     finally:
         subprocess.run(["wineserver", "--kill"])
