@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 namespace worldgen {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool everywhere(QPoint) {
@@ -57,16 +60,15 @@ TEST(PlaceFinder, dependsOnItsSeedAlone) {
 /// Two regions with a town each; forty bosses live in the first town.
 WorldSource crowdedWorld() {
     WorldSource world;
-    world.regions = {{1, 1, u"1"_qs, u"West"_qs, Theme::Frost, QSize(800, 600), 9},
-                     {1, 2, u"2"_qs, u"East"_qs, Theme::Frost, QSize(800, 600), 9}};
-    world.zones = {{1, 1, 1, ZoneKind::Town, true, true, SiteNear::Anything, u"Hythe"_qs},
-                   {2, 1, 2, ZoneKind::Town, true, true, SiteNear::Anything, u"Heath"_qs}};
+    world.regions = {{1, 1, u"1"_s, u"West"_s, Theme::Frost, QSize(800, 600), 9},
+                     {1, 2, u"2"_s, u"East"_s, Theme::Frost, QSize(800, 600), 9}};
+    world.zones = {{1, 1, 1, ZoneKind::Town, true, true, SiteNear::Anything, u"Hythe"_s},
+                   {2, 1, 2, ZoneKind::Town, true, true, SiteNear::Anything, u"Heath"_s}};
     for (int i = 0; i < 40; ++i) {
-        world.bosses.push_back({1, 0, u"Lump"_qs, {}, 0, {}});
+        world.bosses.push_back({1, 0, u"Lump"_s, {}, 0, {}});
     }
-    world.bosses.push_back({1, 0, u"Nan"_qs, {}, 1, {}});
-    world.collectors = {{3, 1, u"Ada"_qs, false, 0, {}, {}, 0, {}},
-                        {4, 1, u"Bo"_qs, false, 0, {}, {}, -1, {}}};
+    world.bosses.push_back({1, 0, u"Nan"_s, {}, 1, {}});
+    world.collectors = {{3, 1, u"Ada"_s, false, 0, {}, {}, 0, {}}, {4, 1, u"Bo"_s, false, 0, {}, {}, -1, {}}};
     return world;
 }
 

@@ -15,6 +15,8 @@
 
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace worldgen;
 
 struct Loud : orvinel::Complaints {
@@ -48,24 +50,24 @@ struct ShippedWorld : testing::Test {
         }
         for (const SourceCampaign& campaign : source.campaigns) {
             for (const auto& [name, bytes] : campaignFiles(source, places, campaign, problems)) {
-                disk.put(u"/o/"_qs + campaignFolder(campaign) + u'/' + name, bytes);
+                disk.put(u"/o/"_s + campaignFolder(campaign) + u'/' + name, bytes);
             }
         }
         putData();
-        state.AppPath = u"/o/"_qs;
+        state.AppPath = u"/o/"_s;
         orvinel::LoadLanguage(state, disk);
         orvinel::loadTables(state, files, &complaints);
     }
 
     void putData() {
-        QDirIterator data(folder() + u"/Data"_qs, {u"*.txt"_qs}, QDir::Files);
+        QDirIterator data(folder() + u"/Data"_s, {u"*.txt"_s}, QDir::Files);
         while (data.hasNext()) {
             QFile file(data.next());
             ASSERT_TRUE(file.open(QIODevice::ReadOnly));
             const QByteArray content = file.readAll();
             EXPECT_EQ(content.count('\n'), content.count("\r\n")) << file.fileName().toStdString();
             const bool players = data.fileName() == u"Characters.txt";
-            disk.put((players ? u"/o/Personal/"_qs : u"/o/Data/"_qs) + data.fileName(), content);
+            disk.put((players ? u"/o/Personal/"_s : u"/o/Data/"_s) + data.fileName(), content);
         }
     }
 
@@ -79,7 +81,7 @@ struct ShippedWorld : testing::Test {
 TEST_F(ShippedWorld, isReadWithoutAComplaint) {
     EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
     EXPECT_EQ(4, state.Campaigns.highest());
-    EXPECT_EQ(u"Sunhollow"_qs, state.Campaigns[3].CampaignName);
+    EXPECT_EQ(u"Sunhollow"_s, state.Campaigns[3].CampaignName);
     EXPECT_EQ(8, state.Campaigns[1].Regions.highest());
     EXPECT_EQ(4, state.Campaigns[2].Regions.highest());
     EXPECT_EQ(10, state.Professions.highest());

@@ -9,6 +9,9 @@
 #include <set>
 
 namespace worldgen {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// A folder of tables as small as they can be, which each test changes a little.
@@ -35,7 +38,7 @@ struct SourceTables : testing::Test {
 
     WorldSource read() {
         problems.clear();
-        return readWorldSource(folder.path(), u"None"_qs, problems);
+        return readWorldSource(folder.path(), u"None"_s, problems);
     }
 
     std::string firstProblem() {
@@ -55,19 +58,19 @@ TEST_F(SourceTables, becomeTheProgramsFiles) {
     const WorldSource world = read();
     ASSERT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
     auto moor = files(world, 1);
-    EXPECT_EQ("01\tMoor\r\n", moor[u"Regions.txt"_qs]);
+    EXPECT_EQ("01\tMoor\r\n", moor[u"Regions.txt"_s]);
     EXPECT_EQ("; number, region, kind, marker, x, y, "
               "name\r\n1\t1\t4\t1\t100\t200\tHythe\r\n2\t1\t1\t0\t300\t400\tHeath\r\n",
-              moor[u"Zones.txt"_qs]);
+              moor[u"Zones.txt"_s]);
     EXPECT_EQ(
         "7\t1\t1650\t3150\tN\xE1n\tP\t2\r\n0\t1\t4650\t6165\tLump\t\t1\tonly during rain\\nand snow\r\n",
-        moor[u"EliteLocations.txt"_qs]);
-    EXPECT_EQ(0U, moor.count(u"Collectors.txt"_qs));
+        moor[u"EliteLocations.txt"_s]);
+    EXPECT_EQ(0U, moor.count(u"Collectors.txt"_s));
     auto common = files(world, 0);
-    EXPECT_EQ("1\tTinker\t&H0180FF\tTi\tTongs\tGlue\r\n", common[u"Professions.txt"_qs]);
+    EXPECT_EQ("1\tTinker\t&H0180FF\tTi\tTongs\tGlue\r\n", common[u"Professions.txt"_s]);
     EXPECT_EQ("; number, profession, name, attribute, type, upkeep, adrenaline, energy, cast time, recharge, "
               "description\r\n7\t1\tBend\tTongs\tSpell\t-1\t0\t5\t1/4\t20\tBends it.\r\n",
-              common[u"EliteList.txt"_qs]);
+              common[u"EliteList.txt"_s]);
 }
 
 TEST_F(SourceTables, sayInWhichUnitTheBossesStand) {
@@ -81,7 +84,7 @@ TEST_F(SourceTables, sayInWhichUnitTheBossesStand) {
     places.bosses = {{10, 20}};
     const auto bosses = [&](const char* version) {
         world.campaigns[2].version = QString::fromUtf8(version);
-        return campaignFiles(world, places, world.campaigns[2], problems)[u"EliteLocations.txt"_qs];
+        return campaignFiles(world, places, world.campaigns[2], problems)[u"EliteLocations.txt"_s];
     };
     EXPECT_EQ(";[Version] 2.0\r\n7\t1\t10\t20\tCrab\tC\t3\r\n", bosses("2.0"));
     EXPECT_EQ(";[Version] 1.0\r\n7\t1\t150\t300\tCrab\tC\t3\r\n", bosses("1.0"));
@@ -120,8 +123,8 @@ TEST_F(SourceTables, keepCollectorsAndTheirRewardsTogether) {
         "; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty "
         "line\r\n4\tAda\t1\t1\r\nAt home\r\n5 Pins\r\nCap\t8\tWarm\tNone\r\nHat\t8\r\n\r\n"
         "9\tBo\t0\t0\r\nGone\r\n1 Nail\r\n\r\n",
-        moor[u"Collectors.txt"_qs]);
-    EXPECT_EQ("4\t1\t50\t60\t1\r\n", moor[u"CollectorsLocations.txt"_qs]);
+        moor[u"Collectors.txt"_s]);
+    EXPECT_EQ("4\t1\t50\t60\t1\r\n", moor[u"CollectorsLocations.txt"_s]);
 }
 
 TEST_F(SourceTables, refuseLettersThatTheFilesCannotHold) {
@@ -141,8 +144,8 @@ TEST_F(SourceTables, multipliedReferToTheirOwnCopies) {
         zoneIds.insert(zone.id);
     }
     EXPECT_EQ(6U, zoneIds.size());
-    EXPECT_EQ(u"Nán 3"_qs, world.bosses[4].name);
-    EXPECT_EQ(u"Heath 3"_qs, world.zones[std::size_t(world.bosses[4].zone)].name);
+    EXPECT_EQ(u"Nán 3"_s, world.bosses[4].name);
+    EXPECT_EQ(u"Heath 3"_s, world.zones[std::size_t(world.bosses[4].zone)].name);
     EXPECT_EQ(world.skills[2].id, world.bosses[4].skill);
     EXPECT_EQ(0, world.bosses[5].skill);
     EXPECT_EQ(2U, recipeFor(world, world.regions[0]).sites.size());
@@ -180,7 +183,7 @@ TEST(ShippedTables, giveProfessionsColoursThatStayApartForColourBlindEyes) {
     QStringList problems;
     std::vector<QRgb> colours{qRgb(0xAA, 0xAA, 0xAA)}; // bosses without a skill
     const QString world = QString::fromUtf8(WORLDGEN_WORLD);
-    for (const SourceProfession& profession : readWorldSource(world, u"None"_qs, problems).professions) {
+    for (const SourceProfession& profession : readWorldSource(world, u"None"_s, problems).professions) {
         colours.push_back(profession.colour);
     }
     ASSERT_EQ(11U, colours.size());

@@ -2,6 +2,8 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// Appends `factor` - 1 changed copies of every record.
@@ -23,7 +25,7 @@ QString copyName(const QString& name, int copy) {
 }
 
 QString petId(const QString& idText, int copy) {
-    return u"%1"_qs.arg(idText.toInt() + copy * NumberStep, 4, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(idText.toInt() + copy * NumberStep, 4, 10, QLatin1Char('0'));
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QStringList splitFields(const QString& line) {
@@ -26,7 +28,7 @@ QStringList readLines(const QString& path, QStringList& problems) {
         return {};
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        problems.append(path + u": "_qs + file.errorString());
+        problems.append(path + u": "_s + file.errorString());
         return {};
     }
     QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
@@ -54,7 +56,7 @@ std::vector<SourceRow> readTable(const QString& path, int fewest, QStringList& p
         }
         SourceRow row{section, splitFields(line), name + u':' + QString::number(i + 1)};
         if (row.fields.size() < fewest) {
-            problems.append(row.place + u": needs "_qs + QString::number(fewest) + u" fields"_qs);
+            problems.append(row.place + u": needs "_s + QString::number(fewest) + u" fields"_s);
             continue;
         }
         rows.push_back(row);
@@ -66,7 +68,7 @@ int numberIn(const SourceRow& row, int field, int lowest, int highest, QStringLi
     bool isNumber = false;
     const int number = row.fields[field].toInt(&isNumber);
     if (!isNumber || number < lowest || number > highest) {
-        problems.append(u"%1: \"%2\" is no number from %3 to %4"_qs.arg(row.place, row.fields[field])
+        problems.append(u"%1: \"%2\" is no number from %3 to %4"_s.arg(row.place, row.fields[field])
                             .arg(lowest)
                             .arg(highest));
         return lowest;

@@ -18,6 +18,8 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int JpegQuality = 90;
@@ -88,7 +90,7 @@ void Builder::save(const QString& name, const QByteArray& bytes) {
         file.cancelWriting();
     }
     if (!file.commit()) {
-        problem(file.fileName() + u": "_qs + file.errorString());
+        problem(file.fileName() + u": "_s + file.errorString());
     }
 }
 
@@ -98,7 +100,7 @@ void Builder::savePicture(const QString& name, const QImage& picture) {
     QImageWriter writer(&buffer, "jpg");
     writer.setQuality(JpegQuality);
     if (!writer.write(picture)) {
-        problem(name + u": "_qs + writer.errorString());
+        problem(name + u": "_s + writer.errorString());
         return;
     }
     save(name, bytes);
@@ -107,7 +109,7 @@ void Builder::savePicture(const QString& name, const QImage& picture) {
 void Builder::reuse(const QString& name, const QString& original) {
     QFile picture(outFolder_ + original);
     if (!picture.open(QIODevice::ReadOnly)) {
-        problem(picture.fileName() + u": "_qs + picture.errorString());
+        problem(picture.fileName() + u": "_s + picture.errorString());
         return;
     }
     save(name, picture.readAll());
@@ -115,15 +117,15 @@ void Builder::reuse(const QString& name, const QString& original) {
 
 void Builder::makeFolders() {
     const QDir out(outFolder_);
-    out.mkpath(u"Data"_qs);
+    out.mkpath(u"Data"_s);
     for (const SourceCampaign& campaign : source_.campaigns) {
-        out.mkpath(campaignFolder(campaign) + u"/imgElite"_qs);
+        out.mkpath(campaignFolder(campaign) + u"/imgElite"_s);
     }
-    out.mkpath(folderOf(0) + u"imgPets"_qs);
+    out.mkpath(folderOf(0) + u"imgPets"_s);
 }
 
 void Builder::copyData() {
-    const QDir data(worldFolder_ + u"/Data"_qs);
+    const QDir data(worldFolder_ + u"/Data"_s);
     QDirIterator files(data.path(), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString name = data.relativeFilePath(files.next());
@@ -132,11 +134,11 @@ void Builder::copyData() {
             continue;
         }
         if (!file.open(QIODevice::ReadOnly)) {
-            problem(file.fileName() + u": "_qs + file.errorString());
+            problem(file.fileName() + u": "_s + file.errorString());
             continue;
         }
-        QDir(outFolder_).mkpath(QFileInfo(u"Data/"_qs + name).path());
-        save(u"Data/"_qs + name, file.readAll());
+        QDir(outFolder_).mkpath(QFileInfo(u"Data/"_s + name).path());
+        save(u"Data/"_s + name, file.readAll());
     }
 }
 
@@ -146,7 +148,7 @@ void Builder::paintRegions() {
         const PaintedRegion painted = paintRegion(recipeFor(source_, region));
         const Ground ground{painted.sites, [&](QPoint place) { return isDry(painted, place); }};
         placeRegion(source_, region, ground, places_);
-        savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_qs, painted.picture);
+        savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_s, painted.picture);
     });
 }
 
@@ -157,26 +159,26 @@ void Builder::paintSkills() {
             std::find_if(source_.professions.begin(), source_.professions.end(),
                          [&](const SourceProfession& known) { return known.number == skill.profession; });
         if (skill.pictureOf == 0) {
-            savePicture(folderOf(skill.campaign) + u"imgElite/"_qs + skillPicture(skill.id),
+            savePicture(folderOf(skill.campaign) + u"imgElite/"_s + skillPicture(skill.id),
                         paintSkillIcon(quint32(skill.id), profession->colour, skill.type));
         }
     });
     for (const SourceSkill& skill : source_.skills) {
         if (skill.pictureOf != 0) {
-            const QString folder = folderOf(skill.campaign) + u"imgElite/"_qs;
+            const QString folder = folderOf(skill.campaign) + u"imgElite/"_s;
             reuse(folder + skillPicture(skill.id), folder + skillPicture(skill.pictureOf));
         }
     }
 }
 
 void Builder::paintPets() {
-    const QString folder = folderOf(0) + u"imgPets/"_qs;
+    const QString folder = folderOf(0) + u"imgPets/"_s;
     for (const SourcePet& pet : source_.pets) {
-        const QString name = folder + pet.idText + u".jpg"_qs;
+        const QString name = folder + pet.idText + u".jpg"_s;
         if (pet.pictureOf.isEmpty()) {
             savePicture(name, paintPet(pet.idText.toUInt(), pet.species));
         } else {
-            reuse(name, folder + pet.pictureOf + u".jpg"_qs);
+            reuse(name, folder + pet.pictureOf + u".jpg"_s);
         }
     }
 }
@@ -208,17 +210,17 @@ QStringList buildWorld(const WorldSource& source, const QString& worldFolder, co
 }
 
 QString noAttributeCaption(const QString& worldFolder) {
-    QFile file(worldFolder + u"/Data/Language.txt"_qs);
+    QFile file(worldFolder + u"/Data/Language.txt"_s);
     QString text;
     if (file.open(QIODevice::ReadOnly)) {
         text = QStringDecoder("windows-1252").decode(file.readAll());
     }
-    for (const QString& line : text.split(u"\r\n"_qs)) {
+    for (const QString& line : text.split(u"\r\n"_s)) {
         if (line.startsWith(u"45\t")) {
             return line.section(u'\t', 1, 1);
         }
     }
-    return u"No attribute"_qs;
+    return u"No attribute"_s;
 }
 
 } // namespace worldgen

@@ -5,6 +5,8 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString field(int number) {
@@ -27,7 +29,7 @@ class Lines {
             QStringEncoder codePage("windows-1252");
             all += QByteArray(codePage.encode(line)) + "\r\n";
             if (!codePage.isValid() || codePage.hasError()) {
-                problems.append(fileName + u": not in the code page: "_qs + line);
+                problems.append(fileName + u": not in the code page: "_s + line);
             }
         }
         return all;
@@ -80,7 +82,7 @@ Lines CampaignWriter::regions() const {
 }
 
 Lines CampaignWriter::zones() const {
-    Lines lines(u"; number, region, kind, marker, x, y, name"_qs);
+    Lines lines(u"; number, region, kind, marker, x, y, name"_s);
     for (std::size_t i = 0; i < source_.zones.size(); ++i) {
         const SourceZone& zone = source_.zones[i];
         const QPoint place = places_.zones[i];
@@ -94,10 +96,10 @@ Lines CampaignWriter::zones() const {
 
 /// Red lies in the low byte of a colour of the program.
 QString colourField(QRgb colour) {
-    const QString digits = u"%1%2%3"_qs.arg(qBlue(colour), 2, 16, QLatin1Char('0'))
+    const QString digits = u"%1%2%3"_s.arg(qBlue(colour), 2, 16, QLatin1Char('0'))
                                .arg(qGreen(colour), 2, 16, QLatin1Char('0'))
                                .arg(qRed(colour), 2, 16, QLatin1Char('0'));
-    return u"&H"_qs + digits.toUpper();
+    return u"&H"_s + digits.toUpper();
 }
 
 Lines CampaignWriter::professions() const {
@@ -114,7 +116,7 @@ Lines CampaignWriter::professions() const {
 
 Lines CampaignWriter::skills() const {
     Lines lines(
-        u"; number, profession, name, attribute, type, upkeep, adrenaline, energy, cast time, recharge, description"_qs);
+        u"; number, profession, name, attribute, type, upkeep, adrenaline, energy, cast time, recharge, description"_s);
     for (const SourceSkill& skill : source_.skills) {
         if (isMine(skill)) {
             lines.add({field(skill.id), field(skill.profession), skill.name, skill.attribute, skill.type,
@@ -139,7 +141,7 @@ Lines CampaignWriter::bosses() const {
             continue;
         }
         if (lines.isEmpty() && !campaign_.version.isEmpty()) {
-            lines.addLine(u";[Version] "_qs + campaign_.version);
+            lines.addLine(u";[Version] "_s + campaign_.version);
         }
         QStringList fields{field(boss.skill),
                            field(zone(boss.zone).region),
@@ -158,7 +160,7 @@ Lines CampaignWriter::bosses() const {
 
 Lines CampaignWriter::collectors() const {
     Lines lines(
-        u"; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty line"_qs);
+        u"; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty line"_s);
     for (const SourceCollector& collector : source_.collectors) {
         if (!isMine(collector)) {
             continue;
@@ -189,7 +191,7 @@ Lines CampaignWriter::collectorPlaces() const {
 }
 
 Lines CampaignWriter::greens() const {
-    Lines lines(u"; name, boss, what it does"_qs);
+    Lines lines(u"; name, boss, what it does"_s);
     for (const SourceGreen& green : source_.greens) {
         if (isMine(green)) {
             lines.add(QStringList{green.name, green.boss} + green.stats);
@@ -199,7 +201,7 @@ Lines CampaignWriter::greens() const {
 }
 
 Lines CampaignWriter::chests() const {
-    Lines lines(u"; name, x, y, region, zone"_qs);
+    Lines lines(u"; name, x, y, region, zone"_s);
     for (std::size_t i = 0; campaign_.number == 3 && i < source_.chests.size(); ++i) {
         const SourceChest& chest = source_.chests[i];
         const QPoint place = places_.chests[i];
@@ -210,7 +212,7 @@ Lines CampaignWriter::chests() const {
 }
 
 Lines CampaignWriter::pets() const {
-    Lines lines(u"; number, name, remark"_qs);
+    Lines lines(u"; number, name, remark"_s);
     for (const SourcePet& pet : source_.pets) {
         if (campaign_.number == 0) {
             lines.add({pet.idText, pet.name, pet.remark});
@@ -220,7 +222,7 @@ Lines CampaignWriter::pets() const {
 }
 
 Lines CampaignWriter::petPlaces() const {
-    Lines lines(u"; pet, region, zone, x, y, remark"_qs);
+    Lines lines(u"; pet, region, zone, x, y, remark"_s);
     for (std::size_t i = 0; i < source_.petPlaces.size(); ++i) {
         const SourcePetPlace& petPlace = source_.petPlaces[i];
         const QPoint place = places_.petPlaces[i];
@@ -243,17 +245,17 @@ std::map<QString, QByteArray> campaignFiles(const WorldSource& source, const Wor
                                             const SourceCampaign& campaign, QStringList& problems) {
     const CampaignWriter writer(source, places, campaign);
     const std::pair<QString, Lines> tables[] = {
-        {u"Regions.txt"_qs, writer.regions()},
-        {u"Zones.txt"_qs, writer.zones()},
-        {u"Professions.txt"_qs, writer.professions()},
-        {u"EliteList.txt"_qs, writer.skills()},
-        {u"EliteLocations.txt"_qs, writer.bosses()},
-        {u"Collectors.txt"_qs, writer.collectors()},
-        {u"CollectorsLocations.txt"_qs, writer.collectorPlaces()},
-        {u"Greens.txt"_qs, writer.greens()},
-        {u"Treasures.txt"_qs, writer.chests()},
-        {u"PetsList.txt"_qs, writer.pets()},
-        {u"PetsLocations.txt"_qs, writer.petPlaces()},
+        {u"Regions.txt"_s, writer.regions()},
+        {u"Zones.txt"_s, writer.zones()},
+        {u"Professions.txt"_s, writer.professions()},
+        {u"EliteList.txt"_s, writer.skills()},
+        {u"EliteLocations.txt"_s, writer.bosses()},
+        {u"Collectors.txt"_s, writer.collectors()},
+        {u"CollectorsLocations.txt"_s, writer.collectorPlaces()},
+        {u"Greens.txt"_s, writer.greens()},
+        {u"Treasures.txt"_s, writer.chests()},
+        {u"PetsList.txt"_s, writer.pets()},
+        {u"PetsLocations.txt"_s, writer.petPlaces()},
     };
     std::map<QString, QByteArray> files;
     for (const auto& [name, lines] : tables) {
@@ -265,11 +267,11 @@ std::map<QString, QByteArray> campaignFiles(const WorldSource& source, const Wor
 }
 
 QString campaignFolder(const SourceCampaign& campaign) {
-    return u"Campaign.%1.%2"_qs.arg(campaign.number, 2, 10, QLatin1Char('0')).arg(campaign.name);
+    return u"Campaign.%1.%2"_s.arg(campaign.number, 2, 10, QLatin1Char('0')).arg(campaign.name);
 }
 
 QString skillPicture(int id) {
-    return u"%1.jpg"_qs.arg(id % 10000, 4, 10, QLatin1Char('0'));
+    return u"%1.jpg"_s.arg(id % 10000, 4, 10, QLatin1Char('0'));
 }
 
 } // namespace worldgen

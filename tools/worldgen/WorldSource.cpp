@@ -9,6 +9,8 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int HighestNumber = NumberStep - 1;
@@ -67,14 +69,14 @@ constexpr std::pair<QStringView, Theme> ThemeWords[] = {
 class SourceReader {
   public:
     SourceReader(const QString& worldFolder, const QString& noAttribute, QStringList& problems)
-        : folder_(worldFolder + u"/source/"_qs), noAttribute_(noAttribute), problems_(problems) {}
+        : folder_(worldFolder + u"/source/"_s), noAttribute_(noAttribute), problems_(problems) {}
 
     WorldSource read();
 
   private:
     std::vector<SourceRow> rows(const QString& name, int fewest);
     std::vector<SourceRow> rows(int campaign, QStringView name, int fewest);
-    void problem(const SourceRow& row, const QString& what) { problems_.append(row.place + u": "_qs + what); }
+    void problem(const SourceRow& row, const QString& what) { problems_.append(row.place + u": "_s + what); }
     template <typename Words>
     auto word(const SourceRow& row, int field, const Words& words);
 
@@ -103,13 +105,13 @@ class SourceReader {
 std::vector<SourceRow> SourceReader::rows(const QString& name, int fewest) {
     std::vector<SourceRow> table = readTable(folder_ + name, fewest, problems_);
     for (SourceRow& row : table) {
-        row.fields.replaceInStrings(u"@45"_qs, noAttribute_);
+        row.fields.replaceInStrings(u"@45"_s, noAttribute_);
     }
     return table;
 }
 
 std::vector<SourceRow> SourceReader::rows(int campaign, QStringView name, int fewest) {
-    return rows(u"%1/%2"_qs.arg(campaign, 2, 10, QLatin1Char('0')).arg(name), fewest);
+    return rows(u"%1/%2"_s.arg(campaign, 2, 10, QLatin1Char('0')).arg(name), fewest);
 }
 
 template <typename Words>
@@ -119,7 +121,7 @@ auto SourceReader::word(const SourceRow& row, int field, const Words& words) {
             return value;
         }
     }
-    problem(row, u"unknown word "_qs + row.fields[field]);
+    problem(row, u"unknown word "_s + row.fields[field]);
     return words[0].second;
 }
 
@@ -145,13 +147,13 @@ WorldSource SourceReader::read() {
 }
 
 void SourceReader::readCampaigns() {
-    for (const SourceRow& row : rows(u"campaigns.txt"_qs, 3)) {
+    for (const SourceRow& row : rows(u"campaigns.txt"_s, 3)) {
         world_.campaigns.push_back({numberIn(row, 0, 0, 4, problems_), row.fields[1], row.fields[2]});
     }
 }
 
 void SourceReader::readProfessions() {
-    for (const SourceRow& row : rows(u"professions.txt"_qs, 6)) {
+    for (const SourceRow& row : rows(u"professions.txt"_s, 6)) {
         SourceProfession profession;
         profession.campaign = numberIn(row, 0, 0, 4, problems_);
         profession.number = numberIn(row, 1, 1, 255, problems_);
@@ -161,16 +163,16 @@ void SourceReader::readProfessions() {
         profession.abbreviation = row.fields[4];
         profession.attributes = row.fields.mid(5);
         if (!isColour) {
-            problem(row, u"no colour: "_qs + row.fields[3]);
+            problem(row, u"no colour: "_s + row.fields[3]);
         }
         world_.professions.push_back(profession);
     }
 }
 
 void SourceReader::readSkills() {
-    const QDir folder(folder_ + u"skills"_qs);
-    for (const QString& name : folder.entryList({u"*.txt"_qs}, QDir::Files, QDir::Name)) {
-        for (const SourceRow& row : rows(u"skills/"_qs + name, 11)) {
+    const QDir folder(folder_ + u"skills"_s);
+    for (const QString& name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
+        for (const SourceRow& row : rows(u"skills/"_s + name, 11)) {
             readSkill(row);
         }
     }
@@ -193,14 +195,14 @@ void SourceReader::readSkill(const SourceRow& row) {
         if (profession.name == row.section) {
             skill.profession = profession.number;
             if (skill.attribute != noAttribute_ && !profession.attributes.contains(skill.attribute)) {
-                problem(row, u"no attribute of the profession: "_qs + skill.attribute);
+                problem(row, u"no attribute of the profession: "_s + skill.attribute);
             }
         }
     }
     const bool idTaken = std::any_of(world_.skills.begin(), world_.skills.end(),
                                      [&](const SourceSkill& other) { return other.id == skill.id; });
     if (skill.profession == 0 || skillIds_.contains(skill.name) || idTaken) {
-        problem(row, u"unknown profession, or name or number used twice: "_qs + skill.name);
+        problem(row, u"unknown profession, or name or number used twice: "_s + skill.name);
     }
     skillIds_.insert(skill.name, skill.id);
     world_.skills.push_back(skill);
@@ -238,8 +240,8 @@ void SourceReader::readZones(int campaign) {
             });
         if (kind == std::end(ZoneWords) || region == world_.regions.end() ||
             !kindFitsCampaign(kind->kind, campaign) || zones_.contains({campaign, zone.name})) {
-            problem(row, u"unknown kind or region, kind not of this campaign, or name used twice: "_qs +
-                             zone.name);
+            problem(row,
+                    u"unknown kind or region, kind not of this campaign, or name used twice: "_s + zone.name);
             continue;
         }
         zone.kind = kind->kind;
@@ -253,7 +255,7 @@ void SourceReader::readZones(int campaign) {
 int SourceReader::zoneNamed(const SourceRow& row, int campaign, const QString& name) {
     const auto found = zones_.constFind({campaign, name});
     if (found == zones_.constEnd()) {
-        problem(row, u"no such zone in this campaign: "_qs + name);
+        problem(row, u"no such zone in this campaign: "_s + name);
         return 0;
     }
     return *found;
@@ -269,7 +271,7 @@ void SourceReader::readBosses(int campaign) {
         boss.zone = zoneNamed(row, campaign, row.fields[3]);
         boss.note = row.fields.value(4);
         if (boss.skill == 0 && !row.fields[1].isEmpty()) {
-            problem(row, u"no such skill: "_qs + row.fields[1]);
+            problem(row, u"no such skill: "_s + row.fields[1]);
         }
         world_.bosses.push_back(boss);
     }
@@ -282,7 +284,7 @@ void SourceReader::readCollectors(int campaign) {
         if (row.section != name) {
             name = row.section;
             if (row.fields.size() < 6) {
-                problem(row, u"needs number, kind, level, zone, whereabouts and request"_qs);
+                problem(row, u"needs number, kind, level, zone, whereabouts and request"_s);
                 continue;
             }
             SourceCollector collector;
@@ -309,7 +311,7 @@ void SourceReader::readGreens(int campaign) {
                 return boss.name == row.fields[1] && carriesGreens(boss);
             });
         if (!dropped) {
-            problem(row, u"no boss that drops green items: "_qs + row.fields[1]);
+            problem(row, u"no boss that drops green items: "_s + row.fields[1]);
         }
         world_.greens.push_back({campaign, row.fields[0], row.fields[1], row.fields.mid(2)});
     }
@@ -333,7 +335,7 @@ void SourceReader::readPetPlaces(int campaign) {
         const auto pet = std::find_if(world_.pets.begin(), world_.pets.end(),
                                       [&](const SourcePet& known) { return known.name == row.fields[0]; });
         if (pet == world_.pets.end()) {
-            problem(row, u"no such pet: "_qs + row.fields[0]);
+            problem(row, u"no such pet: "_s + row.fields[0]);
             continue;
         }
         world_.petPlaces.push_back(
