@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/FileDisk.h"
 #include "app/modOrvinel.h"
+#include "base/FileDisk.h"
 #include "ui/platform/QtDesktop.h"
 
 #include <QEvent>

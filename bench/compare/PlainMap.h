@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/Marker.h"
-#include "layers/modZonesView.h"
+#include "ui/layers/modZonesView.h"
 #include "ui/map/MarkerArt.h"
+#include "world/Marker.h"
 
 #include <QImage>
 

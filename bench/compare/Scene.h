@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/ProgramState.h"
-#include "layers/Marker.h"
 #include "ui/map/MarkerArt.h"
+#include "world/Marker.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsView>

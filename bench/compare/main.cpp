@@ -1,6 +1,6 @@
-#include "app/FileDisk.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "base/FileDisk.h"
 #include "compare/Bare.h"
 #include "compare/Scene.h"
 #include "ui/map/RegionPictures.h"

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "layers/modCollectorsView.h"
-#include "layers/modEliteView.h"
-#include "layers/modGreeniesView.h"
-#include "layers/modNotesView.h"
-#include "layers/modPetsView.h"
-#include "layers/modTreasuresView.h"
-#include "layers/modZonesView.h"
+#include "ui/layers/modCollectorsView.h"
+#include "ui/layers/modEliteView.h"
+#include "ui/layers/modGreeniesView.h"
+#include "ui/layers/modNotesView.h"
+#include "ui/layers/modPetsView.h"
+#include "ui/layers/modTreasuresView.h"
+#include "ui/layers/modZonesView.h"
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
 

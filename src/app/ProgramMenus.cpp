@@ -1,6 +1,6 @@
 #include "app/modOrvinel.h"
 
-#include "app/About.h"
+#include "base/About.h"
 #include "ui/dialogs/frmCharacterList.h"
 #include "ui/dialogs/frmCredits.h"
 #include "ui/dialogs/frmInformation.h"

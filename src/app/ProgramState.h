@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/IndexedTable.h"
 #include "app/modOptions.h"
+#include "base/IndexedTable.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
 #include "layers/modGreenies.h"

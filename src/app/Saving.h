@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Desktop.h"
-#include "app/PlayerFiles.h"
+#include "base/Desktop.h"
+#include "base/PlayerFiles.h"
 
 #include <functional>
 

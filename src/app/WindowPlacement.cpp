@@ -1,6 +1,6 @@
 #include "app/WindowPlacement.h"
 
-#include "app/Desktop.h"
+#include "base/Desktop.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
-#include "app/FileDisk.h"
-#include "app/SingleInstance.h"
 #include "app/modOrvinel.h"
+#include "base/FileDisk.h"
+#include "base/SingleInstance.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/QtDesktop.h"
 #include "ui/platform/Windows.h"

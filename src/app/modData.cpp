@@ -1,9 +1,9 @@
 #include "app/modData.h"
 
-#include "app/About.h"
 #include "app/ProgramState.h"
-#include "app/RationedDisk.h"
 #include "app/modLanguage.h"
+#include "base/About.h"
+#include "base/RationedDisk.h"
 #include "progress/CapturedSkills.h"
 #include "progress/OpenedTreasures.h"
 

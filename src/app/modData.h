@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Desktop.h"
-#include "app/PlayerFiles.h"
+#include "base/Complaints.h"
+#include "base/Desktop.h"
+#include "base/PlayerFiles.h"
 
 namespace orvinel {
 

@@ -1,7 +1,7 @@
 #include "app/modOptions.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 
 #include <array>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/PlayerFiles.h"
+#include "base/PlayerFiles.h"
 
 #include <QString>
 

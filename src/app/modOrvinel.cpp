@@ -1,9 +1,9 @@
 #include "app/modOrvinel.h"
 
-#include "app/About.h"
 #include "app/Saving.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "base/About.h"
 
 #include <QScopeGuard>
 #include <QTimer>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/Desktop.h"
-#include "app/PlayerFiles.h"
 #include "app/ProgramLayers.h"
 #include "app/ProgramState.h"
 #include "app/WindowPlacement.h"
+#include "base/Desktop.h"
+#include "base/PlayerFiles.h"
 #include "ui/dialogs/Dialog.h"
 #include "ui/dialogs/frmFAKE.h"
 #include "ui/dialogs/frmLegenda.h"

@@ -1,6 +1,6 @@
 #include "app/modUtility.h"
 
-#include "app/TextSearch.h"
+#include "base/TextSearch.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "layers/modElite.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 
 #include <limits>
 

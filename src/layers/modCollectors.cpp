@@ -1,9 +1,9 @@
 #include "layers/modCollectors.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
-#include "app/TextSearch.h"
 #include "app/modUtility.h"
+#include "base/TextFile.h"
+#include "base/TextSearch.h"
 
 #include <QSet>
 

@@ -1,8 +1,8 @@
 #include "layers/modGreenies.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
 #include "app/modUtility.h"
+#include "base/TextFile.h"
 
 #include <algorithm>
 

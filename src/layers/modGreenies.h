@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Disk.h"
-#include "app/Listing.h"
-#include "layers/MapLocation.h"
-#include "layers/Marker.h"
+#include "base/Complaints.h"
+#include "base/Disk.h"
+#include "base/Listing.h"
+#include "world/MapLocation.h"
+#include "world/Marker.h"
 #include "world/modZones.h"
 
 #include <QString>

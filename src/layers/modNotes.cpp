@@ -1,8 +1,8 @@
 #include "layers/modNotes.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
-#include "app/TextSearch.h"
+#include "base/TextFile.h"
+#include "base/TextSearch.h"
 
 namespace orvinel {
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Disk.h"
-#include "app/IndexedTable.h"
-#include "app/Listing.h"
-#include "layers/HitIndex.h"
-#include "layers/MapLocation.h"
-#include "layers/Marker.h"
+#include "base/Complaints.h"
+#include "base/Disk.h"
+#include "base/IndexedTable.h"
+#include "base/Listing.h"
+#include "world/HitIndex.h"
+#include "world/MapLocation.h"
+#include "world/Marker.h"
 #include "world/modZones.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #include "progress/CapturedSkills.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
 #include "app/modLanguage.h"
+#include "base/TextFile.h"
 
 #include <algorithm>
 #include <limits>

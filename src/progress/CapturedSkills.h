@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/IndexedTable.h"
-#include "app/Listing.h"
-#include "app/PlayerFiles.h"
+#include "base/Complaints.h"
+#include "base/IndexedTable.h"
+#include "base/Listing.h"
+#include "base/PlayerFiles.h"
 
 #include <QString>
 

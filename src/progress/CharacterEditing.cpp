@@ -1,8 +1,8 @@
 #include "progress/CharacterEditing.h"
 
 #include "app/ProgramState.h"
-#include "app/TextRules.h"
 #include "app/modLanguage.h"
+#include "base/TextRules.h"
 
 #include <map>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Listing.h"
-#include "app/PlayerFiles.h"
+#include "base/Listing.h"
+#include "base/PlayerFiles.h"
 #include "progress/modCharacters.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #include "progress/OpenedTreasures.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 #include "progress/modCharacters.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "progress/modCharacters.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 
 namespace orvinel {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Listing.h"
-#include "app/PlayerFiles.h"
+#include "base/Complaints.h"
+#include "base/Listing.h"
+#include "base/PlayerFiles.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "tools/Backup.h"
 
-#include "app/FileDisk.h"
+#include "base/FileDisk.h"
 #include "tools/TarArchive.h"
 #include "world/modCampaigns.h"
 

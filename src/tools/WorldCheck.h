@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Disk.h"
+#include "base/Complaints.h"
+#include "base/Disk.h"
 
 #include <QString>
 

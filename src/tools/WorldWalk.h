@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Complaints.h"
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/Complaints.h"
+#include "base/TextFile.h"
 
 #include <set>
 #include <utility>

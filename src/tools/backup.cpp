@@ -1,8 +1,8 @@
 // orvinel-backup FOLDER save|list|verify|restore [NAME] [--replace]: archives of the player's files.
 
 #include "tools/Backup.h"
-#include "app/FileDisk.h"
-#include "app/SingleInstance.h"
+#include "base/FileDisk.h"
+#include "base/SingleInstance.h"
 #include "tools/CommandLine.h"
 
 #include <optional>

@@ -1,6 +1,6 @@
 // orvinel-check FOLDER [--summary]: what is wrong with the data below a program folder.
 
-#include "app/FileDisk.h"
+#include "base/FileDisk.h"
 #include "tools/CommandLine.h"
 #include "tools/WorldCheck.h"
 

@@ -1,9 +1,9 @@
 // orvinel-report FOLDER [--format text|csv|html]: how far each character has come.
 
-#include "app/FileDisk.h"
 #include "app/ProgramState.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "base/FileDisk.h"
 #include "tools/CommandLine.h"
 #include "tools/CompletionReport.h"
 

@@ -1,7 +1,7 @@
 #include "world/modCampaigns.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 
 #include <algorithm>
 #include <array>

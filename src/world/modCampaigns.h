@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/Complaints.h"
-#include "app/Disk.h"
-#include "app/IndexedTable.h"
-#include "app/Listing.h"
+#include "base/Complaints.h"
+#include "base/Disk.h"
+#include "base/IndexedTable.h"
+#include "base/Listing.h"
 #include "world/Zone.h"
 
 #include <QString>

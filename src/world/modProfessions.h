@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/Colour.h"
-#include "app/Complaints.h"
-#include "app/Disk.h"
-#include "app/Listing.h"
+#include "base/Colour.h"
+#include "base/Complaints.h"
+#include "base/Disk.h"
+#include "base/Listing.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "world/modZones.h"
 
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
+#include "base/TextFile.h"
 
 #include <array>
 

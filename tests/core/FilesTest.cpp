@@ -1,7 +1,7 @@
-#include "app/FileDisk.h"
 #include "app/ProgramState.h"
 #include "app/modData.h"
 #include "app/modUtility.h"
+#include "base/FileDisk.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 

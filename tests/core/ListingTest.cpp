@@ -1,5 +1,5 @@
-#include "app/Listing.h"
-#include "app/TextRules.h"
+#include "base/Listing.h"
+#include "base/TextRules.h"
 
 #include <QCollator>
 #include <QRandomGenerator>

@@ -1,5 +1,5 @@
-#include "app/TextFile.h"
-#include "app/TextSearch.h"
+#include "base/TextFile.h"
+#include "base/TextSearch.h"
 #include "support/MemoryDisk.h"
 
 #include <gtest/gtest.h>

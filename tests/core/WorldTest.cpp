@@ -1,6 +1,6 @@
 #include "app/ProgramState.h"
-#include "app/TextFile.h"
 #include "app/modLanguage.h"
+#include "base/TextFile.h"
 #include "support/MemoryDisk.h"
 #include "world/MapView.h"
 

@@ -1,6 +1,6 @@
-#include "app/FileDisk.h"
-#include "app/PlayerFiles.h"
-#include "app/SingleInstance.h"
+#include "base/FileDisk.h"
+#include "base/PlayerFiles.h"
+#include "base/SingleInstance.h"
 #include "support/MemoryDisk.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/PlayerFiles.h"
 #include "app/ProgramState.h"
+#include "base/PlayerFiles.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 // kill_saves KILLS SEED: kills a saving process at random moments and looks at what it left. Exit code 1 when
 // a file is neither wholly old nor wholly new.
 
-#include "app/FileDisk.h"
+#include "base/FileDisk.h"
 #include "faults/Player.h"
 #include "support/MemoryDisk.h"
 

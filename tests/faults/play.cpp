@@ -1,7 +1,7 @@
 // play_steps FOLDER FROM TO: makes a small world in an empty folder, or goes on in one that is there, and
 // plays those steps. Exit code 1 when a step was not saved.
 
-#include "app/FileDisk.h"
+#include "base/FileDisk.h"
 #include "faults/Player.h"
 
 #include <cstdlib>

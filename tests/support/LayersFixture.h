@@ -1,10 +1,10 @@
 #pragma once
 
-#include "layers/modCollectorsView.h"
-#include "layers/modNotesView.h"
-#include "layers/modPetsView.h"
-#include "layers/modTreasuresView.h"
 #include "support/ProgramFixture.h"
+#include "ui/layers/modCollectorsView.h"
+#include "ui/layers/modNotesView.h"
+#include "ui/layers/modPetsView.h"
+#include "ui/layers/modTreasuresView.h"
 #include "ui/map/Flashing.h"
 #include "ui/map/MapMenus.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Disk.h"
+#include "base/Disk.h"
 #include "support/Printing.h"
 
 #include <map>

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "app/ProgramState.h"
-#include "layers/modEliteView.h"
-#include "layers/modGreeniesView.h"
-#include "layers/modZonesView.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
+#include "ui/layers/modEliteView.h"
+#include "ui/layers/modGreeniesView.h"
+#include "ui/layers/modZonesView.h"
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
 

@@ -1,4 +1,4 @@
-#include "app/About.h"
+#include "base/About.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 #include "ui/dialogs/frmCredits.h"

@@ -1,5 +1,5 @@
-#include "app/About.h"
 #include "app/modOrvinel.h"
+#include "base/About.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 

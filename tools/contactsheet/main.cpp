@@ -1,8 +1,8 @@
 // contactsheet FOLDER PICTURE: starts the program in its folder without a screen, shows one region after the
 // other with all layers on, and puts what the map window drew side by side.
 
-#include "app/FileDisk.h"
 #include "app/modOrvinel.h"
+#include "base/FileDisk.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/QtDesktop.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Desktop.h"
-#include "app/PlayerFiles.h"
 #include "app/ProgramState.h"
+#include "base/Desktop.h"
+#include "base/PlayerFiles.h"
 
 #include <QDialog>
 #include <QRect>

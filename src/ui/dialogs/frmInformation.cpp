@@ -1,6 +1,6 @@
 #include "ui/dialogs/frmInformation.h"
 
-#include "app/About.h"
+#include "base/About.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"

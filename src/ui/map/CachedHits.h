@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/HitIndex.h"
 #include "ui/map/frmMap.h"
 #include "ui/platform/ListBox.h"
+#include "world/HitIndex.h"
 
 #include <functional>
 #include <vector>

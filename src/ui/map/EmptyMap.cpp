@@ -1,6 +1,6 @@
 #include "ui/map/EmptyMap.h"
 
-#include "app/About.h"
+#include "base/About.h"
 #include "ui/map/CreditsList.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"

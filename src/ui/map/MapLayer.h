@@ -1,7 +1,7 @@
 #pragma once
 
-#include "layers/Marker.h"
 #include "world/MapView.h"
+#include "world/Marker.h"
 
 #include <QImage>
 #include <QRect>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/Marker.h"
 #include "ui/map/MarkerArt.h"
 #include "ui/map/RegionPictures.h"
+#include "world/Marker.h"
 
 #include <QImage>
 #include <QRect>

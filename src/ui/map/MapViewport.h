@@ -1,8 +1,8 @@
 #pragma once
 
-#include "layers/Marker.h"
 #include "ui/map/MapSurface.h"
 #include "world/MapView.h"
+#include "world/Marker.h"
 
 #include <QWidget>
 

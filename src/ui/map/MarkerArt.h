@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/Marker.h"
+#include "world/Marker.h"
 
 #include <QHash>
 #include <QImage>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layers/MapLocation.h"
+#include "world/MapLocation.h"
 
 namespace orvinel {
 

@@ -1,7 +1,7 @@
 #include "ui/map/frmMap.h"
 
-#include "app/About.h"
 #include "app/modLanguage.h"
+#include "base/About.h"
 #include "ui/map/CreditsList.h"
 #include "ui/map/EmptyMap.h"
 #include "ui/platform/EdgeResize.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Desktop.h"
-#include "app/Disk.h"
 #include "app/ProgramState.h"
+#include "base/Desktop.h"
+#include "base/Disk.h"
 #include "ui/map/InformationWindow.h"
 #include "ui/map/MapLayer.h"
 #include "ui/map/MapViewport.h"

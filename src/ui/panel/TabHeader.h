@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Colour.h"
+#include "base/Colour.h"
 
 #include <QAbstractButton>
 

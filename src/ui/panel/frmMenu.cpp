@@ -1,7 +1,7 @@
 #include "ui/panel/frmMenu.h"
 
-#include "app/About.h"
 #include "app/modLanguage.h"
+#include "base/About.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/PictureButton.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Desktop.h"
 #include "app/ProgramState.h"
+#include "base/Desktop.h"
 #include "ui/panel/CollectorsPage.h"
 #include "ui/panel/ElitePage.h"
 #include "ui/panel/MenuBar.h"

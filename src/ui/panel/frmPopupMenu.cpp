@@ -1,7 +1,7 @@
 #include "ui/panel/frmPopupMenu.h"
 
-#include "app/Colour.h"
 #include "app/ProgramState.h"
+#include "base/Colour.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/SpokenRole.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/Listing.h"
+#include "base/Listing.h"
 
 #include <QComboBox>
 

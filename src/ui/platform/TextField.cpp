@@ -1,6 +1,6 @@
 #include "ui/platform/TextField.h"
 
-#include "app/TextRules.h"
+#include "base/TextRules.h"
 
 #include <QApplication>
 #include <QFocusEvent>

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/Disk.h"
+
+namespace orvinel {
+
+// Lets the loaders read so many bytes and no more, whatever lies in the folder: each file has its own bound,
+// but their number has none. A file that is larger than what is left counts as one that could not be read, so
+// that a player's file is not taken for an empty one. Reads only.
+class RationedDisk : public Disk {
+  public:
+    // `disk` outlives this object.
+    RationedDisk(const Disk& disk, qint64 bytes) : disk_(disk), left_(bytes) {}
+
+    // A file was refused.
+    bool exhausted() const { return exhausted_; }
+
+    qint64 length(const QString& path) const override { return disk_.length(path); }
+    bool folderExists(const QString& path) const override { return disk_.folderExists(path); }
+    std::vector<QString> list(const QString& folder) const override { return disk_.list(folder); }
+    QString resolve(const QString& path) const override { return disk_.resolve(path); }
+    ReadResult read(const QString& path) const override;
+
+    DiskError replace(const QString&, const QByteArray&) override { return readOnly(); }
+    DiskError rename(const QString&, const QString&) override { return readOnly(); }
+    DiskError remove(const QString&) override { return readOnly(); }
+    DiskError createFolder(const QString&) override { return readOnly(); }
+    DiskError removeFolder(const QString&) override { return readOnly(); }
+
+  private:
+    static DiskError readOnly() { return QStringLiteral("opened for reading only"); }
+
+    const Disk& disk_;
+    mutable qint64 left_;
+    mutable bool exhausted_ = false;
+};
+
+} // namespace orvinel

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "base/Complaints.h"
+#include "base/Disk.h"
+#include "base/TextRules.h"
+
+#include <QString>
+
+#include <limits>
+
+namespace orvinel {
+
+// Characters of a line; longer ones are skipped. No text of a player comes near it, and the windows could not
+// show it.
+inline constexpr qsizetype longestLine = 100'000;
+
+// A data file read whole and walked line by line. Lines end with CR LF, LF or CR; the last one needs no end.
+// A missing, empty, unreadable or oversized file has no lines.
+class TextFile {
+  public:
+    TextFile(const Disk& disk, QString path, Complaints* complaints = nullptr);
+    TextFile(const TextFile&) = delete;
+    TextFile& operator=(const TextFile&) = delete;
+
+    const ReadResult& source() const { return source_; }
+    bool exists() const { return !source_.bytes.isEmpty(); }
+    // Lines that were given up with skip(), comments aside.
+    int skippedLines() const { return skipped_; }
+
+    // Goes to the next line; False at the end.
+    bool nextLine();
+    // As nextLine, but passes over lines whose first character is ";".
+    bool nextRecord();
+
+    QStringView line() const { return line_; }
+    int lineNumber() const { return number_; }
+    bool isComment() const { return line_.startsWith(u';'); }
+
+    // Splits the current line; False, with a complaint, when it has fewer than `fewest` fields.
+    // A line that is empty altogether is passed over silently.
+    bool split(size_t fewest);
+    size_t fieldCount() const { return fields_.size(); }
+    // An empty view beyond the last field.
+    QStringView field(size_t position) const {
+        return position < fields_.size() ? fields_[position] : QStringView();
+    }
+    QString text(size_t position) const { return field(position).toString(); }
+
+    // The field's leading number, rounded; nothing, with a complaint that calls it `name`, when out of range.
+    std::optional<int> integer(size_t position, const char* name, int lowest, int highest);
+    // As integer, but the whole field must be a number.
+    std::optional<int> whole(size_t position, const char* name, int lowest, int highest);
+
+    // Gives the current line up.
+    void skip(const QString& field, const QString& reason);
+
+  private:
+    qsizetype lineEnd();
+    bool cutLine();
+    std::optional<int> accept(std::optional<int> value, size_t position, const char* name);
+
+    QString path_;
+    Complaints* complaints_;
+    ReadResult source_;
+    QString text_;
+    qsizetype next_ = 0;
+    qsizetype lineFeed_ = -1; // the first at or behind next_, or the end; before next_: not looked for yet
+    QStringView line_;
+    std::vector<QStringView> fields_;
+    int number_ = 0;
+    int skipped_ = 0;
+    int lastSkipped_ = 0;
+};
+
+} // namespace orvinel

@@ -1,0 +1,51 @@
+#include "ui/layers/ListedLayerView.h"
+
+#include "ui/map/ShowOnMap.h"
+#include "ui/map/WindowRules.h"
+
+#include <iterator>
+
+namespace orvinel {
+
+namespace {
+
+constexpr int bandBelowTitle = 4; // the band's lower edge, counted from the title's height
+
+} // namespace
+
+ListedLayerView::ListedLayerView(Surroundings with, ListBox& list, const Rules& rules)
+    : with_(with), list_(list), rules_(rules),
+      window_(new InformationWindow(rules.window, rules.width, with.map.picMap())),
+      hits_(with.map, {&list},
+            [this](const MapShown& shown) { return rules_.hitAreas(with_.state, list_.items(), shown); }) {
+}
+
+void ListedLayerView::drawMarkers(std::vector<Marker>& markers) const {
+    if (!panel().layerShown(rules_.layer))
+        return;
+    const MapShown shown = map().shown(panel().selection().zoneIndex());
+    std::vector<Marker> own = rules_.markers(with_.state, list_.items(), shown);
+    markers.insert(markers.end(), std::make_move_iterator(own.begin()), std::make_move_iterator(own.end()));
+}
+
+std::optional<HitArea> ListedLayerView::hitTest(ViewPoint at) {
+    const HitArea* hit = hits_.at(at);
+    return hit ? std::optional(*hit) : std::nullopt;
+}
+
+bool ListedLayerView::showOver(const std::optional<HitArea>& item) {
+    if (item)
+        showItem(map(), *window_, item->id, [&] { showTooltip(*item); });
+    return item.has_value();
+}
+
+void ListedLayerView::jumpTo(int id, int part) {
+    showOnMap(map(), with_.state, RegionPoint::of(location(id, part)));
+}
+
+void ListedLayerView::frame(const HitArea& item, Colour band, const Label& title) {
+    const QRect marker(QPoint(item.left, item.top), QPoint(item.right, item.bottom));
+    window_->frameWithBand(band, title.height() + bandBelowTitle, map().picMap().toWidget(marker));
+}
+
+} // namespace orvinel

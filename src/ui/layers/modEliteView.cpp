@@ -1,0 +1,118 @@
+#include "ui/layers/modEliteView.h"
+
+#include "ui/map/RegionPictures.h"
+#include "ui/map/ShowOnMap.h"
+#include "ui/map/WindowRules.h"
+#include "ui/platform/Fonts.h"
+
+#include <algorithm>
+
+namespace orvinel {
+
+namespace {
+
+constexpr int countCaption = 32;
+constexpr int extentBeyondText = 4; // pixels
+
+int widestText(const std::vector<ListEntry>& entries) {
+    const QFontMetrics metrics(arial(points8_25));
+    int widest = 0;
+    for (const ListEntry& entry : entries)
+        widest = std::max(widest, metrics.horizontalAdvance(entry.text));
+    return widest;
+}
+
+} // namespace
+
+EliteView::EliteView(const ProgramState& state, const Disk& disk, frmMenu& panel, frmMap& map,
+                     OpenCapture openCapture)
+    : state_(state), disk_(disk), panel_(panel), map_(map), openCapture_(std::move(openCapture)),
+      window_(new EliteWindow(state, map)),
+      hits_(map, {panel.elitePage().lstElite, panel.greensPage().lstGreens}, [this](const MapShown& shown) {
+          return eliteHitAreas(state_, panel_.elitePage().lstElite->items(),
+                               panel_.greensPage().lstGreens->items(), shown);
+      }) {
+    ElitePage& page = panel.elitePage();
+    connect(page.lstElite, &ListBox::picked, this, [this] { listLocations(); });
+    connect(page.lstLocations, &ListBox::picked, this, [this] { ShowSelectedEliteLocation(); });
+    connect(page.lstElite, &ListBox::activatedEntry, this,
+            [this] { openCapture_(panel_.elitePage().lstElite->selectedEntry().data, false); });
+}
+
+void EliteView::FilterEliteSkills(bool updateMap) {
+    if (!panel_.MenuReady)
+        return;
+    map_.HideInformationWindows();
+    ElitePage& page = panel_.elitePage();
+    panel_.runFilter({*page.lstElite, *page.lblTot, countCaption,
+                      [this] { return eliteEntries(state_, panel_.eliteChoice()); }},
+                     updateMap);
+}
+
+void EliteView::DrawEliteSkills(std::vector<Marker>& markers) const {
+    if (!panel_.layerShown(0))
+        return;
+    const ElitePage& page = panel_.elitePage();
+    std::vector<Marker> boxes =
+        eliteMarkers(state_, page.lstElite->items(), map_.shown(panel_.selection().zoneIndex()),
+                     page.txtEliteBossName->text());
+    std::move(boxes.begin(), boxes.end(), std::back_inserter(markers));
+}
+
+std::optional<EliteHit> EliteView::HitTestElite(ViewPoint at) {
+    const HitArea* area = hits_.at(at);
+    return area ? std::optional(EliteHit{area->id, area->part}) : std::nullopt;
+}
+
+bool EliteView::EliteMouseOver(ViewPoint at) {
+    const std::optional<EliteHit> hit = HitTestElite(at);
+    if (hit)
+        showItem(map_, *window_, hit->id, [&] { ShowEliteTooltip(*hit); });
+    return hit.has_value();
+}
+
+bool EliteView::doubleClick(ViewPoint at) {
+    const std::optional<EliteHit> hit = HitTestElite(at);
+    if (hit && hit->id != 0)
+        openCapture_(hit->id, true);
+    return hit.has_value();
+}
+
+EliteTooltip EliteView::FillEliteTooltip(EliteHit hit) {
+    const ListedItems listed = panel_.elitePage().lstElite->items();
+    const bool skillListed =
+        panel_.layerShown(0) && std::find(listed.begin(), listed.end(), hit.id) != listed.end();
+    const EliteTooltip tip = eliteTooltip(state_, hit, map_.shown(0), skillListed, panel_.layerShown(2));
+    window_->fill(tip, tip.skillShown ? loadPicture(disk_, tip.picture, largestIcon) : QImage());
+    return tip;
+}
+
+void EliteView::ShowEliteTooltip(EliteHit hit) {
+    const EliteTooltip tip = FillEliteTooltip(hit);
+    const MapLocation& at = location(hit);
+    window_->present(tip,
+                     map_.picMap().toWidget(QRect(QPoint(at.Left, at.Top), QPoint(at.Right, at.Bottom))));
+}
+
+// The click on a skill: its places, and the map on the first of them.
+void EliteView::listLocations() {
+    ElitePage& page = panel_.elitePage();
+    const int id = page.lstElite->selectedEntry().data;
+    const std::vector<ListEntry> entries = eliteLocationEntries(state_, id, panel_.eliteChoice());
+    page.lstLocations->setEntries(entries);
+    page.lstLocations->setHorizontalExtent(widestText(entries) + extentBeyondText);
+    const bool somewhere = !state_.EliteSkills[id].Locations.empty();
+    page.lblLocations->setEnabled(somewhere);
+    page.lstLocations->setEnabled(somewhere);
+    page.lstLocations->select(0);
+}
+
+void EliteView::ShowSelectedEliteLocation() {
+    const ElitePage& page = panel_.elitePage();
+    if (page.lstElite->hasSelection())
+        showOnMap(map_, state_,
+                  RegionPoint::of(location(
+                      {page.lstElite->selectedEntry().data, page.lstLocations->selectedEntry().data})));
+}
+
+} // namespace orvinel

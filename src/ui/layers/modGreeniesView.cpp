@@ -1,0 +1,41 @@
+#include "ui/layers/modGreeniesView.h"
+
+#include "ui/map/ShowOnMap.h"
+
+#include <algorithm>
+
+namespace orvinel {
+
+namespace {
+
+constexpr int countCaption = 59;
+
+} // namespace
+
+GreensView::GreensView(const ProgramState& state, frmMenu& panel, frmMap& map)
+    : state_(state), panel_(panel), map_(map) {
+    connect(panel.greensPage().lstGreens, &ListBox::picked, this, [this] { ShowSelectedGreen(); });
+}
+
+void GreensView::FilterGreens(bool updateMap) {
+    GreensPage& page = panel_.greensPage();
+    panel_.runFilter({*page.lstGreens, *page.lblGreensList, countCaption,
+                      [this] { return greenEntries(state_, panel_.greenChoice()); }},
+                     updateMap);
+}
+
+void GreensView::DrawGreens(std::vector<Marker>& markers) const {
+    if (!panel_.layerShown(2))
+        return;
+    std::vector<Marker> marks =
+        greenMarkers(state_, panel_.greensPage().lstGreens->items(), panel_.elitePage().lstElite->items(),
+                     map_.shown(panel_.selection().zoneIndex()), panel_.layerShown(0));
+    std::move(marks.begin(), marks.end(), std::back_inserter(markers));
+}
+
+void GreensView::ShowSelectedGreen() {
+    if (const MapLocation* at = greenLocation(state_, panel_.greensPage().lstGreens->selectedEntry().data))
+        showOnMap(map_, state_, RegionPoint::of(*at));
+}
+
+} // namespace orvinel
