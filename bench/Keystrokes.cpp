@@ -2,6 +2,7 @@
 
 #include "compare/Bare.h"
 #include "compare/Scene.h"
+#include "layers/modElite.h"
 #include "ui/map/RegionPictures.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,7 @@
 #include "World.h"
 
+#include "world/modCampaigns.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -2,6 +2,8 @@
 #include "World.h"
 #include "app/modData.h"
 #include "compare/PlainMap.h"
+#include "layers/modCollectors.h"
+#include "layers/modElite.h"
 #include "ui/platform/Windows.h"
 
 #include <QApplication>

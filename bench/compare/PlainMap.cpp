@@ -1,6 +1,12 @@
 #include "compare/PlainMap.h"
 
 #include "app/ProgramState.h"
+#include "layers/modCollectors.h"
+#include "layers/modElite.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "layers/modPets.h"
+#include "layers/modTreasures.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 

@@ -3,6 +3,9 @@
 #include "compare/Layout.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
+#include "world/modZones.h"
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsRectItem>

@@ -1,5 +1,7 @@
 #include "app/ProgramLayers.h"
 
+#include "progress/OpenedTreasures.h"
+
 namespace orvinel {
 
 ProgramLayers::ProgramLayers(const ProgramState& state, const Disk& disk, const Desktop& desktop,

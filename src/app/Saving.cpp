@@ -1,11 +1,10 @@
 #include "app/Saving.h"
 
-#include "app/ProgramState.h"
 #include "app/modLanguage.h"
 
 namespace orvinel {
 
-bool saveAndTell(const ProgramState& state, Desktop& desktop,
+bool saveAndTell(const World& state, Desktop& desktop,
                  const std::function<SaveResult(bool evenIfChanged)>& save) {
     SaveResult result = save(false);
     if (result.outcome == SaveResult::Outcome::ChangedOutside) {

@@ -2,10 +2,19 @@
 
 #include "app/ProgramState.h"
 #include "app/modLanguage.h"
-#include "base/About.h"
 #include "base/RationedDisk.h"
+#include "layers/EliteFiles.h"
+#include "layers/modCollectors.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "layers/modPets.h"
+#include "layers/modTreasures.h"
 #include "progress/CapturedSkills.h"
 #include "progress/OpenedTreasures.h"
+#include "progress/modCharacters.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
+#include "world/modZones.h"
 
 #include <QScopeGuard>
 

@@ -1,7 +1,7 @@
 #include "app/modLanguage.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "world/World.h"
 
 namespace orvinel {
 
@@ -51,7 +51,7 @@ QString builtIn(OwnText number) {
 
 } // namespace
 
-bool LoadLanguage(ProgramState& state, const Disk& disk, Complaints* complaints) {
+bool LoadLanguage(World& state, const Disk& disk, Complaints* complaints) {
     state.LanguageTable.reset();
     TextFile file(disk, state.AppPath + u"Data/Language.txt"_s, complaints);
     if (!file.exists())
@@ -70,7 +70,7 @@ QString missingLanguageMessage() {
            "Please download Orvinel again; if the problem persists, contact its author at orvinel@example.org."_s;
 }
 
-QString ownText(const ProgramState& state, OwnText number) {
+QString ownText(const World& state, OwnText number) {
     const QString text = state.text(static_cast<int>(number));
     return text.isEmpty() ? builtIn(number) : text;
 }

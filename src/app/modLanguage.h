@@ -7,10 +7,10 @@
 
 namespace orvinel {
 
-struct ProgramState;
+struct World;
 
 // Fills the LanguageTable; False when Data/Language.txt is missing, empty or unreadable.
-bool LoadLanguage(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+bool LoadLanguage(World& state, const Disk& disk, Complaints* complaints = nullptr);
 
 // What is said when LoadLanguage fails; title and text.
 QString missingLanguageMessage();
@@ -39,6 +39,6 @@ enum class OwnText {
     CastTime = 217,
     TooMuchData = 218
 };
-QString ownText(const ProgramState& state, OwnText number);
+QString ownText(const World& state, OwnText number);
 
 } // namespace orvinel

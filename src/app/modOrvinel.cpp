@@ -4,6 +4,7 @@
 #include "app/modData.h"
 #include "app/modLanguage.h"
 #include "base/About.h"
+#include "world/modCampaigns.h"
 
 #include <QScopeGuard>
 #include <QTimer>

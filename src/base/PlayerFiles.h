@@ -12,8 +12,9 @@ namespace orvinel {
 struct SaveResult {
     enum class Outcome {
         Saved,
-        Failed,        // the old file is as it was; `reason` says why
-        ChangedOutside // somebody else wrote the file since it was read; nothing was done
+        Failed,         // the old file is as it was; `reason` says why
+        ChangedOutside, // somebody else wrote the file since it was read; nothing was done
+        Refused         // what was to be saved breaks a rule that the caller can ask first; nothing was done
     };
     Outcome outcome = Outcome::Saved;
     QString file; // the file's name without its folder

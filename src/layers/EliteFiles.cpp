@@ -1,7 +1,11 @@
-#include "layers/modElite.h"
+#include "layers/EliteFiles.h"
 
-#include "app/ProgramState.h"
+#include "base/Desktop.h"
 #include "base/TextFile.h"
+#include "layers/Content.h"
+#include "layers/modGreenies.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <limits>
 
@@ -14,7 +18,6 @@ namespace {
 constexpr size_t fullListLine = 11;
 constexpr size_t locationLineWithNote = 8;
 constexpr int mostLocations = largestIdentifier; // of one campaign
-constexpr int twipsPerPixel = 15;
 constexpr int anyIntLow = std::numeric_limits<int>::min();
 constexpr int anyIntHigh = std::numeric_limits<int>::max();
 
@@ -37,7 +40,7 @@ std::optional<Costs> readCosts(TextFile& file) {
 }
 
 // `pictures`: the campaign's folder of skill pictures.
-void readSkill(ProgramState& state, TextFile& file, int campaign, const QString& pictures) {
+void readSkill(Content& state, TextFile& file, int campaign, const QString& pictures) {
     const auto id = file.integer(0, "skill", 0, largestIdentifier);
     const auto profession = file.whole(1, "profession", 0, 255);
     const bool full = file.fieldCount() == fullListLine;
@@ -62,7 +65,7 @@ void readSkill(ProgramState& state, TextFile& file, int campaign, const QString&
     skill.Picture = pictures + fixedDigits(*id, 4) + u".jpg"_s;
 }
 
-void sortSkills(ProgramState& state) {
+void sortSkills(Content& state) {
     std::vector<QString> texts;
     for (int id = 1; id <= state.EliteSkills.highest(); ++id) {
         EliteSkill& skill = state.EliteSkills[id];
@@ -77,13 +80,13 @@ void sortSkills(ProgramState& state) {
 // Coordinates are twips until a comment names another version than 1.0.
 class LocationFile {
   public:
-    LocationFile(const ProgramState& state, const Disk& disk, int campaign, Complaints* complaints)
+    LocationFile(const Content& state, const Disk& disk, int campaign, Complaints* complaints)
         : file_(disk, campaignFolder(state, campaign) + u"/EliteLocations.txt"_s, complaints),
           campaign_(campaign) {}
 
     // Calls store(skill, location) for every line that can be used.
     template <typename Store>
-    void read(const ProgramState& state, Store store) {
+    void read(const Content& state, Store store) {
         while (file_.nextLine()) {
             if (file_.isComment()) {
                 if (file_.line().sliced(1).startsWith(u"[Version]"))
@@ -145,7 +148,7 @@ bool carriesGreens(const MapLocation& at) {
 
 } // namespace
 
-void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadEliteSkills(Content& state, const Disk& disk, Complaints* complaints) {
     state.EliteSkills.reset();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         const QString folder = campaignFolder(state, n);
@@ -159,7 +162,7 @@ void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complain
     sortSkills(state);
 }
 
-void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadEliteLocations(Content& state, const Disk& disk, Complaints* complaints) {
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         LocationFile file(state, disk, n, complaints);
         file.read(state, [&](int id, MapLocation&& read) {

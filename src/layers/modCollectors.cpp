@@ -1,9 +1,11 @@
 #include "layers/modCollectors.h"
 
-#include "app/ProgramState.h"
 #include "app/modUtility.h"
 #include "base/TextFile.h"
 #include "base/TextSearch.h"
+#include "layers/Content.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <QSet>
 
@@ -17,14 +19,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Ends each text in FoldedObjects: no search can reach over it, since UTF-8 never holds this byte.
-constexpr char textEnd = '\xFF';
-
 // Loading
 
 class CollectorReader {
   public:
-    CollectorReader(ProgramState& state, TextFile& file, QSet<QString>& requestTypes)
+    CollectorReader(Content& state, TextFile& file, QSet<QString>& requestTypes)
         : state_(state), file_(file), requestTypes_(requestTypes) {}
 
     void readAll() {
@@ -102,13 +101,13 @@ class CollectorReader {
             state_.RequestTypes.append({type, level});
     }
 
-    ProgramState& state_;
+    Content& state_;
     TextFile& file_;
     int objects_ = 0;
     QSet<QString>& requestTypes_; // lower-cased texts of those that are in the table
 };
 
-void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
+void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* complaints) {
     using Limits = std::numeric_limits<int>;
     TextFile file(disk, campaignFolder(state, campaign) + u"/CollectorsLocations.txt"_s, complaints);
     while (file.nextLine()) {
@@ -198,7 +197,7 @@ struct Search {
 };
 
 template <typename Visit>
-void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
     for (const int id : listed) {
         if (!state.Collectors.has(id))
             continue;
@@ -222,26 +221,9 @@ QString statsText(const std::vector<QString>& stats) {
 
 } // namespace
 
-void Collector::setRequest(const QString& text) {
-    Request = text;
-    FoldedRequest = folded(text);
-}
-
-void Collector::addObject(const QString& name, int handMask, std::vector<QString> stats) {
-    CollectorObject object{name, handMask, std::move(stats), 0, 0, 0};
-    object.FoldedName = static_cast<int>(FoldedObjects.size());
-    FoldedObjects += folded(name) + textEnd;
-    object.FoldedStats = static_cast<int>(FoldedObjects.size());
-    for (const QString& line : object.Stats)
-        if (!line.trimmed().isEmpty())
-            FoldedObjects += folded(line) + textEnd;
-    object.FoldedEnd = static_cast<int>(FoldedObjects.size());
-    Objects.push_back(std::move(object));
-}
-
 // Records own their lists from the start, so a number that no line fills has empty ones and the tables need
 // no pass that makes them so after loading.
-void LoadCollectors(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadCollectors(Content& state, const Disk& disk, Complaints* complaints) {
     state.Collectors.reset();
     state.RequestTypes.clear();
     QSet<QString> requestTypes;
@@ -252,14 +234,14 @@ void LoadCollectors(ProgramState& state, const Disk& disk, Complaints* complaint
     state.CollectorOrder = orderByName(state.Collectors);
 }
 
-void LoadCollectorLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadCollectorLocations(Content& state, const Disk& disk, Complaints* complaints) {
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadLocations(state, n, disk, complaints);
 }
 
 // Looks through the records in the order in which they lie in memory, which is several times as fast, and
 // only then walks the list's order.
-std::vector<ListEntry> collectorEntries(const ProgramState& state, const CollectorChoice& choice) {
+std::vector<ListEntry> collectorEntries(const Content& state, const CollectorChoice& choice) {
     const Search search(choice, zoneIdentifier(state, choice.place));
     std::vector<bool> admitted;
     admitted.reserve(state.CollectorOrder.size() + 1);
@@ -272,7 +254,7 @@ std::vector<ListEntry> collectorEntries(const ProgramState& state, const Collect
     return entries;
 }
 
-std::vector<ListEntry> requestTypeEntries(const ProgramState& state, int level) {
+std::vector<ListEntry> requestTypeEntries(const Content& state, int level) {
     std::vector<ListEntry> entries;
     for (int i = 1; i <= state.RequestTypes.count(); ++i)
         if (level == CollectorChoice::anyLevel || state.RequestTypes[i].Level == level)
@@ -282,7 +264,7 @@ std::vector<ListEntry> requestTypeEntries(const ProgramState& state, int level) 
     return entries;
 }
 
-std::vector<Marker> collectorMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<Marker> collectorMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<Marker> markers;
     forEachShown(state, listed, shown, [&](int, const Collector& collector) {
         const MapLocation& at = collector.Location;
@@ -293,7 +275,7 @@ std::vector<Marker> collectorMarkers(const ProgramState& state, ListedItems list
     return markers;
 }
 
-std::vector<HitArea> collectorHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<HitArea> collectorHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<HitArea> areas;
     forEachShown(state, listed, shown, [&](int id, const Collector& collector) {
         areas.push_back(HitArea::of(collector.Location, id));
@@ -301,7 +283,7 @@ std::vector<HitArea> collectorHitAreas(const ProgramState& state, ListedItems li
     return areas;
 }
 
-CollectorTooltip collectorTooltip(const ProgramState& state, int id, const CollectorChoice& choice) {
+CollectorTooltip collectorTooltip(const Content& state, int id, const CollectorChoice& choice) {
     const Collector& collector = state.Collectors[id];
     const Search search(choice, 0);
     CollectorTooltip tooltip{collector.Name, collector.Request, collector.LocationText, {}};

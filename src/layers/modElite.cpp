@@ -1,6 +1,8 @@
 #include "layers/modElite.h"
 
-#include "app/ProgramState.h"
+#include "layers/Content.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <algorithm>
 
@@ -18,7 +20,7 @@ struct Search {
     std::string name;
     std::string attribute;
 
-    Search(const ProgramState& state, const EliteChoice& c)
+    Search(const Content& state, const EliteChoice& c)
         : choice(c), zone(zoneIdentifier(state, c.place)), boss(folded(c.bossText)), name(folded(c.nameText)),
           attribute(folded(c.attribute.value_or(QString()))) {}
 
@@ -79,7 +81,7 @@ QString dashedLines(const std::vector<QString>& lines) {
     return text;
 }
 
-void fillSkillPart(EliteTooltip& tip, const ProgramState& state, const EliteSkill& skill) {
+void fillSkillPart(EliteTooltip& tip, const Content& state, const EliteSkill& skill) {
     tip.name = skill.Name;
     tip.picture = skill.Picture;
     tip.type = skill.Type;
@@ -98,23 +100,7 @@ void fillSkillPart(EliteTooltip& tip, const ProgramState& state, const EliteSkil
 
 } // namespace
 
-void EliteSkill::setName(const QString& name) {
-    Name = name;
-    FoldedName = folded(name);
-    Exists = !name.isEmpty();
-}
-
-void EliteSkill::setAttribute(const QString& attribute) {
-    Attribute = attribute;
-    FoldedAttribute = folded(attribute);
-}
-
-int EliteSkill::addLocation(MapLocation location) {
-    FoldedBosses += location.FoldedBoss + '\n';
-    return Locations.append(std::move(location));
-}
-
-std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice& choice) {
+std::vector<ListEntry> eliteEntries(const Content& state, const EliteChoice& choice) {
     const Search search(state, choice);
     std::vector<ListEntry> entries;
     for (const int id : state.EliteOrder)
@@ -123,7 +109,7 @@ std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice
     return entries;
 }
 
-std::vector<ListEntry> eliteLocationEntries(const ProgramState& state, int id, const EliteChoice& choice) {
+std::vector<ListEntry> eliteLocationEntries(const Content& state, int id, const EliteChoice& choice) {
     const Search search(state, choice);
     const EliteSkill& skill = state.EliteSkills[id];
     std::vector<ListEntry> entries;
@@ -138,7 +124,7 @@ std::vector<ListEntry> eliteLocationEntries(const ProgramState& state, int id, c
     return entries;
 }
 
-std::vector<Marker> eliteMarkers(const ProgramState& state, ListedItems elite, const MapShown& shown,
+std::vector<Marker> eliteMarkers(const Content& state, ListedItems elite, const MapShown& shown,
                                  const QString& bossText) {
     const std::string boss = folded(bossText);
     std::vector<Marker> boxes;
@@ -151,7 +137,7 @@ std::vector<Marker> eliteMarkers(const ProgramState& state, ListedItems elite, c
     return boxes;
 }
 
-std::vector<HitArea> eliteHitAreas(const ProgramState& state, ListedItems elite, ListedItems greens,
+std::vector<HitArea> eliteHitAreas(const Content& state, ListedItems elite, ListedItems greens,
                                    const MapShown& shown) {
     std::vector<HitArea> areas;
     std::vector<bool> added(static_cast<size_t>(state.EliteSkills.highest()) + 1);
@@ -173,7 +159,7 @@ std::vector<HitArea> eliteHitAreas(const ProgramState& state, ListedItems elite,
     return areas;
 }
 
-EliteTooltip eliteTooltip(const ProgramState& state, EliteHit hit, const MapShown& shown, bool skillListed,
+EliteTooltip eliteTooltip(const Content& state, EliteHit hit, const MapShown& shown, bool skillListed,
                           bool greensShown) {
     const EliteSkill& skill = state.EliteSkills[hit.id];
     const MapLocation& at = skill.Locations[hit.location];

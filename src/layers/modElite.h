@@ -5,6 +5,7 @@
 #include "base/Disk.h"
 #include "base/IndexedTable.h"
 #include "base/Listing.h"
+#include "layers/EliteSkill.h"
 #include "world/HitIndex.h"
 #include "world/MapLocation.h"
 #include "world/Marker.h"
@@ -18,47 +19,7 @@
 
 namespace orvinel {
 
-struct ProgramState;
-
-struct EliteSkill {
-    QString Name;        // written by setName only
-    bool Exists = false; // the name is not empty
-    QString Attribute;   // written by setAttribute only
-    QString Type;
-    int Upkeep = 0;     // -32768..32767; shown when not 0
-    int Adrenaline = 0; // 0..255; shown when above 0
-    int Energy = 0;     // 0..255; shown when above 0
-    QString CastTime;   // as written, perhaps with "/"; shown when its leading number is above 0
-    int Recharge = 0;   // -32768..32767; shown from 1 up
-    QString Description;
-    QString Picture; // full path of the JPEG, whether or not it exists; empty: none
-    int Profession = 0;
-    int Campaign = 0;             // whose list defined the skill
-    std::vector<bool> Captured;   // by character number, 0..highest
-    List1<MapLocation> Locations; // written by addLocation only
-    QString ListText;             // "Name [Abbr]": how every list shows the skill; kept by the loader
-    std::string FoldedName;
-    std::string FoldedAttribute;
-    std::string FoldedBosses; // of all locations, each ended by '\n'
-
-    void setName(const QString& name);
-    void setAttribute(const QString& attribute);
-    // Returns the location's index.
-    int addLocation(MapLocation location);
-    // Also for characters that the skill knows nothing of.
-    bool capturedBy(int character) const {
-        const auto c = static_cast<size_t>(character);
-        return character >= 0 && c < Captured.size() && Captured[c];
-    }
-
-    bool operator==(const EliteSkill&) const = default;
-};
-
-// Also fills EliteOrder. Slot 0 is no skill: its locations are the bosses without one.
-void LoadEliteSkills(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
-// Links the green items too. A location of a number within the table that no line named is kept: its skill
-// has no name.
-void LoadEliteLocations(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+struct Content;
 
 // What the panel asks of the skills; a default asks nothing.
 struct EliteChoice {
@@ -73,21 +34,21 @@ struct EliteChoice {
 };
 
 // Entries of lstElite, in its alphabetical order; the item data is the skill's ID.
-std::vector<ListEntry> eliteEntries(const ProgramState& state, const EliteChoice& choice);
+std::vector<ListEntry> eliteEntries(const Content& state, const EliteChoice& choice);
 
 // Entries of lstLocations for the skill `id`, which exists: "Zone - Region - Campaign" of the locations that
 // the choice's place and boss text let through, in file order; the item data is the location's index.
-std::vector<ListEntry> eliteLocationEntries(const ProgramState& state, int id, const EliteChoice& choice);
+std::vector<ListEntry> eliteLocationEntries(const Content& state, int id, const EliteChoice& choice);
 
 // The boxes of the listed skills' bosses, then those of the bosses without a skill, which `bossText` (as it
 // stands in the field) does not concern.
-std::vector<Marker> eliteMarkers(const ProgramState& state, ListedItems elite, const MapShown& shown,
+std::vector<Marker> eliteMarkers(const Content& state, ListedItems elite, const MapShown& shown,
                                  const QString& bossText);
 
 // id = the skill's ID, part = the location's index. The listed skills come first, then the skills of the
 // listed green items; pass no greens to look through the listed skills only. A skill with ID 0 is found only
 // through greens: it is a boss without a skill.
-std::vector<HitArea> eliteHitAreas(const ProgramState& state, ListedItems elite, ListedItems greens,
+std::vector<HitArea> eliteHitAreas(const Content& state, ListedItems elite, ListedItems greens,
                                    const MapShown& shown);
 
 // A boss under the mouse.
@@ -125,7 +86,7 @@ struct EliteTooltip {
 
 // `hit` names a location that exists. `skillListed`: the layer is switched on and the skill is in the list;
 // `greensShown`: the layer of the green items is switched on.
-EliteTooltip eliteTooltip(const ProgramState& state, EliteHit hit, const MapShown& shown, bool skillListed,
+EliteTooltip eliteTooltip(const Content& state, EliteHit hit, const MapShown& shown, bool skillListed,
                           bool greensShown);
 
 } // namespace orvinel

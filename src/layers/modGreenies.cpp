@@ -1,8 +1,10 @@
 #include "layers/modGreenies.h"
 
-#include "app/ProgramState.h"
 #include "app/modUtility.h"
 #include "base/TextFile.h"
+#include "layers/Content.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <algorithm>
 
@@ -16,7 +18,7 @@ constexpr int barHeight = 3;
 // Every location of a boss lists its items: without a bound two long files would multiply each other.
 constexpr size_t mostItemsOfBoss = 128;
 
-void readGreens(ProgramState& state, TextFile& file) {
+void readGreens(Content& state, TextFile& file) {
     while (file.nextLine()) {
         const QStringView line = file.line().trimmed();
         if (line.isEmpty() || line.startsWith(u';') || !file.split(2))
@@ -46,7 +48,7 @@ struct Search {
     std::string name;
     std::string additional;
 
-    Search(const ProgramState& state, const GreenChoice& c)
+    Search(const Content& state, const GreenChoice& c)
         : choice(c), zone(zoneIdentifier(state, c.place)), name(folded(c.nameText.trimmed())),
           additional(folded(c.additionalText)) {}
 
@@ -64,18 +66,7 @@ struct Search {
 
 } // namespace
 
-void GreenItem::setTexts(const QString& name, const QString& boss, std::vector<QString> stats) {
-    Name = name;
-    Boss = boss;
-    Stats = name.isEmpty() ? std::vector<QString>() : std::move(stats);
-    FoldedName = folded(Name);
-    FoldedStats.clear();
-    for (const QString& line : Stats)
-        if (!line.trimmed().isEmpty())
-            FoldedStats += folded(line) + '\n';
-}
-
-void LoadGreens(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadGreens(Content& state, const Disk& disk, Complaints* complaints) {
     state.GreenItems.clear();
     state.GreensOfBosses.clear();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
@@ -90,7 +81,7 @@ void LoadGreens(ProgramState& state, const Disk& disk, Complaints* complaints) {
         ++green;
 }
 
-std::vector<int> LinkGreensToBoss(ProgramState& state, int elite, int location, const QString& boss) {
+std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss) {
     const auto found = state.GreensOfBosses.find(folded(boss.trimmed()));
     if (found == state.GreensOfBosses.end())
         return {};
@@ -101,7 +92,7 @@ std::vector<int> LinkGreensToBoss(ProgramState& state, int elite, int location, 
     return found->second;
 }
 
-const MapLocation* greenLocation(const ProgramState& state, int green) {
+const MapLocation* greenLocation(const Content& state, int green) {
     if (!state.GreenItems.has(green))
         return nullptr;
     const GreenItem& item = state.GreenItems[green];
@@ -111,7 +102,7 @@ const MapLocation* greenLocation(const ProgramState& state, int green) {
     return locations.has(item.LocationIndex) ? &locations[item.LocationIndex] : nullptr;
 }
 
-std::vector<ListEntry> greenEntries(const ProgramState& state, const GreenChoice& choice) {
+std::vector<ListEntry> greenEntries(const Content& state, const GreenChoice& choice) {
     const Search search(state, choice);
     std::vector<ListEntry> entries;
     for (const int green : state.GreenOrder) {
@@ -122,7 +113,7 @@ std::vector<ListEntry> greenEntries(const ProgramState& state, const GreenChoice
     return entries;
 }
 
-std::vector<Marker> greenMarkers(const ProgramState& state, ListedItems greens, ListedItems elite,
+std::vector<Marker> greenMarkers(const Content& state, ListedItems greens, ListedItems elite,
                                  const MapShown& shown, bool eliteShown) {
     std::vector<bool> boxed(static_cast<size_t>(state.EliteSkills.highest()) + 1);
     if (eliteShown) {

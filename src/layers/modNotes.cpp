@@ -1,8 +1,8 @@
 #include "layers/modNotes.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
 #include "base/TextSearch.h"
+#include "layers/Content.h"
 
 namespace orvinel {
 
@@ -29,7 +29,7 @@ std::optional<Note> readNote(TextFile& file) {
     return note;
 }
 
-void readLine(ProgramState& state, TextFile& file) {
+void readLine(Content& state, TextFile& file) {
     const QStringView line = file.line().trimmed();
     if (line.isEmpty() || line.startsWith(u';') || !file.split(fieldsOfNote))
         return;
@@ -43,7 +43,7 @@ void readLine(ProgramState& state, TextFile& file) {
         state.Notes.append(std::move(*note));
 }
 
-void sortNotes(ProgramState& state) {
+void sortNotes(Content& state) {
     std::vector<QString> titles;
     for (const Note& note : state.Notes)
         titles.push_back(note.ShortDesc);
@@ -69,7 +69,7 @@ QString textOf(const List1<Note>& notes) {
 }
 
 // The file first: the table changes only when that has worked.
-SaveResult replaceNotes(ProgramState& state, PlayerFiles& files, List1<Note> notes, bool evenIfChanged) {
+SaveResult replaceNotes(Content& state, PlayerFiles& files, List1<Note> notes, bool evenIfChanged) {
     const SaveResult result = files.save(notesPath(state), textOf(notes), evenIfChanged);
     if (result.saved()) {
         state.Notes = std::move(notes);
@@ -101,7 +101,7 @@ QString storedBody(QString body) {
 }
 
 template <typename Visit>
-void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
     for (const int index : listed) {
         if (!state.Notes.has(index))
             continue;
@@ -113,14 +113,7 @@ void forEachShown(const ProgramState& state, ListedItems listed, const MapShown&
 
 } // namespace
 
-void Note::setTexts(const QString& title, const QString& body) {
-    ShortDesc = title;
-    Body = body;
-    FoldedShortDesc = folded(title);
-    FoldedBody = folded(body);
-}
-
-void LoadNotes(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+void LoadNotes(Content& state, PlayerFiles& files, Complaints* complaints) {
     state.Notes.clear();
     TextFile file(files.source(), notesPath(state), complaints);
     while (file.nextLine())
@@ -129,19 +122,19 @@ void LoadNotes(ProgramState& state, PlayerFiles& files, Complaints* complaints) 
     sortNotes(state);
 }
 
-QString notesPath(const ProgramState& state) {
+QString notesPath(const Content& state) {
     return state.AppPath + u"Personal/Notes.txt"_s;
 }
 
-QString notesFile(const ProgramState& state) {
+QString notesFile(const Content& state) {
     return textOf(state.Notes);
 }
 
-SaveResult SaveNotes(const ProgramState& state, PlayerFiles& files, bool evenIfChanged) {
+SaveResult SaveNotes(const Content& state, PlayerFiles& files, bool evenIfChanged) {
     return files.save(notesPath(state), notesFile(state), evenIfChanged);
 }
 
-std::vector<ListEntry> noteEntries(const ProgramState& state, const NoteChoice& choice) {
+std::vector<ListEntry> noteEntries(const Content& state, const NoteChoice& choice) {
     const std::string title = folded(QStringView(choice.titleText).trimmed());
     const std::string body = folded(QStringView(choice.bodyText).trimmed());
     std::vector<ListEntry> entries;
@@ -154,7 +147,7 @@ std::vector<ListEntry> noteEntries(const ProgramState& state, const NoteChoice& 
     return entries;
 }
 
-std::vector<Marker> noteMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<Marker> noteMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<Marker> markers;
     forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
         markers.push_back(Marker::picture(Sprite::Note, at.Left, at.Top));
@@ -162,7 +155,7 @@ std::vector<Marker> noteMarkers(const ProgramState& state, ListedItems listed, c
     return markers;
 }
 
-std::vector<HitArea> noteHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<HitArea> noteHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<HitArea> areas;
     forEachShown(state, listed, shown,
                  [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
@@ -176,7 +169,7 @@ NoteProblem checkNote(const QString& title) {
     return stored.startsWith(u';') ? NoteProblem::CommentTitle : NoteProblem::None;
 }
 
-SaveResult storeNote(ProgramState& state, PlayerFiles& files, NoteEdit& edit, bool evenIfChanged) {
+SaveResult storeNote(Content& state, PlayerFiles& files, NoteEdit& edit, bool evenIfChanged) {
     List1<Note> notes = state.Notes;
     int index = edit.index;
     if (!notes.has(index)) {
@@ -195,7 +188,7 @@ SaveResult storeNote(ProgramState& state, PlayerFiles& files, NoteEdit& edit, bo
     return result;
 }
 
-SaveResult deleteNote(ProgramState& state, PlayerFiles& files, int index, bool evenIfChanged) {
+SaveResult deleteNote(Content& state, PlayerFiles& files, int index, bool evenIfChanged) {
     List1<Note> notes = state.Notes;
     notes[index].setTexts({}, notes[index].Body);
     return replaceNotes(state, files, std::move(notes), evenIfChanged);

@@ -3,6 +3,7 @@
 #include "base/Complaints.h"
 #include "base/Listing.h"
 #include "base/PlayerFiles.h"
+#include "layers/Note.h"
 #include "world/HitIndex.h"
 #include "world/MapLocation.h"
 #include "world/Marker.h"
@@ -15,31 +16,17 @@
 
 namespace orvinel {
 
-struct ProgramState;
-
-// The player's own annotation of a place.
-struct Note {
-    QString ShortDesc; // empty: deleted; the slot stays until the program ends
-    QString Body;      // lines end with CR LF
-    MapLocation At;    // Campaign, Region, X, Y and the rectangle only
-    std::string FoldedShortDesc;
-    std::string FoldedBody;
-
-    // The only writer of the texts.
-    void setTexts(const QString& title, const QString& body);
-
-    bool operator==(const Note&) const = default;
-};
+struct Content;
 
 // The length to which the dialog limits a title; one from the file may be longer.
 inline constexpr int longestNoteTitle = 30;
 
-void LoadNotes(ProgramState& state, PlayerFiles& files, Complaints* complaints = nullptr);
+void LoadNotes(Content& state, PlayerFiles& files, Complaints* complaints = nullptr);
 
-QString notesPath(const ProgramState& state);
+QString notesPath(const Content& state);
 // The text of Notes.txt for the table as it stands: notes that are not deleted, in table order.
-QString notesFile(const ProgramState& state);
-SaveResult SaveNotes(const ProgramState& state, PlayerFiles& files, bool evenIfChanged = false);
+QString notesFile(const Content& state);
+SaveResult SaveNotes(const Content& state, PlayerFiles& files, bool evenIfChanged = false);
 
 struct NoteChoice {
     Place place;       // the zone does not matter
@@ -48,12 +35,12 @@ struct NoteChoice {
 };
 
 // Entries of lstNotes, in its alphabetical order; the item data is the note's index.
-std::vector<ListEntry> noteEntries(const ProgramState& state, const NoteChoice& choice);
+std::vector<ListEntry> noteEntries(const Content& state, const NoteChoice& choice);
 
 // The zone shown does not matter to notes.
-std::vector<Marker> noteMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown);
+std::vector<Marker> noteMarkers(const Content& state, ListedItems listed, const MapShown& shown);
 // id = the note's index.
-std::vector<HitArea> noteHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown);
+std::vector<HitArea> noteHitAreas(const Content& state, ListedItems listed, const MapShown& shown);
 
 enum class NoteProblem {
     None,
@@ -74,8 +61,8 @@ struct NoteEdit {
 };
 // Stores the note and rewrites the file; a new note's slot is put into `edit.index`. When the file could not
 // be saved, table and `edit` are as they were.
-SaveResult storeNote(ProgramState& state, PlayerFiles& files, NoteEdit& edit, bool evenIfChanged = false);
+SaveResult storeNote(Content& state, PlayerFiles& files, NoteEdit& edit, bool evenIfChanged = false);
 // The same for deleting the note `index`, which exists.
-SaveResult deleteNote(ProgramState& state, PlayerFiles& files, int index, bool evenIfChanged = false);
+SaveResult deleteNote(Content& state, PlayerFiles& files, int index, bool evenIfChanged = false);
 
 } // namespace orvinel

@@ -1,7 +1,8 @@
 #include "layers/modPets.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "layers/Content.h"
+#include "world/modCampaigns.h"
 
 #include <algorithm>
 #include <limits>
@@ -12,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void loadLocations(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
+void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* complaints) {
     using Limits = std::numeric_limits<int>;
     TextFile file(disk, campaignFolder(state, campaign) + u"/PetsLocations.txt"_s, complaints);
     int stored = 0;
@@ -48,7 +49,7 @@ struct Search {
     const Place& place;
     int zone;
 
-    Search(const ProgramState& state, const PetChoice& choice)
+    Search(const Content& state, const PetChoice& choice)
         : place(choice.place), zone(zoneIdentifier(state, choice.place)) {}
 
     bool admits(const MapLocation& at) const {
@@ -61,7 +62,7 @@ struct Search {
 };
 
 template <typename Visit>
-void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
     for (const int id : listed) {
         if (!state.Pets.has(id))
             continue;
@@ -74,7 +75,7 @@ void forEachShown(const ProgramState& state, ListedItems listed, const MapShown&
 
 } // namespace
 
-void LoadPets(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadPets(Content& state, const Disk& disk, Complaints* complaints) {
     state.Pets.reset();
     const QString folder = campaignFolder(state, 0);
     TextFile file(disk, folder + u"/PetsList.txt"_s, complaints);
@@ -91,12 +92,12 @@ void LoadPets(ProgramState& state, const Disk& disk, Complaints* complaints) {
     }
 }
 
-void LoadPetLocations(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadPetLocations(Content& state, const Disk& disk, Complaints* complaints) {
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadLocations(state, n, disk, complaints);
 }
 
-std::vector<ListEntry> petEntries(const ProgramState& state, const PetChoice& choice) {
+std::vector<ListEntry> petEntries(const Content& state, const PetChoice& choice) {
     const Search search(state, choice);
     std::vector<ListEntry> entries;
     for (int id = 1; id <= state.Pets.highest(); ++id)
@@ -105,7 +106,7 @@ std::vector<ListEntry> petEntries(const ProgramState& state, const PetChoice& ch
     return entries;
 }
 
-std::vector<ListEntry> petLocationEntries(const ProgramState& state, int id, const PetChoice& choice) {
+std::vector<ListEntry> petLocationEntries(const Content& state, int id, const PetChoice& choice) {
     const Search search(state, choice);
     const auto& locations = state.Pets[id].Locations;
     std::vector<ListEntry> entries;
@@ -120,7 +121,7 @@ std::vector<ListEntry> petLocationEntries(const ProgramState& state, int id, con
     return entries;
 }
 
-std::vector<Marker> petMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<Marker> petMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<Marker> markers;
     forEachShown(state, listed, shown, [&](int, int, const MapLocation& at) {
         if (shown.passesZone(at.Zone))
@@ -129,7 +130,7 @@ std::vector<Marker> petMarkers(const ProgramState& state, ListedItems listed, co
     return markers;
 }
 
-std::vector<HitArea> petHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<HitArea> petHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<HitArea> areas;
     forEachShown(state, listed, shown,
                  [&](int id, int k, const MapLocation& at) { areas.push_back(HitArea::of(at, id, k)); });

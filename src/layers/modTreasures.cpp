@@ -1,7 +1,7 @@
 #include "layers/modTreasures.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "layers/Content.h"
 
 #include <algorithm>
 #include <limits>
@@ -33,7 +33,7 @@ std::optional<Treasure> readTreasure(TextFile& file) {
 }
 
 template <typename Visit>
-void forEachShown(const ProgramState& state, ListedItems listed, const MapShown& shown, Visit visit) {
+void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
     for (const int index : listed) {
         if (!state.Treasures.has(index))
             continue;
@@ -45,7 +45,7 @@ void forEachShown(const ProgramState& state, ListedItems listed, const MapShown&
 
 } // namespace
 
-void LoadTreasures(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadTreasures(Content& state, const Disk& disk, Complaints* complaints) {
     state.Treasures.clear();
     TextFile file(disk, state.AppPath + treasuresFile, complaints);
     while (file.nextRecord()) {
@@ -62,7 +62,7 @@ void LoadTreasures(ProgramState& state, const Disk& disk, Complaints* complaints
     }
 }
 
-std::vector<ListEntry> treasureEntries(const ProgramState& state, const TreasureChoice& choice) {
+std::vector<ListEntry> treasureEntries(const Content& state, const TreasureChoice& choice) {
     const int zone = zoneIdentifier(state, choice.place);
     std::vector<ListEntry> entries;
     for (int t = 1; t <= state.Treasures.count(); ++t) {
@@ -75,7 +75,7 @@ std::vector<ListEntry> treasureEntries(const ProgramState& state, const Treasure
     return entries;
 }
 
-std::vector<Marker> treasureMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<Marker> treasureMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<Marker> markers;
     forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
         if (shown.passesZone(at.Zone))
@@ -84,14 +84,14 @@ std::vector<Marker> treasureMarkers(const ProgramState& state, ListedItems liste
     return markers;
 }
 
-std::vector<HitArea> treasureHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown) {
+std::vector<HitArea> treasureHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
     std::vector<HitArea> areas;
     forEachShown(state, listed, shown,
                  [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
     return areas;
 }
 
-TreasureTooltip treasureTooltip(const ProgramState& state, int index) {
+TreasureTooltip treasureTooltip(const Content& state, int index) {
     const Treasure& treasure = state.Treasures[index];
     TreasureTooltip tooltip{treasure.Name, state.text(85), state.text(106), {}, {}};
     for (int c = 1; c <= state.Characters.highest(); ++c) {

@@ -3,6 +3,7 @@
 #include "base/Complaints.h"
 #include "base/Disk.h"
 #include "base/Listing.h"
+#include "layers/Treasure.h"
 #include "world/HitIndex.h"
 #include "world/MapLocation.h"
 #include "world/Marker.h"
@@ -16,38 +17,24 @@
 
 namespace orvinel {
 
-struct ProgramState;
-
-struct Treasure {
-    QString Name;
-    MapLocation Location;
-    std::vector<QDate> OpenedOn; // by character number, 0..highest; an invalid date: not opened
-
-    // Also for characters that the chest knows nothing of.
-    QDate openedBy(int character) const {
-        const auto c = static_cast<size_t>(character);
-        return character >= 0 && c < OpenedOn.size() ? OpenedOn[c] : QDate();
-    }
-
-    bool operator==(const Treasure&) const = default;
-};
+struct Content;
 
 // The only campaign with chests.
 inline constexpr int treasureCampaign = 3;
 
 // OpenedOn gets an entry for every character number.
-void LoadTreasures(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+void LoadTreasures(Content& state, const Disk& disk, Complaints* complaints = nullptr);
 
 struct TreasureChoice {
     Place place;
 };
 
 // Entries of lstKesraTreasures: "Name (Zone)" in table order; the item data is the chest's index.
-std::vector<ListEntry> treasureEntries(const ProgramState& state, const TreasureChoice& choice);
+std::vector<ListEntry> treasureEntries(const Content& state, const TreasureChoice& choice);
 
-std::vector<Marker> treasureMarkers(const ProgramState& state, ListedItems listed, const MapShown& shown);
+std::vector<Marker> treasureMarkers(const Content& state, ListedItems listed, const MapShown& shown);
 // id = the chest's index.
-std::vector<HitArea> treasureHitAreas(const ProgramState& state, ListedItems listed, const MapShown& shown);
+std::vector<HitArea> treasureHitAreas(const Content& state, ListedItems listed, const MapShown& shown);
 
 struct TreasureTooltip {
     struct Line {
@@ -64,7 +51,7 @@ struct TreasureTooltip {
 };
 
 // `treasure` is an index of the table.
-TreasureTooltip treasureTooltip(const ProgramState& state, int treasure);
+TreasureTooltip treasureTooltip(const Content& state, int treasure);
 
 // `left`, as few blanks as make the whole at least `target` wide (always one at least), `right`. `width`
 // measures a text; it never shrinks with a further blank. Measures a few times only, however wide the target.

@@ -1,8 +1,8 @@
 #include "progress/CapturedSkills.h"
 
-#include "app/ProgramState.h"
-#include "app/modLanguage.h"
 #include "base/TextFile.h"
+#include "progress/Progress.h"
+#include "progress/modCharacters.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-void loadCaptures(ProgramState& state, PlayerFiles& files, int character, Complaints* complaints) {
+void loadCaptures(Progress& state, PlayerFiles& files, int character, Complaints* complaints) {
     const QString path = capturedPath(state, character);
     TextFile file(files.source(), path, complaints);
     while (file.nextLine()) {
@@ -36,17 +36,17 @@ QString captureLine(int id) {
 
 } // namespace
 
-void LoadCapturedSkills(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+void LoadCapturedSkills(Progress& state, PlayerFiles& files, Complaints* complaints) {
     state.CapturesBeyondTable.reset();
     for (int c = 1; c <= state.Characters.highest(); ++c)
         loadCaptures(state, files, c, complaints);
 }
 
-QString capturedPath(const ProgramState& state, int character) {
+QString capturedPath(const Progress& state, int character) {
     return characterFilePath(state, character, u"CapElite.txt"_s);
 }
 
-QString capturedFile(const ProgramState& state, int character) {
+QString capturedFile(const Progress& state, int character) {
     QString text;
     for (int id = 1; id <= std::min(state.EliteSkills.highest(), highestMarkableSkill); ++id)
         if (state.EliteSkills[id].capturedBy(character))
@@ -57,15 +57,13 @@ QString capturedFile(const ProgramState& state, int character) {
     return text;
 }
 
-SaveResult SaveCaptured(const ProgramState& state, PlayerFiles& files, int character, bool evenIfChanged) {
+SaveResult SaveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged) {
     return files.save(capturedPath(state, character), capturedFile(state, character), evenIfChanged);
 }
 
-SaveResult captureSkill(ProgramState& state, PlayerFiles& files, int skill, int character,
-                        bool evenIfChanged) {
+SaveResult captureSkill(Progress& state, PlayerFiles& files, int skill, int character, bool evenIfChanged) {
     if (!isMarkable(skill))
-        return {SaveResult::Outcome::Failed, capturedPath(state, character).section(u'/', -1),
-                ownText(state, OwnText::SkillNumberTooLarge)};
+        return {SaveResult::Outcome::Refused, {}, {}};
     auto captured = state.EliteSkills[skill].Captured[static_cast<size_t>(character)];
     const bool before = captured;
     captured = true;
@@ -75,7 +73,7 @@ SaveResult captureSkill(ProgramState& state, PlayerFiles& files, int skill, int 
     return result;
 }
 
-std::vector<ListEntry> charactersToCapture(const ProgramState& state, int skill) {
+std::vector<ListEntry> charactersToCapture(const Progress& state, int skill) {
     std::vector<ListEntry> entries = namedCharacters(state);
     std::erase_if(entries, [&](const ListEntry& character) {
         return state.EliteSkills[skill].capturedBy(character.data);

@@ -11,11 +11,7 @@
 
 namespace orvinel {
 
-struct ProgramState;
-
-// By character number: what the character's file says beyond the skills of today, in file order (a campaign
-// folder may be missing, or its number has five digits). Written back with every rewrite.
-using UnknownCaptures = IndexedTable<std::vector<int>>;
+struct Progress;
 
 // The file names skills with four digits: a higher number would be read back as another skill's.
 inline constexpr int highestMarkableSkill = 9999;
@@ -23,21 +19,20 @@ constexpr bool isMarkable(int skill) {
     return skill >= 1 && skill <= highestMarkableSkill;
 }
 
-void LoadCapturedSkills(ProgramState& state, PlayerFiles& files, Complaints* complaints = nullptr);
+void LoadCapturedSkills(Progress& state, PlayerFiles& files, Complaints* complaints = nullptr);
 
-QString capturedPath(const ProgramState& state, int character);
+QString capturedPath(const Progress& state, int character);
 // The text of the character's file for the tables as they stand.
-QString capturedFile(const ProgramState& state, int character);
-SaveResult SaveCaptured(const ProgramState& state, PlayerFiles& files, int character,
-                        bool evenIfChanged = false);
+QString capturedFile(const Progress& state, int character);
+SaveResult SaveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged = false);
 
-// Marks the skill and rewrites the character's file; when that fails the skill is not marked. Refused, with
-// the reason, for a skill that is not markable.
-SaveResult captureSkill(ProgramState& state, PlayerFiles& files, int skill, int character,
+// Marks the skill and rewrites the character's file; when that fails the skill is not marked. Refused
+// for a skill that is not markable.
+SaveResult captureSkill(Progress& state, PlayerFiles& files, int skill, int character,
                         bool evenIfChanged = false);
 
 // The named characters that have not captured the skill, which exists, in number order; the item data is the
 // character's number.
-std::vector<ListEntry> charactersToCapture(const ProgramState& state, int skill);
+std::vector<ListEntry> charactersToCapture(const Progress& state, int skill);
 
 } // namespace orvinel

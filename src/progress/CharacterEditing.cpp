@@ -1,8 +1,9 @@
 #include "progress/CharacterEditing.h"
 
-#include "app/ProgramState.h"
-#include "app/modLanguage.h"
 #include "base/TextRules.h"
+#include "progress/CapturedSkills.h"
+#include "progress/OpenedTreasures.h"
+#include "progress/Progress.h"
 
 #include <map>
 #include <utility>
@@ -15,12 +16,12 @@ namespace {
 
 constexpr int allText = 9;
 
-std::vector<QString> characterFiles(const ProgramState& state, int number) {
+std::vector<QString> characterFiles(const Progress& state, int number) {
     return {capturedPath(state, number), openedTreasuresPath(state, number)};
 }
 
 // Whoever had the number before left nothing behind.
-void forgetProgress(ProgramState& state, int number) {
+void forgetProgress(Progress& state, int number) {
     for (EliteSkill& skill : state.EliteSkills)
         if (static_cast<size_t>(number) < skill.Captured.size())
             skill.Captured[static_cast<size_t>(number)] = false;
@@ -29,14 +30,14 @@ void forgetProgress(ProgramState& state, int number) {
     forgetOpenedTreasures(state, number);
 }
 
-void growProgress(ProgramState& state) {
+void growProgress(Progress& state) {
     for (EliteSkill& skill : state.EliteSkills)
         skill.Captured.resize(static_cast<size_t>(state.Characters.highest()) + 1);
     growOpenedTreasures(state);
 }
 
 // A second program's or an earlier player's files would become the new character's.
-SaveResult putLeftoversAside(const ProgramState& state, PlayerFiles& files, int number) {
+SaveResult putLeftoversAside(const Progress& state, PlayerFiles& files, int number) {
     for (const QString& path : characterFiles(state, number))
         if (files.disk().length(path) >= 1)
             if (const SaveResult aside = files.putAside(path); !aside.saved())
@@ -44,14 +45,13 @@ SaveResult putLeftoversAside(const ProgramState& state, PlayerFiles& files, int 
     return {};
 }
 
-void takeSelection(ProgramState& state, int number, const SkillSelection& selection) {
+void takeSelection(Progress& state, int number, const SkillSelection& selection) {
     for (int id = 1; id <= state.EliteSkills.highest() && isMarkable(id); ++id)
         state.EliteSkills[id].Captured[static_cast<size_t>(number)] =
             static_cast<size_t>(id) < selection.size() && selection[static_cast<size_t>(id)];
 }
 
-SaveResult saveSelection(ProgramState& state, PlayerFiles& files, const CharacterEdit& edit,
-                         bool evenIfChanged) {
+SaveResult saveSelection(Progress& state, PlayerFiles& files, const CharacterEdit& edit, bool evenIfChanged) {
     const SkillSelection before = characterSelection(state, edit.number);
     takeSelection(state, edit.number, edit.selection);
     SaveResult result = SaveCaptured(state, files, edit.number, evenIfChanged);
@@ -60,7 +60,7 @@ SaveResult saveSelection(ProgramState& state, PlayerFiles& files, const Characte
     return result;
 }
 
-SaveResult saveName(ProgramState& state, PlayerFiles& files, int number, const QString& name,
+SaveResult saveName(Progress& state, PlayerFiles& files, int number, const QString& name,
                     bool evenIfChanged) {
     const QString before = std::exchange(state.Characters[number], name);
     SaveResult result = SaveCharacters(state, files, evenIfChanged);
@@ -70,7 +70,7 @@ SaveResult saveName(ProgramState& state, PlayerFiles& files, int number, const Q
 }
 
 // The captures go first: a character that is in the table has all its files.
-SaveResult changeCharacter(ProgramState& state, PlayerFiles& files, const CharacterEdit& edit,
+SaveResult changeCharacter(Progress& state, PlayerFiles& files, const CharacterEdit& edit,
                            bool evenIfChanged) {
     if (SaveResult result = saveSelection(state, files, edit, evenIfChanged); !result.saved())
         return result;
@@ -78,8 +78,7 @@ SaveResult changeCharacter(ProgramState& state, PlayerFiles& files, const Charac
 }
 
 // Makes room for the number in all tables and fills it. The captures' file does not stay behind alone.
-SaveResult addCharacter(ProgramState& state, PlayerFiles& files, const CharacterEdit& edit,
-                        bool evenIfChanged) {
+SaveResult addCharacter(Progress& state, PlayerFiles& files, const CharacterEdit& edit, bool evenIfChanged) {
     state.Characters.grow(edit.number);
     growProgress(state);
     forgetProgress(state, edit.number);
@@ -93,12 +92,11 @@ SaveResult addCharacter(ProgramState& state, PlayerFiles& files, const Character
     return result;
 }
 
-SaveResult createCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit& edit, bool evenIfChanged) {
+SaveResult createCharacter(Progress& state, PlayerFiles& files, CharacterEdit& edit, bool evenIfChanged) {
     CharacterEdit created = edit;
     created.number = freeCharacterNumber(state);
     if (created.number > mostCharacters)
-        return {SaveResult::Outcome::Failed, charactersPath(state).section(u'/', -1),
-                ownText(state, OwnText::TooManyCharacters)};
+        return {SaveResult::Outcome::Refused, {}, {}};
     if (SaveResult aside = putLeftoversAside(state, files, created.number); !aside.saved())
         return aside;
     const IndexedTable<QString> before = state.Characters;
@@ -111,7 +109,7 @@ SaveResult createCharacter(ProgramState& state, PlayerFiles& files, CharacterEdi
 }
 
 // The text of what the character has on the disk, by path.
-std::map<QString, QString> writtenProgress(const ProgramState& state, const PlayerFiles& files, int number) {
+std::map<QString, QString> writtenProgress(const Progress& state, const PlayerFiles& files, int number) {
     std::map<QString, QString> texts = {
         {capturedPath(state, number), capturedFile(state, number)},
         {openedTreasuresPath(state, number), openedTreasuresFile(state, number)}};
@@ -121,7 +119,7 @@ std::map<QString, QString> writtenProgress(const ProgramState& state, const Play
 
 // The character was taken out of the table, but not all its files could be removed: a file that stays would
 // be read as somebody's at the next start. True when the character is there again with all it had.
-bool bringBack(ProgramState& state, PlayerFiles& files, int number, const QString& name,
+bool bringBack(Progress& state, PlayerFiles& files, int number, const QString& name,
                const std::map<QString, QString>& removed) {
     for (const auto& [path, text] : removed)
         if (!files.save(path, text).saved())
@@ -131,7 +129,7 @@ bool bringBack(ProgramState& state, PlayerFiles& files, int number, const QStrin
 
 } // namespace
 
-NameProblem checkName(const ProgramState& state, const QString& name, int edited) {
+NameProblem checkName(const Progress& state, const QString& name, int edited) {
     const QString wanted = oneLine(name);
     if (wanted.trimmed().isEmpty())
         return NameProblem::Empty;
@@ -141,21 +139,21 @@ NameProblem checkName(const ProgramState& state, const QString& name, int edited
     return NameProblem::None;
 }
 
-int freeCharacterNumber(const ProgramState& state) {
+int freeCharacterNumber(const Progress& state) {
     int number = 1;
     while (state.Characters.has(number) && !state.Characters[number].isEmpty())
         ++number;
     return number;
 }
 
-SkillSelection characterSelection(const ProgramState& state, int number) {
+SkillSelection characterSelection(const Progress& state, int number) {
     SkillSelection selection;
     for (const EliteSkill& skill : state.EliteSkills)
         selection.push_back(skill.capturedBy(number));
     return selection;
 }
 
-std::vector<ListEntry> editorSkillEntries(const ProgramState& state, int campaign, int profession) {
+std::vector<ListEntry> editorSkillEntries(const Progress& state, int campaign, int profession) {
     std::vector<ListEntry> entries;
     for (int id = 1; id <= state.EliteSkills.highest(); ++id) {
         const EliteSkill& skill = state.EliteSkills[id];
@@ -166,7 +164,7 @@ std::vector<ListEntry> editorSkillEntries(const ProgramState& state, int campaig
     return entries;
 }
 
-std::vector<ListEntry> editorProfessionEntries(const ProgramState& state) {
+std::vector<ListEntry> editorProfessionEntries(const Progress& state) {
     std::vector<ListEntry> entries = {{pinnedText(state.text(allText)), -1}};
     for (int p = 1; p <= state.Professions.highest(); ++p)
         if (!state.Professions[p].Name.isEmpty())
@@ -186,12 +184,12 @@ void invertListed(SkillSelection& selection, ListedItems listed) {
             selection[static_cast<size_t>(id)] = !selection[static_cast<size_t>(id)];
 }
 
-SaveResult saveCharacter(ProgramState& state, PlayerFiles& files, CharacterEdit& edit, bool evenIfChanged) {
+SaveResult saveCharacter(Progress& state, PlayerFiles& files, CharacterEdit& edit, bool evenIfChanged) {
     return edit.number < 1 ? createCharacter(state, files, edit, evenIfChanged)
                            : changeCharacter(state, files, edit, evenIfChanged);
 }
 
-SaveResult deleteCharacter(ProgramState& state, PlayerFiles& files, int number, bool evenIfChanged) {
+SaveResult deleteCharacter(Progress& state, PlayerFiles& files, int number, bool evenIfChanged) {
     const QString name = state.Characters[number];
     if (SaveResult result = saveName(state, files, number, {}, evenIfChanged); !result.saved())
         return result;

@@ -1,7 +1,7 @@
 #include "progress/OpenedTreasures.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "progress/Progress.h"
 #include "progress/modCharacters.h"
 
 #include <algorithm>
@@ -69,7 +69,7 @@ QString writtenLine(int treasure, const QDate& date) {
     return padded(treasure, 4) + u'\t' + writtenDate(date) + u"\r\n"_s;
 }
 
-void readLine(ProgramState& state, int character, TextFile& file) {
+void readLine(Progress& state, int character, TextFile& file) {
     if (!file.split(1) || file.line().trimmed().isEmpty())
         return;
     const auto treasure = file.integer(0, "chest", 1, largestIdentifier);
@@ -96,7 +96,7 @@ std::optional<int> boxNumber(const QString& text, qsizetype fewest, qsizetype mo
 
 } // namespace
 
-void LoadOpenedTreasures(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+void LoadOpenedTreasures(Progress& state, PlayerFiles& files, Complaints* complaints) {
     growOpenedTreasures(state);
     state.ChestsBeyondTable.clear();
     for (int c = 1; c <= state.Characters.highest(); ++c) {
@@ -108,11 +108,11 @@ void LoadOpenedTreasures(ProgramState& state, PlayerFiles& files, Complaints* co
     }
 }
 
-QString openedTreasuresPath(const ProgramState& state, int character) {
+QString openedTreasuresPath(const Progress& state, int character) {
     return characterFilePath(state, character, u"OpenedTreasures.txt"_s);
 }
 
-QString openedTreasuresFile(const ProgramState& state, int character) {
+QString openedTreasuresFile(const Progress& state, int character) {
     QString text;
     for (int t = 1; t <= state.Treasures.count(); ++t)
         if (const QDate date = state.Treasures[t].openedBy(character); date.isValid())
@@ -124,7 +124,7 @@ QString openedTreasuresFile(const ProgramState& state, int character) {
     return text;
 }
 
-SaveResult openTreasure(ProgramState& state, PlayerFiles& files, const ChestOpening& opening,
+SaveResult openTreasure(Progress& state, PlayerFiles& files, const ChestOpening& opening,
                         bool evenIfChanged) {
     growOpenedTreasures(state);
     QDate& noted = state.Treasures[opening.treasure].OpenedOn[static_cast<size_t>(opening.character)];
@@ -136,14 +136,14 @@ SaveResult openTreasure(ProgramState& state, PlayerFiles& files, const ChestOpen
     return result;
 }
 
-void growOpenedTreasures(ProgramState& state) {
+void growOpenedTreasures(Progress& state) {
     const size_t count = static_cast<size_t>(state.Characters.highest()) + 1;
     for (Treasure& treasure : state.Treasures)
         if (treasure.OpenedOn.size() < count)
             treasure.OpenedOn.resize(count);
 }
 
-void forgetOpenedTreasures(ProgramState& state, int character) {
+void forgetOpenedTreasures(Progress& state, int character) {
     for (Treasure& treasure : state.Treasures)
         if (static_cast<size_t>(character) < treasure.OpenedOn.size())
             treasure.OpenedOn[static_cast<size_t>(character)] = QDate();
@@ -204,8 +204,7 @@ QString dateText(const DateOrder& order, const QDate& date, const QString& separ
            datePartText(order[2], date);
 }
 
-std::vector<ListEntry> chestCharacterEntries(const ProgramState& state, int treasure,
-                                             const DateOrder& order) {
+std::vector<ListEntry> chestCharacterEntries(const Progress& state, int treasure, const DateOrder& order) {
     std::vector<ListEntry> entries;
     for (int c = 1; c <= state.Characters.highest(); ++c) {
         QString text = state.Characters[c];

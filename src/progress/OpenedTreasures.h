@@ -13,18 +13,14 @@
 
 namespace orvinel {
 
-struct ProgramState;
-
-// Chests that a character's file names and the table lacks, because their campaign folder is not here today:
-// chest index to date, by character number. They go back into the file when it is rewritten.
-using UnknownChests = std::map<int, std::map<int, QDate>>;
+struct Progress;
 
 // Fills OpenedOn of every chest from the files of all characters.
-void LoadOpenedTreasures(ProgramState& state, PlayerFiles& files, Complaints* complaints = nullptr);
+void LoadOpenedTreasures(Progress& state, PlayerFiles& files, Complaints* complaints = nullptr);
 
-QString openedTreasuresPath(const ProgramState& state, int character);
+QString openedTreasuresPath(const Progress& state, int character);
 // The text of a character's file for the tables as they stand.
-QString openedTreasuresFile(const ProgramState& state, int character);
+QString openedTreasuresFile(const Progress& state, int character);
 
 struct ChestOpening {
     int treasure = 0;  // an index of Treasures
@@ -32,13 +28,13 @@ struct ChestOpening {
     QDate date;        // valid, years 1 to 9999
 };
 // Notes the day and rewrites the character's file; when that failed the day noted before stands.
-SaveResult openTreasure(ProgramState& state, PlayerFiles& files, const ChestOpening& opening,
+SaveResult openTreasure(Progress& state, PlayerFiles& files, const ChestOpening& opening,
                         bool evenIfChanged = false);
 
 // After a character was created: every chest gets an entry for every character number.
-void growOpenedTreasures(ProgramState& state);
+void growOpenedTreasures(Progress& state);
 // After a character was deleted: it has opened nothing. The file is the caller's.
-void forgetOpenedTreasures(ProgramState& state, int character);
+void forgetOpenedTreasures(Progress& state, int character);
 
 enum class DatePart { Day, Month, Year };
 using DateOrder = std::array<DatePart, 3>;
@@ -67,6 +63,6 @@ QString dateText(const DateOrder& order, const QDate& date, const QString& separ
 
 // Entries of the dialog's lstCharacters: every character number with its name, which may be empty, and behind
 // it the day on which it opened the chest, if it has; the item data is the number.
-std::vector<ListEntry> chestCharacterEntries(const ProgramState& state, int treasure, const DateOrder& order);
+std::vector<ListEntry> chestCharacterEntries(const Progress& state, int treasure, const DateOrder& order);
 
 } // namespace orvinel

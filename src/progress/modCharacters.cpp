@@ -1,13 +1,13 @@
 #include "progress/modCharacters.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "progress/Progress.h"
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
-void LoadCharacters(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+void LoadCharacters(Progress& state, PlayerFiles& files, Complaints* complaints) {
     state.Characters.reset();
     TextFile file(files.source(), charactersPath(state), complaints);
     while (file.nextLine()) {
@@ -19,32 +19,32 @@ void LoadCharacters(ProgramState& state, PlayerFiles& files, Complaints* complai
     files.loaded(charactersPath(state), file);
 }
 
-QString charactersPath(const ProgramState& state) {
+QString charactersPath(const Progress& state) {
     return state.AppPath + u"Personal/Characters.txt"_s;
 }
 
-QString charactersFile(const ProgramState& state) {
+QString charactersFile(const Progress& state) {
     QString text;
     for (const ListEntry& character : namedCharacters(state))
         text += fixedDigits(character.data, 2) + u'\t' + character.text + u"\r\n"_s;
     return text;
 }
 
-SaveResult SaveCharacters(const ProgramState& state, PlayerFiles& files, bool evenIfChanged) {
+SaveResult SaveCharacters(const Progress& state, PlayerFiles& files, bool evenIfChanged) {
     return files.save(charactersPath(state), charactersFile(state), evenIfChanged);
 }
 
-QString characterFilePath(const ProgramState& state, int character, const QString& suffix) {
+QString characterFilePath(const Progress& state, int character, const QString& suffix) {
     return state.AppPath + u"Personal/Char"_s + fixedDigits(character, 2) + suffix;
 }
 
-std::vector<ListEntry> characterEntries(const ProgramState& state) {
+std::vector<ListEntry> characterEntries(const Progress& state) {
     std::vector<ListEntry> entries = namedCharacters(state);
     entries.insert(entries.begin(), {pinnedText(state.text(4)), 0});
     return entries;
 }
 
-std::vector<ListEntry> namedCharacters(const ProgramState& state) {
+std::vector<ListEntry> namedCharacters(const Progress& state) {
     std::vector<ListEntry> entries;
     for (int n = 1; n <= state.Characters.highest(); ++n)
         if (!state.Characters[n].isEmpty())

@@ -1,6 +1,8 @@
 #include "tools/CompletionReport.h"
 
 #include "app/ProgramState.h"
+#include "progress/modCharacters.h"
+#include "world/modCampaigns.h"
 
 #include <algorithm>
 

@@ -2,7 +2,13 @@
 
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/modNotes.h"
+#include "progress/CapturedSkills.h"
+#include "progress/OpenedTreasures.h"
+#include "progress/modCharacters.h"
 #include "tools/WorldWalk.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <QRect>
 

@@ -1,5 +1,8 @@
 #include "tools/WorldWalk.h"
 
+#include "layers/modTreasures.h"
+#include "world/modCampaigns.h"
+
 #include <limits>
 #include <map>
 

@@ -1,7 +1,7 @@
 #include "world/modCampaigns.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "world/World.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int highestRegionNumber = 255;
 
-void discover(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void discover(World& state, const Disk& disk, Complaints* complaints) {
     state.Campaigns.reset();
     const auto complain = [&](const QString& entry, const QString& reason) {
         if (complaints)
@@ -56,12 +56,7 @@ void loadRegions(Campaign& campaign, const QString& folder, const Disk& disk, Co
 
 } // namespace
 
-void Region::addZone(Zone zone) {
-    const int identifier = zone.ZoneID;
-    ZoneByIdentifier.try_emplace(identifier, RegionZones.append(std::move(zone)));
-}
-
-void LoadCampaigns(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadCampaigns(World& state, const Disk& disk, Complaints* complaints) {
     discover(state, disk, complaints);
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadRegions(state.Campaigns[n], campaignFolder(state, n), disk, complaints);
@@ -73,12 +68,12 @@ bool isPlainFileName(QStringView name) {
     });
 }
 
-QString campaignFolder(const ProgramState& state, int campaign) {
+QString campaignFolder(const World& state, int campaign) {
     return state.AppPath + u"Campaign."_s + fixedDigits(campaign, 2) + u'.' +
            state.Campaigns[campaign].CampaignName;
 }
 
-std::vector<int> regionOrder(const ProgramState& state, int campaign) {
+std::vector<int> regionOrder(const World& state, int campaign) {
     const int highest = state.Campaigns.has(campaign) ? state.Campaigns[campaign].Regions.highest() : 0;
     if (highest == 0)
         return {}; // also where the order is fixed: nothing of it would lead anywhere
@@ -93,22 +88,22 @@ std::vector<int> regionOrder(const ProgramState& state, int campaign) {
     return order;
 }
 
-const Region* findRegion(const ProgramState& state, int campaign, int region) {
+const Region* findRegion(const World& state, int campaign, int region) {
     if (!state.Campaigns.has(campaign) || !state.Campaigns[campaign].Regions.has(region))
         return nullptr;
     return &state.Campaigns[campaign].Regions[region];
 }
 
-QString regionName(const ProgramState& state, int campaign, int region) {
+QString regionName(const World& state, int campaign, int region) {
     const Region* found = findRegion(state, campaign, region);
     return found ? found->RegionName : QString();
 }
 
-QString campaignName(const ProgramState& state, int campaign) {
+QString campaignName(const World& state, int campaign) {
     return state.Campaigns.has(campaign) ? state.Campaigns[campaign].CampaignName : QString();
 }
 
-std::vector<ListEntry> campaignEntries(const ProgramState& state) {
+std::vector<ListEntry> campaignEntries(const World& state) {
     std::vector<ListEntry> entries = {{pinnedText(state.text(9)), -1}};
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         if (!state.Campaigns[n].CampaignName.isEmpty())
@@ -116,7 +111,7 @@ std::vector<ListEntry> campaignEntries(const ProgramState& state) {
     return entries;
 }
 
-std::vector<ListEntry> regionEntries(const ProgramState& state, int campaign) {
+std::vector<ListEntry> regionEntries(const World& state, int campaign) {
     std::vector<ListEntry> entries = {{pinnedText(state.text(9)), 0}};
     for (const int r : regionOrder(state, campaign))
         entries.push_back({regionName(state, campaign, r), r});

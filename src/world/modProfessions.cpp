@@ -1,7 +1,8 @@
 #include "world/modProfessions.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "world/World.h"
+#include "world/modCampaigns.h"
 
 #include <limits>
 
@@ -13,7 +14,7 @@ namespace {
 
 constexpr int noAttributeText = 45;
 
-void loadProfessions(ProgramState& state, const QString& path, const Disk& disk, Complaints* complaints) {
+void loadProfessions(World& state, const QString& path, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, path, complaints);
     while (file.nextLine()) {
         if (!file.split(4))
@@ -33,14 +34,14 @@ void loadProfessions(ProgramState& state, const QString& path, const Disk& disk,
 
 } // namespace
 
-void LoadProfessions(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadProfessions(World& state, const Disk& disk, Complaints* complaints) {
     state.Professions.reset();
     state.Professions[0] = {u"No profession"_s, u"#"_s, noBossGrey, {}};
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadProfessions(state, campaignFolder(state, n) + u"/Professions.txt"_s, disk, complaints);
 }
 
-std::vector<ListEntry> professionEntries(const ProgramState& state, int pinned) {
+std::vector<ListEntry> professionEntries(const World& state, int pinned) {
     std::vector<ListEntry> entries;
     for (int p = 1; p <= state.Professions.highest(); ++p)
         entries.push_back({state.Professions[p].Name, p});
@@ -49,7 +50,7 @@ std::vector<ListEntry> professionEntries(const ProgramState& state, int pinned) 
     return entries;
 }
 
-std::vector<ListEntry> attributeEntries(const ProgramState& state, int profession) {
+std::vector<ListEntry> attributeEntries(const World& state, int profession) {
     std::vector<ListEntry> entries = {{pinnedText(state.text(9)), 0}};
     if (profession < 1 || !state.Professions.has(profession))
         return entries;
@@ -59,7 +60,7 @@ std::vector<ListEntry> attributeEntries(const ProgramState& state, int professio
     return entries;
 }
 
-std::vector<std::string> attributeWords(const ProgramState& state, int profession,
+std::vector<std::string> attributeWords(const World& state, int profession,
                                         const std::optional<QString>& attribute) {
     if (profession < 1)
         return {};
@@ -71,7 +72,7 @@ std::vector<std::string> attributeWords(const ProgramState& state, int professio
     return words;
 }
 
-const Profession& professionOf(const ProgramState& state, int number) {
+const Profession& professionOf(const World& state, int number) {
     static const Profession none;
     return state.Professions.has(number) ? state.Professions[number] : none;
 }

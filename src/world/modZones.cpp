@@ -1,7 +1,9 @@
 #include "world/modZones.h"
 
-#include "app/ProgramState.h"
 #include "base/TextFile.h"
+#include "world/MapLocation.h"
+#include "world/World.h"
+#include "world/modCampaigns.h"
 
 #include <array>
 
@@ -34,7 +36,7 @@ std::optional<Sprite> member(const Family& family, int campaign) {
     return family[static_cast<size_t>(set) - 1];
 }
 
-void loadZones(ProgramState& state, int campaign, const Disk& disk, Complaints* complaints) {
+void loadZones(World& state, int campaign, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, campaignFolder(state, campaign) + u"/Zones.txt"_s, complaints);
     auto& regions = state.Campaigns[campaign].Regions;
     int stored = 0;
@@ -65,7 +67,7 @@ void loadZones(ProgramState& state, int campaign, const Disk& disk, Complaints* 
 
 } // namespace
 
-void LoadZones(ProgramState& state, const Disk& disk, Complaints* complaints) {
+void LoadZones(World& state, const Disk& disk, Complaints* complaints) {
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         loadZones(state, n, disk, complaints);
 }
@@ -102,7 +104,7 @@ QRect zoneLabelRect(int campaign, const Zone& zone, int width, int height) {
     return {zone.X - half, zone.Y - up, 2 * half, up + down};
 }
 
-QString ZoneName(const ProgramState& state, int campaign, int region, int identifier) {
+QString ZoneName(const World& state, int campaign, int region, int identifier) {
     const Region* found = findRegion(state, campaign, region);
     if (!found)
         return {};
@@ -110,12 +112,12 @@ QString ZoneName(const ProgramState& state, int campaign, int region, int identi
     return zone == found->ZoneByIdentifier.end() ? QString() : found->RegionZones[zone->second].ZoneName;
 }
 
-int zoneIdentifier(const ProgramState& state, int campaign, int region, int zoneIndex) {
+int zoneIdentifier(const World& state, int campaign, int region, int zoneIndex) {
     const Region* found = findRegion(state, campaign, region);
     return found && found->RegionZones.has(zoneIndex) ? found->RegionZones[zoneIndex].ZoneID : 0;
 }
 
-int zoneIdentifier(const ProgramState& state, const Place& place) {
+int zoneIdentifier(const World& state, const Place& place) {
     return place.region > 0 ? zoneIdentifier(state, place.campaign, place.region, place.zoneIndex) : 0;
 }
 
@@ -126,7 +128,7 @@ bool passesPlace(const Place& place, int zone, int atCampaign, int atRegion, int
            (zone == 0 || atZone == zone);
 }
 
-std::vector<ListEntry> zoneEntries(const ProgramState& state, int campaign, int region) {
+std::vector<ListEntry> zoneEntries(const World& state, int campaign, int region) {
     std::vector<ListEntry> entries;
     if (const Region* found = findRegion(state, campaign, region))
         for (int z = 1; z <= found->RegionZones.count(); ++z)

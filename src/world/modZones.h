@@ -14,7 +14,7 @@
 
 namespace orvinel {
 
-struct ProgramState;
+struct World;
 
 // What the panel's campaign, region and zone lists say.
 struct Place {
@@ -25,7 +25,7 @@ struct Place {
     bool operator==(const Place&) const = default;
 };
 
-void LoadZones(ProgramState& state, const Disk& disk, Complaints* complaints = nullptr);
+void LoadZones(World& state, const Disk& disk, Complaints* complaints = nullptr);
 
 // The marker's reference point inside its picture, pixels; (0, 0) for what no campaign of the program has.
 QPoint zoneMarkerOffset(int campaign, int zoneType);
@@ -38,16 +38,16 @@ std::optional<Sprite> zoneSprite(int campaign, const Zone& zone);
 QRect zoneLabelRect(int campaign, const Zone& zone, int width, int height);
 
 // The name of the first zone of that region with the identifier; empty text when none has it.
-QString ZoneName(const ProgramState& state, int campaign, int region, int identifier);
+QString ZoneName(const World& state, int campaign, int region, int identifier);
 
 // The identifier of the zone that `zoneIndex` names in a region; 0 when there is no such zone.
-int zoneIdentifier(const ProgramState& state, int campaign, int region, int zoneIndex);
-int zoneIdentifier(const ProgramState& state, const Place& place);
+int zoneIdentifier(const World& state, int campaign, int region, int zoneIndex);
+int zoneIdentifier(const World& state, const Place& place);
 
 // True when a location's campaign, region and zone pass the panel's choice.
 bool passesPlace(const Place& place, int zone, int atCampaign, int atRegion, int atZone);
 
 // Entries of cmbZone: pinned, then by name; the item data is the zone's index in RegionZones.
-std::vector<ListEntry> zoneEntries(const ProgramState& state, int campaign, int region);
+std::vector<ListEntry> zoneEntries(const World& state, int campaign, int region);
 
 } // namespace orvinel

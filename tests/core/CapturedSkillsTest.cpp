@@ -54,8 +54,7 @@ TEST_F(Captures, aSkillWithFiveDigitsIsRefusedForItWouldNameAnother) {
     load();
     EXPECT_TRUE(state.EliteSkills[10003].capturedBy(1));
     const SaveResult refused = captureSkill(state, files, 10003, 2);
-    EXPECT_EQ(SaveResult::Outcome::Failed, refused.outcome);
-    EXPECT_NE(QString(), refused.reason);
+    EXPECT_EQ(SaveResult::Outcome::Refused, refused.outcome);
     EXPECT_FALSE(state.EliteSkills[10003].capturedBy(2));
     EXPECT_EQ(u"10003\r\n"_s, capturedFile(state, 1));
 }

@@ -111,8 +111,7 @@ TEST_F(Editing, aHundredthCharacterIsRefused) {
     for (int n = 1; n <= mostCharacters; ++n)
         state.Characters[n] = QString::number(n);
     const SaveResult result = create(u"Cora"_s, {});
-    EXPECT_EQ(SaveResult::Outcome::Failed, result.outcome);
-    EXPECT_NE(QString(), result.reason);
+    EXPECT_EQ(SaveResult::Outcome::Refused, result.outcome);
     EXPECT_EQ(0u, disk.log.size());
 }
 

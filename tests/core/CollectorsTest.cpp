@@ -1,5 +1,8 @@
 #include "app/ProgramState.h"
+#include "layers/modCollectors.h"
 #include "support/MemoryDisk.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 #include "world/modZones.h"
 
 #include <gtest/gtest.h>

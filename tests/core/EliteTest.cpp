@@ -1,5 +1,7 @@
 #include "app/ProgramState.h"
+#include "layers/modElite.h"
 #include "support/EliteWorld.h"
+#include "world/modProfessions.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 #include "app/modData.h"
 #include "app/modUtility.h"
 #include "base/FileDisk.h"
+#include "progress/modCharacters.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 

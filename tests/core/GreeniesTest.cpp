@@ -1,4 +1,7 @@
+#include "layers/modElite.h"
+#include "layers/modGreenies.h"
 #include "support/EliteWorld.h"
+#include "world/modProfessions.h"
 
 #include <gtest/gtest.h>
 

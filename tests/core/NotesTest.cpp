@@ -1,4 +1,5 @@
 #include "app/ProgramState.h"
+#include "layers/modNotes.h"
 #include "support/MemoryDisk.h"
 
 #include <gtest/gtest.h>

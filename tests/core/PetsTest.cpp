@@ -1,5 +1,7 @@
 #include "app/ProgramState.h"
+#include "layers/modPets.h"
 #include "support/MemoryDisk.h"
+#include "world/modCampaigns.h"
 
 #include <gtest/gtest.h>
 

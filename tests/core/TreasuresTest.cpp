@@ -1,5 +1,8 @@
 #include "app/ProgramState.h"
+#include "layers/modTreasures.h"
+#include "progress/OpenedTreasures.h"
 #include "support/MemoryDisk.h"
+#include "world/modCampaigns.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,9 @@
 #include "base/TextFile.h"
 #include "support/MemoryDisk.h"
 #include "world/MapView.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
+#include "world/modZones.h"
 
 #include <gtest/gtest.h>
 

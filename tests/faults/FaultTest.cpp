@@ -1,4 +1,6 @@
 #include "faults/Player.h"
+#include "progress/CapturedSkills.h"
+#include "progress/modCharacters.h"
 #include "support/MemoryDisk.h"
 
 #include <gtest/gtest.h>

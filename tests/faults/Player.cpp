@@ -2,7 +2,10 @@
 
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/modNotes.h"
+#include "progress/CapturedSkills.h"
 #include "progress/CharacterEditing.h"
+#include "progress/OpenedTreasures.h"
 
 namespace orvinel {
 

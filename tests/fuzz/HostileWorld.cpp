@@ -3,10 +3,21 @@
 #include "app/ProgramState.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/modCollectors.h"
+#include "layers/modElite.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "layers/modPets.h"
+#include "layers/modTreasures.h"
+#include "progress/CapturedSkills.h"
+#include "progress/OpenedTreasures.h"
+#include "progress/modCharacters.h"
 #include "support/MemoryDisk.h"
 #include "tools/Backup.h"
 #include "tools/TarArchive.h"
 #include "tools/WorldCheck.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 namespace orvinel {
 

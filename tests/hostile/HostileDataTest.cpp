@@ -2,6 +2,7 @@
 #include "app/modData.h"
 #include "app/modLanguage.h"
 #include "fuzz/HostileWorld.h"
+#include "layers/modNotes.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 

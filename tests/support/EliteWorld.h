@@ -1,8 +1,14 @@
 #pragma once
 
 #include "app/ProgramState.h"
+#include "layers/EliteFiles.h"
+#include "layers/modGreenies.h"
 #include "progress/CapturedSkills.h"
+#include "progress/modCharacters.h"
 #include "support/MemoryDisk.h"
+#include "world/HitIndex.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <ostream>
 

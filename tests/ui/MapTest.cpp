@@ -1,5 +1,6 @@
 #include "support/ProgramFixture.h"
 #include "ui/map/ShowOnMap.h"
+#include "world/modCampaigns.h"
 
 namespace orvinel {
 namespace {

@@ -1,6 +1,7 @@
 #include "compare/PlainMap.h"
 #include "support/LayersFixture.h"
 #include "ui/map/RegionPictures.h"
+#include "world/modCampaigns.h"
 
 namespace orvinel {
 namespace {

@@ -5,6 +5,7 @@
 #include "app/modData.h"
 #include "app/modLanguage.h"
 #include "support/MemoryDisk.h"
+#include "world/modCampaigns.h"
 
 #include <QDirIterator>
 #include <QFile>

@@ -1,6 +1,7 @@
 #include "ui/layers/EliteWindow.h"
 
 #include "app/modLanguage.h"
+#include "layers/modElite.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ProgramState.h"
+#include "layers/modElite.h"
 #include "ui/map/InformationWindow.h"
 
 #include <array>

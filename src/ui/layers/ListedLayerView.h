@@ -21,9 +21,9 @@ class ListedLayerView : public QObject, public MapLayer {
   protected:
     struct Rules {
         int layer; // index of its check box in the panel
-        std::vector<Marker> (*markers)(const ProgramState&, ListedItems, const MapShown&);
-        std::vector<HitArea> (*hitAreas)(const ProgramState&, ListedItems, const MapShown&);
-        const MapLocation& (*location)(const ProgramState&, int id, int part);
+        std::vector<Marker> (*markers)(const Content&, ListedItems, const MapShown&);
+        std::vector<HitArea> (*hitAreas)(const Content&, ListedItems, const MapShown&);
+        const MapLocation& (*location)(const Content&, int id, int part);
         QString window; // the information window's fixed name
         int width;      // its width, pixels
     };

@@ -1,5 +1,6 @@
 #include "ui/layers/modCollectorsView.h"
 
+#include "layers/modCollectors.h"
 #include "ui/map/WindowRules.h"
 #include "ui/panel/Controls.h"
 #include "ui/platform/Fonts.h"
@@ -33,7 +34,7 @@ constexpr int bottomMargin = 10;
 constexpr Colour matchingName = 0xAADDEE;
 constexpr Colour otherReward = 0x969696;
 
-const MapLocation& locationOf(const ProgramState& state, int id, int) {
+const MapLocation& locationOf(const Content& state, int id, int) {
     return state.Collectors[id].Location;
 }
 

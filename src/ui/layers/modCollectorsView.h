@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layers/modCollectors.h"
 #include "ui/layers/ListedLayerView.h"
 
 #include <memory>

@@ -1,5 +1,6 @@
 #include "ui/layers/modGreeniesView.h"
 
+#include "layers/modGreenies.h"
 #include "ui/map/ShowOnMap.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "ui/layers/modNotesView.h"
 
+#include "layers/modNotes.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 
@@ -21,7 +22,7 @@ constexpr int textWidth = width - 2 * left;
 constexpr int belowTitle = 8;
 constexpr int bottomMargin = 10;
 
-const MapLocation& locationOf(const ProgramState& state, int index, int) {
+const MapLocation& locationOf(const Content& state, int index, int) {
     return state.Notes[index].At;
 }
 

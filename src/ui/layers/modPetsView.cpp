@@ -1,5 +1,6 @@
 #include "ui/layers/modPetsView.h"
 
+#include "layers/modPets.h"
 #include "ui/map/RegionPictures.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
@@ -22,7 +23,7 @@ constexpr int bottomMargin = 10;
 constexpr QSize largestPicture(320, 240);
 constexpr int extentBeyondText = 4;
 
-const MapLocation& locationOf(const ProgramState& state, int id, int part) {
+const MapLocation& locationOf(const Content& state, int id, int part) {
     return state.Pets[id].Locations[part];
 }
 

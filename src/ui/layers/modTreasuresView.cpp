@@ -1,5 +1,7 @@
 #include "ui/layers/modTreasuresView.h"
 
+#include "layers/modTreasures.h"
+#include "progress/OpenedTreasures.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 
@@ -21,7 +23,7 @@ constexpr int belowHeading = 3;
 constexpr int bottomMargin = 10;
 constexpr int padding = 10; // padded lines end this far before the list's right edge
 
-const MapLocation& locationOf(const ProgramState& state, int index, int) {
+const MapLocation& locationOf(const Content& state, int index, int) {
     return state.Treasures[index].Location;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Desktop.h"
+#include "layers/modTreasures.h"
 #include "ui/layers/ListedLayerView.h"
 
 #include <functional>

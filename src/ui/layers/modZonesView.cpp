@@ -2,6 +2,7 @@
 
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "world/modCampaigns.h"
 #include "world/modZones.h"
 
 namespace orvinel {

@@ -2,6 +2,7 @@
 
 #include "app/Saving.h"
 #include "app/modLanguage.h"
+#include "layers/modNotes.h"
 #include "ui/panel/Controls.h"
 #include "world/modCampaigns.h"
 

@@ -1,6 +1,7 @@
 #include "ui/map/ShowOnMap.h"
 
 #include "ui/map/frmMap.h"
+#include "world/modCampaigns.h"
 
 namespace orvinel {
 

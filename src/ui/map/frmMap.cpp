@@ -8,6 +8,8 @@
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
+#include "world/modCampaigns.h"
+#include "world/modZones.h"
 
 #include <QCloseEvent>
 #include <QPainter>

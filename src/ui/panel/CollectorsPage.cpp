@@ -1,5 +1,7 @@
 #include "ui/panel/CollectorsPage.h"
 
+#include "layers/modCollectors.h"
+
 #include <QButtonGroup>
 
 namespace orvinel {

@@ -1,5 +1,7 @@
 #include "ui/panel/ElitePage.h"
 
+#include "layers/modElite.h"
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ProgramState.h"
+#include "layers/modElite.h"
 #include "ui/panel/Controls.h"
 #include "ui/panel/TabPage.h"
 

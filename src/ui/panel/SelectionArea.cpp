@@ -1,5 +1,9 @@
 #include "ui/panel/SelectionArea.h"
 
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
+#include "world/modZones.h"
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;

@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "ui/panel/Controls.h"
+#include "world/modZones.h"
 
 #include <QWidget>
 

@@ -2,10 +2,15 @@
 
 #include "app/modLanguage.h"
 #include "base/About.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "progress/modCharacters.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/SpokenRole.h"
+#include "world/modCampaigns.h"
+#include "world/modProfessions.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>

@@ -2,6 +2,10 @@
 
 #include "app/ProgramState.h"
 #include "base/Desktop.h"
+#include "layers/modGreenies.h"
+#include "layers/modNotes.h"
+#include "layers/modPets.h"
+#include "layers/modTreasures.h"
 #include "ui/panel/CollectorsPage.h"
 #include "ui/panel/ElitePage.h"
 #include "ui/panel/MenuBar.h"
