@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -37,6 +39,22 @@ enum class Sprite : std::uint8_t {
     TreasureSelezione,
     Count
 };
+// Of their files, without the ending.
+inline constexpr std::array spriteNames = {
+    "picVanquish0",     "picDungeonEntrance0",
+    "picOutpost1",      "picOutpost2",
+    "picOutpost3",      "picMission1",
+    "picMission2",      "picMission3",
+    "picTown1",         "picTown2",
+    "picTown3",         "picChallenge2",
+    "picChallenge3",    "picCollArmi",
+    "picCollArmature",  "picGreenMarker",
+    "picNote",          "picTreasure",
+    "picPet",           "picSelezione",
+    "picCollSelezione", "picGreenSelezione",
+    "picNoteSelezione", "picTreasureSelezione",
+};
+static_assert(spriteNames.size() == static_cast<size_t>(Sprite::Count));
 
 // One thing that a layer draws over the region picture, in map pixels.
 struct Marker {

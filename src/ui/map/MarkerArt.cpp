@@ -11,22 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::array pictureNames = {
-    "picVanquish0",     "picDungeonEntrance0",
-    "picOutpost1",      "picOutpost2",
-    "picOutpost3",      "picMission1",
-    "picMission2",      "picMission3",
-    "picTown1",         "picTown2",
-    "picTown3",         "picChallenge2",
-    "picChallenge3",    "picCollArmi",
-    "picCollArmature",  "picGreenMarker",
-    "picNote",          "picTreasure",
-    "picPet",           "picSelezione",
-    "picCollSelezione", "picGreenSelezione",
-    "picNoteSelezione", "picTreasureSelezione",
-};
-static_assert(pictureNames.size() == static_cast<size_t>(Sprite::Count));
-
 constexpr QRgb seeThrough = 0xFFFF00FF;
 constexpr int codeAbove = 1; // a code's line starts one pixel above the box
 
@@ -49,7 +33,7 @@ int codeIndent(const QString& code) {
 const QImage& MarkerArt::picture(Sprite sprite) const {
     QImage& picture = pictures_[static_cast<size_t>(sprite)];
     if (picture.isNull())
-        picture = load(pictureNames[static_cast<size_t>(sprite)]);
+        picture = load(spriteNames[static_cast<size_t>(sprite)]);
     return picture;
 }
 
