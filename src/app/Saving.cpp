@@ -1,7 +1,6 @@
 #include "app/Saving.h"
 
 #include "app/modLanguage.h"
-#include "world/World.h"
 
 namespace orvinel {
 
@@ -9,7 +8,7 @@ bool saveAndTell(const World& state, Desktop& desktop,
                  const std::function<SaveResult(bool evenIfChanged)>& save) {
     SaveResult result = save(false);
     if (result.outcome == SaveResult::Outcome::ChangedOutside) {
-        const QString question = state.text(Caption::ChangedOutside).arg(result.file);
+        const QString question = ownText(state, OwnText::ChangedOutside).arg(result.file);
         if (!desktop.ask(MessageIcon::Question, programName(), question))
             return false;
         result = save(true);
@@ -17,7 +16,7 @@ bool saveAndTell(const World& state, Desktop& desktop,
     if (result.saved())
         return true;
     desktop.message(MessageIcon::Critical, programName(),
-                    state.text(Caption::SaveFailed).arg(result.file, result.reason));
+                    ownText(state, OwnText::SaveFailed).arg(result.file, result.reason));
     return false;
 }
 

@@ -108,12 +108,6 @@ class Gatherer {
 
 } // namespace
 
-struct Backup::Opened {
-    QString name;
-    std::vector<ArchivedFile> files;
-    QString problem; // empty: the archive is whole
-};
-
 QString Backup::pathOf(const QString& name) const {
     return folder_ + u"Backups/"_s + name + (name.endsWith(extension) ? QString() : extension);
 }
@@ -141,8 +135,8 @@ QString Backup::freeName(const QString& prefix) const {
     return name;
 }
 
-Backup::Opened Backup::open(const QString& name) const {
-    Opened archive{name.isEmpty() ? latest() : name, {}, {}};
+Backup::Content Backup::content(const QString& name) const {
+    Content archive{name.isEmpty() ? latest() : name, {}, {}};
     if (archive.name.isEmpty() || !isPlainFileName(archive.name)) {
         archive.problem = name.isEmpty() ? u"there is no backup yet"_s : u"that is no file name"_s;
         return archive;
@@ -183,14 +177,14 @@ Backup::Result Backup::saveAs(const QString& file) {
         return {false, u"the player's files are larger than 64 MB together"_s};
     if (const DiskError error = disk_.replace(path, *archive))
         return {false, u"%1: %2"_s.arg(path, *error)};
-    const Opened written = open(file);
+    const Content written = content(file);
     if (!written.problem.isEmpty() || written.files != gatherer.files)
         return {false, u"%1 was written but cannot be read back: %2"_s.arg(path, written.problem)};
     return {true, u"%1 files saved in %2"_s.arg(gatherer.files.size()).arg(path)};
 }
 
 Backup::Result Backup::verify(const QString& name) const {
-    const Opened archive = open(name);
+    const Content archive = content(name);
     if (!archive.problem.isEmpty())
         return {false, u"%1: %2"_s.arg(archive.name, archive.problem)};
     QString text = u"%1 is whole:\n"_s.arg(archive.name);
@@ -201,7 +195,7 @@ Backup::Result Backup::verify(const QString& name) const {
 }
 
 Backup::Result Backup::restore(const QString& name, bool replace) {
-    Opened archive = open(name);
+    Content archive = content(name);
     if (!archive.problem.isEmpty())
         return {false, u"%1: %2"_s.arg(archive.name, archive.problem)};
     QStringList differing;
@@ -222,8 +216,8 @@ Backup::Result Backup::restore(const QString& name, bool replace) {
 }
 
 // The table of characters goes last: a character in it has all its files.
-Backup::Result Backup::write(const Opened& archive) {
-    Opened before;
+Backup::Result Backup::write(const Content& archive) {
+    Content before;
     if (Gatherer there(disk_, folder_); !there.gather())
         return {false, u"nothing was restored: "_s + there.problem};
     else if (!there.files.empty()) {
@@ -251,7 +245,7 @@ Backup::Result Backup::write(const Opened& archive) {
     return {true, u"%1 files restored from %2%3"_s.arg(written.size()).arg(archive.name, kept)};
 }
 
-DiskError Backup::putBack(const QStringList& written, const Opened& before) {
+DiskError Backup::putBack(const QStringList& written, const Content& before) {
     DiskError first;
     for (const QString& name : written) {
         const auto old = std::find_if(before.files.begin(), before.files.end(),

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "base/Disk.h"
+#include "tools/TarArchive.h"
 
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 namespace orvinel {
 
@@ -39,16 +41,21 @@ class Backup {
     // written before it are put back.
     Result restore(const QString& name, bool replace);
 
-  private:
-    struct Opened;
+    // What is in an archive, checked against its check sums. `name` as in verify.
+    struct Content {
+        QString name;
+        std::vector<ArchivedFile> files;
+        QString problem; // empty: the archive is whole
+    };
+    Content content(const QString& name) const;
 
+  private:
     QString pathOf(const QString& name) const;
     QString latest() const;
     QString freeName(const QString& prefix) const;
-    Opened open(const QString& name) const;
     Result saveAs(const QString& file);
-    Result write(const Opened& archive);
-    DiskError putBack(const QStringList& written, const Opened& before);
+    Result write(const Content& archive);
+    DiskError putBack(const QStringList& written, const Content& before);
 
     Disk& disk_;
     QString folder_;

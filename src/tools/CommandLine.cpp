@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include <algorithm>
 #include <cstdio>
 
 #ifdef Q_OS_WIN
@@ -10,11 +11,27 @@
 #include <windows.h>
 
 #include <shellapi.h>
+#else
+#include <unistd.h>
 #endif
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
+constexpr qint64 quietTime = 1000; // milliseconds before a progress line appears
+constexpr qint64 lineTime = 100;   // between two states of it
+constexpr int barLength = 30;
+
+bool errorsOnTerminal() {
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(STDERR_FILENO) != 0;
+#endif
+}
 
 void write(std::FILE* stream, const QString& text) {
 #ifdef Q_OS_WIN
@@ -62,6 +79,72 @@ QString programFolder(const QString& argument) {
         return {};
     const QString path = folder.absolutePath();
     return path.endsWith(u'/') ? path : path + u'/';
+}
+
+CommandLine::CommandLine(const ToolTable& table, int argc, char** argv)
+    : name_(table.name.toLatin1()), argv_{name_.data(), nullptr}, application_(argc_, argv_) {
+    parser_.setApplicationDescription(table.description);
+    for (const ToolTable::Word& word : table.words)
+        parser_.addPositionalArgument(word.name, word.description, word.name);
+    for (const ToolTable::Option& option : table.options)
+        parser_.addOption({option.name, option.description, option.value});
+    ended_ = understand(table, arguments(argc, argv));
+}
+
+std::optional<int> CommandLine::understand(const ToolTable& table, const QStringList& words) {
+    const QCommandLineOption help({u"h"_s, u"help"_s}, u"Print this help."_s);
+    const QCommandLineOption version({u"v"_s, u"version"_s}, u"Print the version."_s);
+    parser_.addOption(help);
+    parser_.addOption(version);
+    const bool understood = parser_.parse(QStringList(table.name) + words);
+    if (understood && parser_.isSet(help)) {
+        print(parser_.helpText());
+        return exitGood;
+    }
+    if (understood && parser_.isSet(version)) {
+        print(table.name + u" " ORVINEL_VERSION "\n"_s);
+        return exitGood;
+    }
+    if (!understood)
+        return misunderstood(parser_.errorText());
+    const auto needed = std::count_if(table.words.begin(), table.words.end(),
+                                      [](const auto& word) { return !word.name.startsWith(u'['); });
+    const bool endless = !table.words.empty() && table.words.back().name.contains(u"..."_s);
+    if (parser_.positionalArguments().size() < needed)
+        return misunderstood(u"%1 is missing"_s.arg(
+            table.words[static_cast<size_t>(parser_.positionalArguments().size())].name));
+    if (!endless && parser_.positionalArguments().size() > std::ssize(table.words))
+        return misunderstood(u"there is no use for \"%1\""_s.arg(word(static_cast<int>(table.words.size()))));
+    return std::nullopt;
+}
+
+int CommandLine::refuse(const QString& reason, ExitCode code) const {
+    printError(QString::fromLatin1(name_) + u": "_s + reason + u'\n');
+    return code;
+}
+
+int CommandLine::misunderstood(const QString& reason) const {
+    return refuse(reason + u"; \"%1 --help\" says more"_s.arg(QLatin1String(name_)));
+}
+
+ProgressLine::ProgressLine() : terminal_(errorsOnTerminal()) {
+    clock_.start();
+}
+
+ProgressLine::~ProgressLine() {
+    if (shown_)
+        printError(u'\r' + QString(barLength + 8, u' ') + u'\r');
+}
+
+void ProgressLine::show(qint64 done, qint64 all) {
+    const qint64 now = clock_.elapsed();
+    if (!terminal_ || all < 1 || now < quietTime || now - last_ < lineTime)
+        return;
+    last_ = now;
+    shown_ = true;
+    const auto filled = static_cast<qsizetype>(std::clamp<qint64>(done * barLength / all, 0, barLength));
+    printError(u"\r[%1%2] %3 %"_s.arg(QString(filled, u'#'), QString(barLength - filled, u'.'))
+                   .arg(done * 100 / all, 3));
 }
 
 void print(const QString& text) {

@@ -1,176 +1,139 @@
 #include "tools/CompletionReport.h"
 
-#include "app/ProgramState.h"
-#include "progress/modCharacters.h"
+#include "progress/Progress.h"
 #include "world/modCampaigns.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace orvinel {
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 using Part = CompletionRow::Part;
+using Place = std::pair<int, int>; // campaign, region
 
+constexpr int mostMonths = 36; // that a plot holds
+
+// One walk through skills and chests fills all that is counted.
 class Counter {
   public:
-    Counter(const ProgramState& state, const ListEntry& character) : state_(state), character_(character) {}
+    Counter(const Progress& state, int character) : state_(state) {
+        for (const EliteSkill& skill : state.EliteSkills)
+            if (skill.Exists)
+                count(skill, skill.capturedBy(character));
+        for (const Treasure& chest : state.Treasures) {
+            const bool opened = chest.openedBy(character).isValid();
+            world_.chests.add(opened);
+            campaigns_[chest.Location.Campaign].chests.add(opened);
+            regions_[{chest.Location.Campaign, chest.Location.Region}].chests.add(opened);
+        }
+    }
 
     std::vector<CompletionRow> rows() {
-        add(
-            {{}, Part::World, {}, {}}, [](const EliteSkill&) { return true; },
-            [](const MapLocation&) { return true; });
+        std::vector<CompletionRow> rows = {world_};
         for (int n = 0; n <= state_.Campaigns.highest(); ++n)
-            add(
-                {{}, Part::Campaign, campaignName(state_, n), {}},
-                [n](const EliteSkill& skill) { return skill.Campaign == n; },
-                [n](const MapLocation& at) { return at.Campaign == n; });
-        for (int n = 0; n <= state_.Campaigns.highest(); ++n)
-            for (const int region : regionOrder(state_, n))
-                addRegion(n, region);
+            take(rows, campaigns_[n], Part::Campaign, campaignName(state_, n));
+        forEachRegion([&](int campaign, int region) {
+            regions_[{campaign, region}].campaign = campaignName(state_, campaign);
+            take(rows, regions_[{campaign, region}], Part::Region, regionName(state_, campaign, region));
+        });
         for (int p = 0; p <= state_.Professions.highest(); ++p)
-            add(
-                {{}, Part::Profession, state_.Professions[p].Name, {}},
-                [p](const EliteSkill& skill) { return skill.Profession == p; },
-                [](const MapLocation&) { return false; });
-        return std::move(rows_);
+            take(rows, professions_[p], Part::Profession, state_.Professions[p].Name);
+        return rows;
+    }
+
+    CompletionGrid grid() {
+        CompletionGrid grid;
+        std::vector<int> columns;
+        for (int p = 0; p <= state_.Professions.highest(); ++p)
+            if (professions_[p].skills.all > 0) {
+                columns.push_back(p);
+                grid.professions.push_back({state_.Professions[p].Name, state_.Professions[p].Abbreviation});
+            }
+        forEachRegion([&](int campaign, int region) {
+            if (regions_[{campaign, region}].skills.all == 0)
+                return;
+            CompletionGrid::Line line{
+                regionName(state_, campaign, region), campaignName(state_, campaign), {}};
+            for (const int p : columns)
+                line.shares.push_back(cells_[{{campaign, region}, p}]);
+            grid.lines.push_back(std::move(line));
+        });
+        return grid;
     }
 
   private:
-    void addRegion(int campaign, int region) {
-        const auto here = [=](const MapLocation& at) {
-            return at.Campaign == campaign && at.Region == region;
-        };
-        add(
-            {{}, Part::Region, regionName(state_, campaign, region), campaignName(state_, campaign)},
-            [&](const EliteSkill& skill) {
-                return std::any_of(skill.Locations.begin(), skill.Locations.end(), here);
-            },
-            here);
+    void count(const EliteSkill& skill, bool captured) {
+        world_.skills.add(captured);
+        campaigns_[skill.Campaign].skills.add(captured);
+        professions_[skill.Profession].skills.add(captured);
+        std::set<Place> places;
+        for (const MapLocation& at : skill.Locations)
+            if (places.insert({at.Campaign, at.Region}).second) {
+                regions_[{at.Campaign, at.Region}].skills.add(captured);
+                cells_[{{at.Campaign, at.Region}, skill.Profession}].add(captured);
+            }
     }
 
-    template <typename SkillCounts, typename ChestCounts>
-    void add(CompletionRow row, SkillCounts skillCounts, ChestCounts chestCounts) {
-        row.character = character_.text;
-        for (const EliteSkill& skill : state_.EliteSkills)
-            if (skill.Exists && skillCounts(skill)) {
-                ++row.skills;
-                row.captured += skill.capturedBy(character_.data) ? 1 : 0;
-            }
-        for (const Treasure& chest : state_.Treasures)
-            if (chestCounts(chest.Location)) {
-                ++row.chests;
-                row.opened += chest.openedBy(character_.data).isValid() ? 1 : 0;
-            }
-        if (row.part == Part::World || row.skills > 0 || row.chests > 0)
-            rows_.push_back(std::move(row));
+    template <typename Visit>
+    void forEachRegion(Visit visit) {
+        for (int n = 0; n <= state_.Campaigns.highest(); ++n)
+            for (const int region : regionOrder(state_, n))
+                visit(n, region);
     }
 
-    const ProgramState& state_;
-    const ListEntry& character_;
-    std::vector<CompletionRow> rows_;
+    static void take(std::vector<CompletionRow>& rows, CompletionRow row, Part part, const QString& name) {
+        row.part = part;
+        row.name = name;
+        if (row.skills.all > 0 || row.chests.all > 0)
+            rows.push_back(std::move(row));
+    }
+
+    const Progress& state_;
+    CompletionRow world_;
+    std::map<int, CompletionRow> campaigns_;
+    std::map<Place, CompletionRow> regions_;
+    std::map<int, CompletionRow> professions_;
+    std::map<std::pair<Place, int>, Share> cells_;
 };
 
-QString partName(Part part) {
-    switch (part) {
-    case Part::World:
-        return u"World"_s;
-    case Part::Campaign:
-        return u"Campaign"_s;
-    case Part::Region:
-        return u"Region"_s;
-    case Part::Profession:
-        return u"Profession"_s;
-    }
-    return {};
-}
-
-QString placeName(const CompletionRow& row) {
-    return row.campaign.isEmpty() ? row.name : u"%1 (%2)"_s.arg(row.name, row.campaign);
-}
-
-// Rounded down, so that 100 % means all.
-QString share(int done, int all) {
-    return all == 0 ? QString() : u"%1 %"_s.arg(done * 100 / all);
-}
-
-QString quoted(QString text) {
-    return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
-}
-
-QString cells(const CompletionRow& row) {
-    const auto cell = [](const QString& text) { return u"<td>"_s + text.toHtmlEscaped() + u"</td>"_s; };
-    QString html = cell(partName(row.part)) + cell(placeName(row));
-    for (const auto& [done, all] : {std::pair(row.captured, row.skills), std::pair(row.opened, row.chests)})
-        html += all == 0 ? u"<td></td><td></td>"_s
-                         : cell(u"%1 of %2"_s.arg(done).arg(all)) + cell(share(done, all));
-    return html;
+int monthsOf(const QDate& date) {
+    return date.year() * 12 + date.month() - 1;
 }
 
 } // namespace
 
-std::vector<CompletionRow> completionRows(const ProgramState& state) {
-    std::vector<CompletionRow> rows;
-    for (const ListEntry& character : namedCharacters(state))
-        for (CompletionRow& row : Counter(state, character).rows())
-            rows.push_back(std::move(row));
-    return rows;
+std::vector<CompletionRow> completionRows(const Progress& state, int character) {
+    return Counter(state, character).rows();
 }
 
-QString completionText(const std::vector<CompletionRow>& rows) {
-    qsizetype widest = 0;
-    for (const CompletionRow& row : rows)
-        widest = std::max(widest, placeName(row).size());
-    QString text;
-    for (const CompletionRow& row : rows) {
-        if (row.part == Part::World)
-            text += (text.isEmpty() ? QString() : u"\n"_s) + row.character + u'\n';
-        QString line =
-            u"  %1 %2"_s.arg(partName(row.part).leftJustified(10), placeName(row).leftJustified(widest));
-        line += row.skills == 0 ? QString(28, u' ')
-                                : u"  skills %1 of %2 %3"_s.arg(row.captured, 5)
-                                      .arg(row.skills, 5)
-                                      .arg(share(row.captured, row.skills), 5);
-        if (row.chests > 0)
-            line += u"  chests %1 of %2 %3"_s.arg(row.opened, 5)
-                        .arg(row.chests, 5)
-                        .arg(share(row.opened, row.chests), 5);
-        while (line.endsWith(u' '))
-            line.chop(1);
-        text += line + u'\n';
-    }
-    return text;
+CompletionGrid completionGrid(const Progress& state, int character) {
+    return Counter(state, character).grid();
 }
 
-QString completionCsv(const std::vector<CompletionRow>& rows) {
-    QString text = u"character,part,name,campaign,captured,skills,opened,chests\r\n"_s;
-    for (const CompletionRow& row : rows) {
-        for (const QString& field : {row.character, partName(row.part), row.name, row.campaign})
-            text += quoted(field) + u',';
-        text += u"%1,%2,%3,%4\r\n"_s.arg(row.captured).arg(row.skills).arg(row.opened).arg(row.chests);
+std::vector<ChestCount> chestCounts(const Progress& state, int character) {
+    std::map<int, int> months;
+    for (const Treasure& chest : state.Treasures)
+        if (const QDate date = chest.openedBy(character); date.isValid())
+            ++months[monthsOf(date)];
+    if (months.empty())
+        return {};
+    std::vector<ChestCount> counts;
+    const int first = months.begin()->first;
+    const int last = months.rbegin()->first;
+    if (last - first < mostMonths) {
+        for (int month = first; month <= last; ++month)
+            counts.push_back({month / 12, month % 12 + 1, months[month]});
+        return counts;
     }
-    return text;
-}
-
-QString completionHtml(const std::vector<CompletionRow>& rows) {
-    QString html =
-        u"<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Completion</title>\n"
-        "<style>body{font-family:sans-serif}table{border-collapse:collapse}"
-        "td,th{padding:.2em .8em;border-bottom:1px solid #ccc;text-align:left}</style></head><body>\n"
-        "<h1>Completion</h1>\n"_s;
-    for (size_t i = 0; i < rows.size(); ++i) {
-        const CompletionRow& row = rows[i];
-        if (row.part == Part::World)
-            html +=
-                u"<h2>%1</h2>\n<table><tr><th>Part</th><th>Name</th><th colspan=\"2\">Skills captured</th>"
-                "<th colspan=\"2\">Chests opened</th></tr>\n"_s.arg(row.character.toHtmlEscaped());
-        html += u"<tr>"_s + cells(row) + u"</tr>\n"_s;
-        if (i + 1 == rows.size() || rows[i + 1].part == Part::World)
-            html += u"</table>\n"_s;
+    for (const auto& [month, chests] : months) {
+        if (counts.empty() || counts.back().year != month / 12)
+            counts.push_back({month / 12, 0, 0});
+        counts.back().chests += chests;
     }
-    return html + u"</body></html>\n"_s;
+    return counts;
 }
 
 } // namespace orvinel

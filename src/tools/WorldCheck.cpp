@@ -7,9 +7,13 @@
 #include "progress/OpenedTreasures.h"
 #include "progress/modCharacters.h"
 #include "tools/WorldWalk.h"
+#include "tools/WorldWarnings.h"
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRect>
 
 #include <algorithm>
@@ -22,7 +26,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int cellSide = 64; // pixels; for finding neighbours
+constexpr int captions = 115; // numbers of the language file that the windows ask for
+constexpr int cellSide = 64;  // pixels; for finding neighbours
 
 class Rules {
   public:
@@ -52,8 +57,8 @@ class Rules {
     }
 
     void checkCaptions() {
-        for (int number = 1; number <= lastFixedCaption; ++number)
-            if (state_.text(static_cast<Caption>(number)).isEmpty())
+        for (int number = 1; number <= captions; ++number)
+            if (state_.text(number).isEmpty())
                 complain({state_.AppPath + u"Data/Language.txt"_s}, u"number"_s,
                          u"no caption %1"_s.arg(number));
     }
@@ -308,21 +313,36 @@ WorldFindings checkWorld(Disk& disk, const QString& folder) {
     result.unreadable = (!captioned && result.counts.campaigns == 0) ||
                         std::any_of(complaints.all().begin(), complaints.all().end(), isUnreadable);
     Rules(state, disk, complaints).checkAll();
-    result.findings = complaints.all();
-    for (Complaint& finding : result.findings)
+    for (const Complaint& complaint : complaints.all())
+        result.findings.push_back({complaint, false});
+    addWarnings(state, disk, complaints, result.findings);
+    for (Finding& finding : result.findings)
         if (finding.file.startsWith(folder))
             finding.file.remove(0, folder.size());
-    std::stable_sort(result.findings.begin(), result.findings.end(),
-                     [](const Complaint& a, const Complaint& b) {
-                         return std::tie(a.file, a.line) < std::tie(b.file, b.line);
-                     });
+    result.counts.errors = static_cast<int>(std::count_if(result.findings.begin(), result.findings.end(),
+                                                          [](const Finding& f) { return !f.warning; }));
+    std::stable_sort(result.findings.begin(), result.findings.end(), [](const Finding& a, const Finding& b) {
+        return std::tie(a.file, a.line) < std::tie(b.file, b.line);
+    });
     return result;
 }
 
-QString findingLine(const Complaint& finding) {
+QString findingLine(const Finding& finding) {
     const QString field = finding.field.isEmpty() ? u"line"_s : finding.field;
     const QString file = finding.file.isEmpty() ? u"."_s : finding.file;
-    return u"%1:%2: %3: %4"_s.arg(file, QString::number(finding.line), field, finding.reason);
+    return u"%1:%2: %3%4: %5"_s.arg(file, QString::number(finding.line),
+                                    finding.warning ? u"warning: "_s : QString(), field, finding.reason);
+}
+
+QString findingsJson(const WorldFindings& result) {
+    QJsonArray array;
+    for (const Finding& finding : result.findings)
+        array.append(QJsonObject{{u"file"_s, finding.file},
+                                 {u"line"_s, finding.line},
+                                 {u"field"_s, finding.field},
+                                 {u"severity"_s, finding.warning ? u"warning"_s : u"error"_s},
+                                 {u"reason"_s, finding.reason}});
+    return QString::fromUtf8(QJsonDocument(array).toJson());
 }
 
 QString summaryText(const WorldFindings& result) {
@@ -336,7 +356,7 @@ QString summaryText(const WorldFindings& result) {
     for (const auto& [name, count] : kinds)
         text += u"%1 %2\n"_s.arg(count, 7).arg(name);
     std::map<QString, int> perFile;
-    for (const Complaint& finding : result.findings)
+    for (const Finding& finding : result.findings)
         ++perFile[finding.file.isEmpty() ? u"."_s : finding.file];
     for (const auto& [file, count] : perFile)
         text += u"%1 findings in %2\n"_s.arg(count, 7).arg(file);

@@ -53,10 +53,10 @@ std::optional<int> characterNamed(const ProgramState& state, const QString& word
 }
 
 // One line on a terminal while something takes longer than a second.
-class DoneLine {
+class ProgressLine {
   public:
-    explicit DoneLine(qsizetype all) : all_(all) { clock_.start(); }
-    ~DoneLine() {
+    explicit ProgressLine(qsizetype all) : all_(all) { clock_.start(); }
+    ~ProgressLine() {
         if (shown_)
             printError(u"\r                    \r"_s);
     }
@@ -84,7 +84,7 @@ ExitCode writePages(const ProgramState& state, const FileDisk& disk, const Atlas
     if (atlas.regions.empty())
         return refuse(u"%1: there is no campaign folder with regions in it"_s.arg(state.AppPath));
     const std::vector<AtlasFile> files = atlasFiles(state, atlas);
-    DoneLine line(std::ssize(files));
+    ProgressLine line(std::ssize(files));
     const QString folder = QDir::cleanPath(QFileInfo(out).absoluteFilePath());
     if (const DiskError error = writeAtlasFolder(disk, folder, files, [&](int done) { line.show(done); }))
         return refuse(*error);

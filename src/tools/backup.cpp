@@ -1,16 +1,22 @@
-// orvinel-backup FOLDER save|list|verify|restore [NAME] [--replace]: archives of the player's files.
+// orvinel-backup: archives of the player's files.
 
 #include "tools/Backup.h"
 #include "base/FileDisk.h"
 #include "base/SingleInstance.h"
 #include "tools/CommandLine.h"
 
-#include <optional>
-
 using namespace orvinel;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const ToolTable table = {
+    u"orvinel-backup"_s,
+    u"Keeps the player's files as archives in the folder Backups, and brings them back."_s,
+    {{u"FOLDER"_s, u"The program's folder."_s},
+     {u"save|list|verify|restore"_s, u"What is to be done."_s},
+     {u"[NAME]"_s, u"The archive's name; without it one made of date and time, or the latest."_s}},
+    {{u"replace"_s, u"Let restore replace files that have changed; they are saved before."_s}}};
 
 struct Order {
     QString folder;
@@ -19,18 +25,13 @@ struct Order {
     bool replace = false;
 };
 
-std::optional<Order> orderOf(QStringList words) {
-    Order order;
-    order.replace = words.removeAll(u"--replace"_s) > 0;
-    if (words.size() < 2 || words.size() > 3)
-        return std::nullopt;
-    order.folder = words[0];
-    order.verb = words[1];
-    order.name = words.value(2);
-    const bool known = QStringList{u"save"_s, u"list"_s, u"verify"_s, u"restore"_s}.contains(order.verb);
-    const bool fits = (order.verb != u"list" || order.name.isEmpty()) &&
-                      (order.verb == u"restore" || !order.replace) && !order.name.startsWith(u"--"_s);
-    return known && fits ? std::optional(order) : std::nullopt;
+// Empty when the words make sense together.
+QString problemOf(const Order& order) {
+    if (!QStringList{u"save"_s, u"list"_s, u"verify"_s, u"restore"_s}.contains(order.verb))
+        return u"there is no \"%1\" to be done"_s.arg(order.verb);
+    if (order.verb == u"list" && !order.name.isEmpty())
+        return u"list takes no name"_s;
+    return order.replace && order.verb != u"restore" ? u"--replace goes with restore"_s : QString();
 }
 
 int tell(const Backup::Result& result) {
@@ -66,15 +67,14 @@ int run(const Order& order, const QString& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto order = orderOf(arguments(argc, argv));
-    if (!order) {
-        printError(u"usage: orvinel-backup FOLDER save|list|verify|restore [NAME] [--replace]\n"_s);
-        return exitUnusable;
-    }
-    const QString folder = programFolder(order->folder);
-    if (folder.isEmpty()) {
-        printError(u"orvinel-backup: no folder %1\n"_s.arg(order->folder));
-        return exitUnusable;
-    }
-    return run(*order, folder);
+    const CommandLine line(table, argc, argv);
+    if (line.ended())
+        return *line.ended();
+    const Order order{line.word(0), line.word(1), line.word(2), line.has(u"replace"_s)};
+    if (const QString problem = problemOf(order); !problem.isEmpty())
+        return line.misunderstood(problem);
+    const QString folder = programFolder(order.folder);
+    if (folder.isEmpty())
+        return line.refuse(u"no folder %1"_s.arg(order.folder));
+    return run(order, folder);
 }

@@ -170,7 +170,7 @@ QString startWith(const HostileFile& file, const QByteArray& bytes) {
     Start start(disk);
     for (const Place& place : {Place{}, Place{3, 1, 1}, Place{3, 2, 0}, Place{1, 8, 3}})
         lookAround(start.state, place);
-    for (const Complaint& finding : checkWorld(disk, folder).findings)
+    for (const Finding& finding : checkWorld(disk, folder).findings)
         findingLine(finding);
     return rewrite(disk, start);
 }

@@ -42,7 +42,7 @@ struct WorldCheckTest : testing::Test {
     }
     std::vector<std::string> findings() {
         std::vector<std::string> lines;
-        for (const Complaint& finding : checkWorld(disk, u"/o/"_s).findings)
+        for (const Finding& finding : checkWorld(disk, u"/o/"_s).findings)
             lines.push_back(findingLine(finding).remove(u"Campaign.03.Sunhollow/"_s).toStdString());
         return lines;
     }

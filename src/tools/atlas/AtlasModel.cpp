@@ -2,7 +2,6 @@
 
 #include "app/ProgramState.h"
 #include "app/modLanguage.h"
-#include "base/Listing.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
 #include "tools/atlas/AtlasTexts.h"
@@ -51,8 +50,6 @@ class Maker {
         addChests();
         addPets();
         addNotes();
-        for (AtlasRegion& region : atlas_.regions)
-            sortPlaces(region.places);
         return std::move(atlas_);
     }
 
@@ -138,7 +135,7 @@ class Maker {
         if (tip.skillShown)
             place.parts.push_back(skillPart(id, tip));
         if (!tip.note.isEmpty())
-            place.parts.push_back({Kind::Text, state_.text(Caption::BossNote), {}, linesOf(tip.note), {}});
+            place.parts.push_back({Kind::Text, state_.text(40), {}, linesOf(tip.note), {}});
         for (const int green : at.Greens)
             place.parts.push_back(
                 {Kind::Green, state_.GreenItems[green].Name, {}, filled(state_.GreenItems[green].Stats), {}});
@@ -167,15 +164,15 @@ class Maker {
             if (!value.isEmpty())
                 part.facts.emplace_back(name, value);
         };
-        fact(state_.text(Caption::Profession), professionOf(state_, state_.EliteSkills[id].Profession).Name);
-        fact(state_.text(Caption::Attribute), tip.attribute);
-        fact(state_.text(Caption::Type), tip.type);
-        fact(state_.text(Caption::Campaign), tip.campaign);
-        fact(state_.text(Caption::Upkeep), tip.upkeep.value_or(QString()));
-        fact(state_.text(Caption::Adrenaline), tip.adrenaline.value_or(QString()));
-        fact(state_.text(Caption::Energy), tip.energy.value_or(QString()));
-        fact(state_.text(Caption::CastTime), tip.castTime.value_or(QString()));
-        fact(state_.text(Caption::Recharge), tip.recharge.value_or(QString()));
+        fact(state_.text(5), professionOf(state_, state_.EliteSkills[id].Profession).Name);
+        fact(state_.text(53), tip.attribute);
+        fact(state_.text(10), tip.type);
+        fact(state_.text(2), tip.campaign);
+        fact(ownText(state_, OwnText::Upkeep), tip.upkeep.value_or(QString()));
+        fact(ownText(state_, OwnText::Adrenaline), tip.adrenaline.value_or(QString()));
+        fact(ownText(state_, OwnText::Energy), tip.energy.value_or(QString()));
+        fact(ownText(state_, OwnText::CastTime), tip.castTime.value_or(QString()));
+        fact(ownText(state_, OwnText::Recharge), tip.recharge.value_or(QString()));
         return part;
     }
 
@@ -188,12 +185,12 @@ class Maker {
             place.layer = AtlasLayer::Collectors;
             place.name = collector.Name;
             place.sprite = collector.IsArmour ? Sprite::CollArmature : Sprite::CollArmi;
-            place.parts = {{Kind::Text,
-                            {},
-                            {},
-                            {},
-                            {{state_.text(Caption::CollectsChoice), collector.Request},
-                             {state_.text(Caption::Location), collector.LocationText}}}};
+            place.parts = {
+                {Kind::Text,
+                 {},
+                 {},
+                 {},
+                 {{state_.text(46), collector.Request}, {state_.text(49), collector.LocationText}}}};
             for (const CollectorObject& object : collector.Objects)
                 place.parts.push_back({Kind::Reward, object.Name, {}, filled(object.Stats), {}});
             add(collector.Location, std::move(place));
@@ -246,20 +243,6 @@ class Maker {
         }
     }
 
-    // By layer, and as a reader looks for them.
-    static void sortPlaces(std::vector<AtlasPlace>& places) {
-        std::vector<QString> names;
-        for (const AtlasPlace& place : places)
-            names.push_back(place.name);
-        std::vector<AtlasPlace> sorted;
-        sorted.reserve(places.size());
-        for (const int position : alphabeticalOrder(names))
-            sorted.push_back(std::move(places[static_cast<size_t>(position)]));
-        std::stable_sort(sorted.begin(), sorted.end(),
-                         [](const AtlasPlace& a, const AtlasPlace& b) { return a.layer < b.layer; });
-        places = std::move(sorted);
-    }
-
     QString character() const { return state_.Characters[choice_.character]; }
 
     const ProgramState& state_;
@@ -284,9 +267,7 @@ Atlas makeAtlas(const ProgramState& state, const AtlasChoice& choice,
 QString layerName(const ProgramState& state, AtlasLayer layer) {
     if (layer == AtlasLayer::Zones)
         return atlasText(state, AtlasText::Zones);
-    constexpr std::array captions = {Caption::Zone,       Caption::EliteSkills, Caption::GreenItems,
-                                     Caption::Collectors, Caption::Treasures,   Caption::Pets,
-                                     Caption::Notes};
+    constexpr std::array captions = {41, 32, 59, 44, 83, 114, 65};
     return state.text(captions[static_cast<size_t>(layer)]);
 }
 

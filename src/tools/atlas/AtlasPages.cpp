@@ -118,7 +118,7 @@ QByteArray startPage(const ProgramState& state, const Atlas& atlas) {
     // Without a script there is no map, search or choice: the style sheet hides what is "scripted" then.
     const QString body =
         u"<body class=\"start\">\n<a class=\"skip\" href=\"#lists\">"_s + own(AtlasText::SkipToLists) +
-        u"</a>\n<header>\n<h1><img alt=\"\" src=\"icon.svg\"> "_s + safe(title) +
+        u"</a>\n<header>\n<h1>"_s + safe(title) +
         u"</h1>\n<form id=\"search\" class=\"scripted\" role=\"search\">\n<label class=\"hidden\" for=\"query\">"_s +
         search +
         u"</label>\n<input type=\"search\" id=\"query\" autocomplete=\"off\" spellcheck=\"false\" placeholder=\""_s +
@@ -129,7 +129,7 @@ QByteArray startPage(const ProgramState& state, const Atlas& atlas) {
         u"</p></noscript>\n<section id=\"mappart\" class=\"scripted\" aria-label=\""_s + own(AtlasText::Map) +
         u"\">\n<div id=\"map\"></div>\n<p id=\"message\" role=\"status\"></p>\n</section>\n"
         "<section id=\"lists\" tabindex=\"-1\">\n<div class=\"scripted\">\n<h2 class=\"field\"><label for=\"region\">"_s +
-        safe(state.text(Caption::Region)) +
+        safe(state.text(3)) +
         u"</label></h2>\n<select id=\"region\"></select>\n<fieldset id=\"layers\"><legend>"_s +
         own(AtlasText::Layers) + u"</legend></fieldset>\n<h2>"_s + own(AtlasText::InThisRegion) +
         u"</h2>\n<div id=\"here\"></div>\n</div>\n<nav aria-labelledby=\"reading\">\n<h2 id=\"reading\">"_s +

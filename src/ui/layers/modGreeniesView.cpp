@@ -9,7 +9,7 @@ namespace orvinel {
 
 namespace {
 
-constexpr Caption countCaption = Caption::GreenItems;
+constexpr int countCaption = 59;
 
 } // namespace
 

@@ -11,35 +11,35 @@ namespace {
 
 struct Row {
     MenuKind kind;
-    Caption text = Caption::None; // not of separators
+    int text = 0; // language entry
     bool enabled = true;
 };
 
-constexpr Row separator{MenuKind::Separator, Caption::None, false};
+constexpr Row separator{MenuKind::Separator, 0, false};
 
-constexpr Row viewRows[] = {{MenuKind::Check, Caption::EliteSkills},
-                            {MenuKind::Check, Caption::Collectors},
-                            {MenuKind::Check, Caption::GreenItems},
-                            {MenuKind::Check, Caption::Notes},
-                            {MenuKind::Check, Caption::TreasuresAndPets}};
-constexpr Row optionRows[] = {{MenuKind::Check, Caption::ShowLegend},
-                              {MenuKind::Check, Caption::AlwaysOnTop},
+constexpr Row viewRows[] = {{MenuKind::Check, 32},
+                            {MenuKind::Check, 44},
+                            {MenuKind::Check, 59},
+                            {MenuKind::Check, 65},
+                            {MenuKind::Check, 113}};
+constexpr Row optionRows[] = {{MenuKind::Check, 62},
+                              {MenuKind::Check, 95},
                               separator,
-                              {MenuKind::Command, Caption::InformationWindows, false},
-                              {MenuKind::Option, Caption::RightClickStays},
-                              {MenuKind::Option, Caption::WhileRightButton},
-                              {MenuKind::Option, Caption::FollowMouse},
+                              {MenuKind::Command, 74, false},
+                              {MenuKind::Option, 91},
+                              {MenuKind::Option, 75},
+                              {MenuKind::Option, 76},
                               separator,
-                              {MenuKind::Command, Caption::MyCharacters}};
-constexpr Row helpRows[] = {{MenuKind::Command, Caption::UpdateAndQuit},
-                            {MenuKind::Command, Caption::HomePage},
+                              {MenuKind::Command, 14}};
+constexpr Row helpRows[] = {{MenuKind::Command, 93},
+                            {MenuKind::Command, 107},
                             separator,
-                            {MenuKind::Command, Caption::ShowCredits},
-                            {MenuKind::Command, Caption::CreditsHeading},
-                            {MenuKind::Command, Caption::WhatIsNew},
-                            {MenuKind::Command, Caption::Help},
+                            {MenuKind::Command, 81},
+                            {MenuKind::Command, 108},
+                            {MenuKind::Command, 89},
+                            {MenuKind::Command, 109},
                             separator,
-                            {MenuKind::Command, Caption::About}};
+                            {MenuKind::Command, 110}};
 
 int countOf(const MenuDefinition& menu, MenuKind kind) {
     return static_cast<int>(std::count_if(menu.Entries.begin(), menu.Entries.end(),
