@@ -6,11 +6,10 @@ import os
 import subprocess
 import sys
 import tempfile
-import traceback
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import worlds  # noqa: E402
-from browser import AXE, Browser, Missing, Served, axe_source, until, use_system_python  # noqa: E402
+from browser import AXE, Browser, Served, axe_source, run_tests, until, use_system_python  # noqa: E402
 
 ENTER, ESCAPE, DOWN, LEFT, TAB = "\ue007", "\ue00c", "\ue015", "\ue012", "\ue004"
 
@@ -331,39 +330,9 @@ TESTS = [markers_stand_at_their_pixels, windows_say_what_the_program_says, searc
          nothing_of_weight_for_axe]
 
 
-def quiet(pages):
-    """No page may complain or ask for anything but its own files; a picture that is none is the reader's to see."""
-    complaints = [line for line in pages.browser.complaints() if "favicon.ico" not in line]
-    assert not complaints, complaints
-    strangers = [url for url in pages.browser.requests() if not url.startswith(("file:", "data:", "about:", "chrome", "http://127.0.0.1:"))]
-    assert not strangers, strangers
-
-
 def main(tool, *wanted):
-    failed = []
     with tempfile.TemporaryDirectory() as work:
-        try:
-            pages = Pages(tool, work)
-        except Missing as missing:
-            print(f"skipped: {missing} is not installed (tools/dev/install-packages pages)")
-            return 77
-        pages.browser.dark(False)
-        try:
-            for test in TESTS:
-                if wanted and test.__name__ not in wanted:
-                    continue
-                try:
-                    test(pages)
-                    quiet(pages)
-                    print(f"ok {test.__name__}", flush=True)
-                except Exception:  # each test tells its own story
-                    failed.append(test.__name__)
-                    print(f"FAILED {test.__name__}\n{traceback.format_exc()}", flush=True)
-                    pages.browser.complaints(), pages.browser.requests()
-        finally:
-            pages.browser.close()
-    print(f"{len(failed)} failed" if failed else "pages: all as expected")
-    return 1 if failed else 0
+        return run_tests(lambda: Pages(tool, work), TESTS, wanted)
 
 
 if __name__ == "__main__":

@@ -12,6 +12,7 @@ import sys
 import tempfile
 import threading
 import time
+import traceback
 
 LIMIT = 10  # seconds until something that does not come counts as missing
 AXE = "axe-core@4.10.2"  # from npm; for tests only
@@ -167,3 +168,39 @@ class Served:
     def close(self):
         self.server.shutdown()
         self.server.server_close()
+
+
+def quiet(browser):
+    """No page may complain, or ask for anything but its own files."""
+    complaints = [line for line in browser.complaints() if "favicon.ico" not in line]
+    assert not complaints, complaints
+    own = ("file:", "data:", "about:", "chrome", "http://127.0.0.1:")
+    strangers = [url for url in browser.requests() if not url.startswith(own)]
+    assert not strangers, strangers
+
+
+def run_tests(make_pages, tests, wanted):
+    """Runs the tests, or those of the names wanted, on the pages, which hold a `browser`; the exit code."""
+    failed = []
+    try:
+        pages = make_pages()
+    except Missing as missing:
+        print(f"skipped: {missing} is not installed (tools/dev/install-packages pages)")
+        return 77
+    try:
+        pages.browser.dark(False)
+        for test in tests:
+            if wanted and test.__name__ not in wanted:
+                continue
+            try:
+                test(pages)
+                quiet(pages.browser)
+                print(f"ok {test.__name__}", flush=True)
+            except Exception:  # each test tells its own story
+                failed.append(test.__name__)
+                print(f"FAILED {test.__name__}\n{traceback.format_exc()}", flush=True)
+                pages.browser.complaints(), pages.browser.requests()
+    finally:
+        pages.browser.close()
+    print(f"{len(failed)} failed" if failed else "pages: all as expected")
+    return 1 if failed else 0
