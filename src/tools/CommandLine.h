@@ -57,6 +57,7 @@ class CommandLine {
     QStringList words() const { return parser_.positionalArguments(); }
     bool has(const QString& option) const { return parser_.isSet(option); }
     QString value(const QString& option) const { return parser_.value(option); }
+    QStringList values(const QString& option) const { return parser_.values(option); }
 
     // "NAME: reason" on the error stream; returns `code`.
     int refuse(const QString& reason, ExitCode code = exitUnusable) const;

@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "progress/modCharacters.h"
+#include "tools/Csv.h"
 #include "tools/ToolText.h"
 
 #include <QJsonArray>
@@ -142,13 +143,6 @@ class TextWriter {
     const Report& report_;
     QString text_;
 };
-
-QString csvLine(const QStringList& fields) {
-    QStringList quoted;
-    for (const QString& field : fields)
-        quoted << u'"' + QString(field).replace(u'"', u"\"\""_s) + u'"';
-    return quoted.join(u',') + u"\r\n"_s;
-}
 
 QString missingCsv(const Report& report) {
     QString text = u"character,campaign,region,zone,kind,id,name,boss,marker,greens,note\r\n"_s;

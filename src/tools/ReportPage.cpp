@@ -107,7 +107,7 @@ class PageWriter {
         table(character.rows, Part::Campaign, ToolText::ByCampaign, ToolText::Campaign);
         table(character.rows, Part::Region, ToolText::ByRegion, ToolText::Region);
         table(character.rows, Part::Profession, ToolText::ByProfession, ToolText::Profession);
-        grid(character.grid);
+        grid(character.grid, character.name);
         plot(character.chests);
         missing(character.missing);
         html_ += u"</section>\n"_s;
@@ -163,14 +163,15 @@ class PageWriter {
         html_ += u"</tbody></table>\n"_s;
     }
 
-    void grid(const CompletionGrid& grid) {
+    void grid(const CompletionGrid& grid, const QString& name) {
         if (grid.lines.empty() || grid.professions.empty())
             return;
         html_ += u"<h3>"_s + say(ToolText::Grid) +
                  u"</h3>\n<div class=\"wide\" tabindex=\"0\" role=\"region\" "
                  "aria-label=\""_s +
-                 say(ToolText::Grid) + u"\">\n<table class=\"grid\">\n<thead><tr><th scope=\"col\">"_s +
-                 say(ToolText::Region) + u"</th>"_s;
+                 say(ToolText::Grid) + u": "_s + safeHtml(name) +
+                 u"\">\n<table class=\"grid\">\n<thead><tr><th scope=\"col\">"_s + say(ToolText::Region) +
+                 u"</th>"_s;
         for (const CompletionGrid::Head& head : grid.professions)
             html_ += u"<th scope=\"col\"><abbr title=\""_s + safeHtml(head.name) + u"\">"_s +
                      safeHtml(head.abbreviation.isEmpty() ? head.name : head.abbreviation) +

@@ -34,12 +34,13 @@ QString problemOf(const Order& order) {
     return order.replace && order.verb != u"restore" ? u"--replace goes with restore"_s : QString();
 }
 
-int tell(const Backup::Result& result) {
+// `bad`: how it ends when it is not good.
+int tell(const Backup::Result& result, ExitCode bad = exitUnusable) {
     if (result.good)
         print(result.text + u'\n');
     else
         printError(u"orvinel-backup: "_s + result.text + u'\n');
-    return result.good ? exitGood : exitFindings;
+    return result.good ? exitGood : bad;
 }
 
 int listAll(const Backup& backup) {
@@ -54,12 +55,12 @@ int run(const Order& order, const QString& folder) {
     if (order.verb == u"list")
         return listAll(backup);
     if (order.verb == u"verify")
-        return tell(backup.verify(order.name));
+        return tell(backup.verify(order.name), exitFindings);
     // Held until the end, so that Orvinel cannot start and write meanwhile either.
     const SingleInstance instance(folder);
     if (!instance.first()) {
         printError(u"orvinel-backup: Orvinel is running in this folder; quit it first\n"_s);
-        return exitFindings;
+        return exitUnusable;
     }
     return tell(order.verb == u"save" ? backup.save(order.name) : backup.restore(order.name, order.replace));
 }
