@@ -1,11 +1,16 @@
-"""Do the captions of each language fit the places that show them?"""
+"""Do the captions of each language fit the places that show them, and do all places that list them agree?"""
 import os
+import re
 import shutil
 import struct
 import subprocess
 
-DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', 'world', 'Data')
+TOP = os.path.join(os.path.dirname(os.path.abspath(__file__)), '..')
+DATA = os.path.join(TOP, 'world', 'Data')
 FIRST_MESSAGE = 201
+TOOLS = 301  # from here on the words of the tools beside the program
+# Read, but shown nowhere.
+UNUSED = {20, 45, 77, 78, 79, 80, 82, 84, 90, 94, 96, 101}
 SKILL_WORD = 45  # compared with the campaign files, which are English
 
 # Room in pixels for captions that stand beside something else; bold where the label is.
@@ -55,10 +60,38 @@ def read(name):
     return {int(number): text for number, _, text in (line.partition('\t') for line in lines if line)}
 
 
+def named():
+    """Number and English text of each name in the program's list of captions."""
+    with open(os.path.join(TOP, 'src', 'base', 'Caption.h'), encoding='utf-8') as f:
+        return {int(number): text for number, text in re.findall(r'^    \w+ = (\d+),? +// "(.*)"$', f.read(), re.M)}
+
+
+def documented():
+    """The numbers that the rows of the translator's table name."""
+    with open(os.path.join(TOP, 'docs', 'translating.md'), encoding='utf-8') as f:
+        rows = re.findall(r'^\| ([0-9, -]+) \|', f.read(), re.M)
+    for span in ','.join(rows).split(','):
+        first, _, last = span.strip().partition('-')
+        yield from range(int(first), int(last or first) + 1)
+
+
+def unnamed():
+    names, english, shown = named(), read('Language.txt'), set(documented())
+    if len(names) < 100:
+        yield 'Caption.h: its list is not written as it is read here'
+    for number, text in names.items():
+        if english.get(number) != text:
+            yield f'Language.txt: {number} is "{english.get(number)}", Caption.h says "{text}"'
+        if number not in shown and number not in UNUSED:
+            yield f'docs/translating.md does not say where {number} stands'
+    for number in sorted((set(english) | set(BOLD) | set(PLAIN) | set(COMBO)) - set(names)):
+        if number < TOOLS:
+            yield f'Caption.h: no name for {number}'
+
+
 def faults():
     english = read('Language.txt')
-    for number in sorted(set(range(1, 116)) - {n for n, text in english.items() if text}):
-        yield f'Language.txt: no caption {number}'
+    yield from unnamed()
     for name in ('Languages/English.txt', 'Languages/Italiano.txt', 'Languages/Deutsch.txt'):
         texts = read(name)
         if set(texts) != set(english):

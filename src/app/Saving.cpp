@@ -1,6 +1,7 @@
 #include "app/Saving.h"
 
 #include "app/modLanguage.h"
+#include "world/World.h"
 
 namespace orvinel {
 
@@ -8,7 +9,7 @@ bool saveAndTell(const World& state, Desktop& desktop,
                  const std::function<SaveResult(bool evenIfChanged)>& save) {
     SaveResult result = save(false);
     if (result.outcome == SaveResult::Outcome::ChangedOutside) {
-        const QString question = ownText(state, OwnText::ChangedOutside).arg(result.file);
+        const QString question = state.text(Caption::ChangedOutside).arg(result.file);
         if (!desktop.ask(MessageIcon::Question, programName(), question))
             return false;
         result = save(true);
@@ -16,7 +17,7 @@ bool saveAndTell(const World& state, Desktop& desktop,
     if (result.saved())
         return true;
     desktop.message(MessageIcon::Critical, programName(),
-                    ownText(state, OwnText::SaveFailed).arg(result.file, result.reason));
+                    state.text(Caption::SaveFailed).arg(result.file, result.reason));
     return false;
 }
 

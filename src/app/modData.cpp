@@ -32,7 +32,7 @@ void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
     MoveToPersonalFolder(state, files.disk());
     InstallPendingUpdater(state, files.disk(), desktop);
     if (!loadTables(state, files))
-        desktop.message(MessageIcon::Critical, programName(), ownText(state, OwnText::TooMuchData));
+        desktop.message(MessageIcon::Critical, programName(), state.text(Caption::TooMuchData));
 }
 
 bool loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {

@@ -199,8 +199,7 @@ void Program::ToggleMapMaximised() {
 
 void Program::OpenWithShell(const QString& target) {
     if (!desktop_.openWithShell(target))
-        desktop_.message(MessageIcon::Critical, programName(),
-                         ownText(state_, OwnText::NotOpened).arg(target));
+        desktop_.message(MessageIcon::Critical, programName(), state_.text(Caption::NotOpened).arg(target));
 }
 
 void Program::ShowHistory() {
@@ -236,15 +235,14 @@ bool Program::saveOptions() {
     const QString text = optionsFile(state_.AppOptions);
     SaveResult result = files_.save(optionsPath(state_), text);
     if (result.outcome == SaveResult::Outcome::ChangedOutside) {
-        const QString question = ownText(state_, OwnText::ChangedOutside).arg(result.file);
+        const QString question = state_.text(Caption::ChangedOutside).arg(result.file);
         if (!desktop_.ask(MessageIcon::Question, programName(), question))
             return true;
         result = files_.save(optionsPath(state_), text, true);
     }
-    return result.saved() ||
-           desktop_.ask(MessageIcon::Critical, programName(),
-                        ownText(state_, OwnText::SaveFailed).arg(result.file, result.reason) + u"\n\n"_s +
-                            ownText(state_, OwnText::QuitWithoutSaving));
+    return result.saved() || desktop_.ask(MessageIcon::Critical, programName(),
+                                          state_.text(Caption::SaveFailed).arg(result.file, result.reason) +
+                                              u"\n\n"_s + state_.text(Caption::QuitWithoutSaving));
 }
 
 void Program::QuitProgram() {

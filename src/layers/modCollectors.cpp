@@ -260,7 +260,7 @@ std::vector<ListEntry> requestTypeEntries(const Content& state, int level) {
         if (level == CollectorChoice::anyLevel || state.RequestTypes[i].Level == level)
             entries.push_back({state.RequestTypes[i].Text, i});
     sortAlphabetically(entries);
-    entries.insert(entries.begin(), {pinnedText(state.text(9)), 0});
+    entries.insert(entries.begin(), {pinnedText(state.text(Caption::All)), 0});
     return entries;
 }
 

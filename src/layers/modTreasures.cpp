@@ -93,7 +93,8 @@ std::vector<HitArea> treasureHitAreas(const Content& state, ListedItems listed, 
 
 TreasureTooltip treasureTooltip(const Content& state, int index) {
     const Treasure& treasure = state.Treasures[index];
-    TreasureTooltip tooltip{treasure.Name, state.text(85), state.text(106), {}, {}};
+    TreasureTooltip tooltip{
+        treasure.Name, state.text(Caption::OpenedBy), state.text(Caption::OpenedWhen), {}, {}};
     for (int c = 1; c <= state.Characters.highest(); ++c) {
         const TreasureTooltip::Line line{state.Characters[c], treasure.openedBy(c)};
         // Nameless characters leave a gap between the lines, but none above the first.
@@ -101,7 +102,8 @@ TreasureTooltip treasureTooltip(const Content& state, int index) {
             tooltip.lines.push_back(line);
     }
     if (tooltip.lines.empty())
-        tooltip.instead = state.text(state.Characters.highest() == 0 ? 87 : 88);
+        tooltip.instead =
+            state.text(state.Characters.highest() == 0 ? Caption::NoCharacters : Caption::Nobody);
     return tooltip;
 }
 

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int allText = 9;
+constexpr Caption allText = Caption::All;
 
 std::vector<QString> characterFiles(const Progress& state, int number) {
     return {capturedPath(state, number), openedTreasuresPath(state, number)};

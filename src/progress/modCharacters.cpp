@@ -40,7 +40,7 @@ QString characterFilePath(const Progress& state, int character, const QString& s
 
 std::vector<ListEntry> characterEntries(const Progress& state) {
     std::vector<ListEntry> entries = namedCharacters(state);
-    entries.insert(entries.begin(), {pinnedText(state.text(4)), 0});
+    entries.insert(entries.begin(), {pinnedText(state.text(Caption::AnyCharacter)), 0});
     return entries;
 }
 

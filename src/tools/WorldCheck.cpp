@@ -26,8 +26,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int captions = 115; // numbers of the language file that the windows ask for
-constexpr int cellSide = 64;  // pixels; for finding neighbours
+constexpr int cellSide = 64; // pixels; for finding neighbours
 
 class Rules {
   public:
@@ -57,8 +56,8 @@ class Rules {
     }
 
     void checkCaptions() {
-        for (int number = 1; number <= captions; ++number)
-            if (state_.text(number).isEmpty())
+        for (int number = 1; number <= lastFixedCaption; ++number)
+            if (state_.text(static_cast<Caption>(number)).isEmpty())
                 complain({state_.AppPath + u"Data/Language.txt"_s}, u"number"_s,
                          u"no caption %1"_s.arg(number));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Caption.h"
 #include "base/IndexedTable.h"
 #include "world/Campaign.h"
 #include "world/Profession.h"
@@ -16,8 +17,8 @@ struct World {
     IndexedTable<Campaign> Campaigns;
     IndexedTable<Profession> Professions;
 
-    // The caption or message of that number; empty when the language file lacks it.
-    QString text(int number) const { return LanguageTable.has(number) ? LanguageTable[number] : QString(); }
+    // Empty for a caption below 201 that the language file lacks.
+    QString text(Caption caption) const;
 };
 
 } // namespace orvinel

@@ -104,7 +104,7 @@ QString campaignName(const World& state, int campaign) {
 }
 
 std::vector<ListEntry> campaignEntries(const World& state) {
-    std::vector<ListEntry> entries = {{pinnedText(state.text(9)), -1}};
+    std::vector<ListEntry> entries = {{pinnedText(state.text(Caption::All)), -1}};
     for (int n = 0; n <= state.Campaigns.highest(); ++n)
         if (!state.Campaigns[n].CampaignName.isEmpty())
             entries.push_back({state.Campaigns[n].CampaignName, n});
@@ -112,7 +112,7 @@ std::vector<ListEntry> campaignEntries(const World& state) {
 }
 
 std::vector<ListEntry> regionEntries(const World& state, int campaign) {
-    std::vector<ListEntry> entries = {{pinnedText(state.text(9)), 0}};
+    std::vector<ListEntry> entries = {{pinnedText(state.text(Caption::All)), 0}};
     for (const int r : regionOrder(state, campaign))
         entries.push_back({regionName(state, campaign, r), r});
     return entries;

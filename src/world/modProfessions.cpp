@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int noAttributeText = 45;
+constexpr Caption noAttributeText = Caption::NoAttribute;
 
 void loadProfessions(World& state, const QString& path, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, path, complaints);
@@ -41,7 +41,7 @@ void LoadProfessions(World& state, const Disk& disk, Complaints* complaints) {
         loadProfessions(state, campaignFolder(state, n) + u"/Professions.txt"_s, disk, complaints);
 }
 
-std::vector<ListEntry> professionEntries(const World& state, int pinned) {
+std::vector<ListEntry> professionEntries(const World& state, Caption pinned) {
     std::vector<ListEntry> entries;
     for (int p = 1; p <= state.Professions.highest(); ++p)
         entries.push_back({state.Professions[p].Name, p});
@@ -51,7 +51,7 @@ std::vector<ListEntry> professionEntries(const World& state, int pinned) {
 }
 
 std::vector<ListEntry> attributeEntries(const World& state, int profession) {
-    std::vector<ListEntry> entries = {{pinnedText(state.text(9)), 0}};
+    std::vector<ListEntry> entries = {{pinnedText(state.text(Caption::All)), 0}};
     if (profession < 1 || !state.Professions.has(profession))
         return entries;
     for (const QString& attribute : state.Professions[profession].Attributes)

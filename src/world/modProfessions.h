@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Colour.h"
+#include "base/Caption.h"
 #include "base/Complaints.h"
 #include "base/Disk.h"
 #include "base/Listing.h"
@@ -22,8 +22,8 @@ inline constexpr int noAttributeData = 99;
 void LoadProfessions(World& state, const Disk& disk, Complaints* complaints = nullptr);
 
 // Entries of cmbProfession and cmbSecondaryProfession: pinned, then by name, gaps in the numbers as empty
-// texts. `pinned` is the language entry of the first one.
-std::vector<ListEntry> professionEntries(const World& state, int pinned);
+// texts. `pinned` is the text of the first one.
+std::vector<ListEntry> professionEntries(const World& state, Caption pinned);
 
 // Entries of cmbAttribute; only the pinned one when `profession` is below 1 or unknown.
 std::vector<ListEntry> attributeEntries(const World& state, int profession);

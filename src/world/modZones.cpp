@@ -134,7 +134,7 @@ std::vector<ListEntry> zoneEntries(const World& state, int campaign, int region)
         for (int z = 1; z <= found->RegionZones.count(); ++z)
             entries.push_back({found->RegionZones[z].ZoneName, z});
     sortAlphabetically(entries);
-    entries.insert(entries.begin(), {pinnedText(state.text(9)), 0});
+    entries.insert(entries.begin(), {pinnedText(state.text(Caption::All)), 0});
     return entries;
 }
 

@@ -30,11 +30,11 @@ TEST_F(World, languageLinesGiveTheirFirstTwoFields) {
     disk.put(u"/o/data/language.TXT"_s, "5\tfive\textra\r\n2\ttwo\\nlines\r\n\r\nnothing\r\n2.4\tround\r\n");
     ASSERT_TRUE(LoadLanguage(state, disk));
     EXPECT_EQ(5, state.LanguageTable.highest());
-    EXPECT_EQ(u"five"_s, state.text(5));
-    EXPECT_EQ(u"round"_s, state.text(2));
-    EXPECT_EQ(QString(), state.text(4));
-    EXPECT_EQ(QString(), state.text(900));
-    EXPECT_EQ(u"A title cannot begin with a semicolon (;)."_s, ownText(state, OwnText::TitleIsComment));
+    EXPECT_EQ(u"five"_s, state.text(Caption::Profession));
+    EXPECT_EQ(u"round"_s, state.text(Caption::Campaign));
+    EXPECT_EQ(QString(), state.text(Caption::AnyCharacter));
+    EXPECT_EQ(QString(), state.text(Caption::PetLocations)); // beyond the table
+    EXPECT_EQ(u"A title cannot begin with a semicolon (;)."_s, state.text(Caption::TitleIsComment));
 }
 
 TEST_F(World, anEmptyLanguageFileIsAMissingOne) {
@@ -118,7 +118,7 @@ TEST_F(World, laterProfessionsReplaceEarlierOnes) {
     EXPECT_EQ(
         (std::vector<ListEntry>{
             {u"<<< None >>>"_s, 0}, {u""_s, 1}, {u""_s, 3}, {u""_s, 4}, {u"Bard"_s, 5}, {u"Sage"_s, 2}}),
-        professionEntries(state, 96));
+        professionEntries(state, Caption::None));
     EXPECT_EQ((std::vector<ListEntry>{{u"<<< All >>>"_s, 0}, {u"Air"_s, 1}, {u"No attribute"_s, 99}}),
               attributeEntries(state, 2));
     EXPECT_EQ(1u, attributeEntries(state, 0).size());

@@ -76,8 +76,7 @@ TEST_F(MarkElite, refusesASkillWhoseNumberTheFileCannotHold) {
     state.EliteSkills.grow(10002);
     open(10002, 1);
     save().click();
-    EXPECT_EQ(u"message Critical Orvinel|"_s + ownText(state, OwnText::SkillNumberTooLarge),
-              desktop.log.last());
+    EXPECT_EQ(u"message Critical Orvinel|"_s + state.text(Caption::SkillNumberTooLarge), desktop.log.last());
     EXPECT_TRUE(dialog.isVisible());
 }
 
@@ -184,8 +183,7 @@ TEST_F(ManageCharacter, leavesASkillUncheckedWhoseNumberTheFileCannotHold) {
     ASSERT_EQ(10000, skills().selectedEntry().data);
     QTest::keyClick(&skills(), Qt::Key_Space);
     EXPECT_FALSE(skills().isChecked(skills().selectedIndex()));
-    EXPECT_EQ(u"message Critical Orvinel|"_s + ownText(state, OwnText::SkillNumberTooLarge),
-              desktop.log.last());
+    EXPECT_EQ(u"message Critical Orvinel|"_s + state.text(Caption::SkillNumberTooLarge), desktop.log.last());
     press("cmdSelectAll");
     EXPECT_FALSE(checks().back());
     EXPECT_TRUE(checks().front());
@@ -250,8 +248,7 @@ TEST_F(CharacterList, refusesAHundredthCharacter) {
     for (int n = 4; n <= 99; ++n)
         state.Characters.append(u"Nobody %1"_s.arg(n));
     button(dialog, "cmdCreate").click();
-    EXPECT_EQ(u"message Critical Orvinel|"_s + ownText(state, OwnText::TooManyCharacters),
-              desktop.log.last());
+    EXPECT_EQ(u"message Critical Orvinel|"_s + state.text(Caption::TooManyCharacters), desktop.log.last());
     EXPECT_FALSE(QApplication::activeModalWidget());
 }
 

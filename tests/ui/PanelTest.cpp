@@ -160,7 +160,7 @@ TEST_F(PanelTest, aLayersBoxSwitchesItsBlinkingAndRedraws) {
 TEST_F(PanelTest, aFilterRefillsItsListAndEmptiesThePlacesUnlessThePanelIsNotReady) {
     startPanel();
     ElitePage& page = panel->elitePage();
-    const frmMenu::Refill refill{*page.lstElite, *page.lblTot, 32, [] {
+    const frmMenu::Refill refill{*page.lstElite, *page.lblTot, Caption::EliteSkills, [] {
                                      return std::vector<ListEntry>{{u"x"_s, 5}};
                                  }};
     page.lstLocations->setEntries({{u"somewhere"_s, 1}});

@@ -167,7 +167,7 @@ TEST_F(ShippedWorld, givesEveryCollectorFilterHitsAndMisses) {
         expectReward([&](const SourceReward& reward) { return (reward.hands & hand) != 0; },
                      "hand " + std::to_string(hand));
     }
-    QStringList words{state.text(45)};
+    QStringList words{state.text(orvinel::Caption::NoAttribute)};
     for (const SourceProfession& profession : source.professions) {
         words += profession.attributes;
     }

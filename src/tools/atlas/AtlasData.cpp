@@ -93,7 +93,7 @@ QJsonObject scriptTexts(const ProgramState& state) {
             {u"zoomIn"_s, own(AtlasText::ZoomIn)},
             {u"zoomOut"_s, own(AtlasText::ZoomOut)},
             {u"map"_s, own(AtlasText::Map)},
-            {u"close"_s, state.text(103)}};
+            {u"close"_s, state.text(Caption::CloseWindow)}};
 }
 
 // The rows of the search. A row: kind, name, what is said beside it, region (-1: none), x, y, zone, further
@@ -174,7 +174,9 @@ class SearchRows {
 
 QJsonArray kindNames(const ProgramState& state) {
     QJsonArray names;
-    for (const int caption : {32, 33, 59, 48, 44, 83, 114, 41, 65})
+    for (const Caption caption :
+         {Caption::EliteSkills, Caption::Boss, Caption::GreenItems, Caption::Reward, Caption::Collectors,
+          Caption::Treasures, Caption::Pets, Caption::Zone, Caption::Notes})
         names.append(state.text(caption));
     return names;
 }

@@ -135,7 +135,7 @@ class Maker {
         if (tip.skillShown)
             place.parts.push_back(skillPart(id, tip));
         if (!tip.note.isEmpty())
-            place.parts.push_back({Kind::Text, state_.text(40), {}, linesOf(tip.note), {}});
+            place.parts.push_back({Kind::Text, state_.text(Caption::BossNote), {}, linesOf(tip.note), {}});
         for (const int green : at.Greens)
             place.parts.push_back(
                 {Kind::Green, state_.GreenItems[green].Name, {}, filled(state_.GreenItems[green].Stats), {}});
@@ -164,15 +164,15 @@ class Maker {
             if (!value.isEmpty())
                 part.facts.emplace_back(name, value);
         };
-        fact(state_.text(5), professionOf(state_, state_.EliteSkills[id].Profession).Name);
-        fact(state_.text(53), tip.attribute);
-        fact(state_.text(10), tip.type);
-        fact(state_.text(2), tip.campaign);
-        fact(ownText(state_, OwnText::Upkeep), tip.upkeep.value_or(QString()));
-        fact(ownText(state_, OwnText::Adrenaline), tip.adrenaline.value_or(QString()));
-        fact(ownText(state_, OwnText::Energy), tip.energy.value_or(QString()));
-        fact(ownText(state_, OwnText::CastTime), tip.castTime.value_or(QString()));
-        fact(ownText(state_, OwnText::Recharge), tip.recharge.value_or(QString()));
+        fact(state_.text(Caption::Profession), professionOf(state_, state_.EliteSkills[id].Profession).Name);
+        fact(state_.text(Caption::Attribute), tip.attribute);
+        fact(state_.text(Caption::Type), tip.type);
+        fact(state_.text(Caption::Campaign), tip.campaign);
+        fact(state_.text(Caption::Upkeep), tip.upkeep.value_or(QString()));
+        fact(state_.text(Caption::Adrenaline), tip.adrenaline.value_or(QString()));
+        fact(state_.text(Caption::Energy), tip.energy.value_or(QString()));
+        fact(state_.text(Caption::CastTime), tip.castTime.value_or(QString()));
+        fact(state_.text(Caption::Recharge), tip.recharge.value_or(QString()));
         return part;
     }
 
@@ -185,12 +185,12 @@ class Maker {
             place.layer = AtlasLayer::Collectors;
             place.name = collector.Name;
             place.sprite = collector.IsArmour ? Sprite::CollArmature : Sprite::CollArmi;
-            place.parts = {
-                {Kind::Text,
-                 {},
-                 {},
-                 {},
-                 {{state_.text(46), collector.Request}, {state_.text(49), collector.LocationText}}}};
+            place.parts = {{Kind::Text,
+                            {},
+                            {},
+                            {},
+                            {{state_.text(Caption::CollectsChoice), collector.Request},
+                             {state_.text(Caption::Location), collector.LocationText}}}};
             for (const CollectorObject& object : collector.Objects)
                 place.parts.push_back({Kind::Reward, object.Name, {}, filled(object.Stats), {}});
             add(collector.Location, std::move(place));
@@ -267,7 +267,9 @@ Atlas makeAtlas(const ProgramState& state, const AtlasChoice& choice,
 QString layerName(const ProgramState& state, AtlasLayer layer) {
     if (layer == AtlasLayer::Zones)
         return atlasText(state, AtlasText::Zones);
-    constexpr std::array captions = {41, 32, 59, 44, 83, 114, 65};
+    constexpr std::array captions = {Caption::Zone,       Caption::EliteSkills, Caption::GreenItems,
+                                     Caption::Collectors, Caption::Treasures,   Caption::Pets,
+                                     Caption::Notes};
     return state.text(captions[static_cast<size_t>(layer)]);
 }
 

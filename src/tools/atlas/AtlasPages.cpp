@@ -125,7 +125,7 @@ QByteArray startPage(const ProgramState& state, const Atlas& atlas) {
         u"</p></noscript>\n<section id=\"mappart\" class=\"scripted\" aria-label=\""_s + own(AtlasText::Map) +
         u"\">\n<div id=\"map\"></div>\n<p id=\"message\" role=\"status\"></p>\n</section>\n"
         "<section id=\"lists\" tabindex=\"-1\">\n<div class=\"scripted\">\n<h2 class=\"field\"><label for=\"region\">"_s +
-        safeHtml(state.text(3)) +
+        safeHtml(state.text(Caption::Region)) +
         u"</label></h2>\n<select id=\"region\"></select>\n<fieldset id=\"layers\"><legend>"_s +
         own(AtlasText::Layers) + u"</legend></fieldset>\n<h2>"_s + own(AtlasText::InThisRegion) +
         u"</h2>\n<div id=\"here\"></div>\n</div>\n<nav aria-labelledby=\"reading\">\n<h2 id=\"reading\">"_s +

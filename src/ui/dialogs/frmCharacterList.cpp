@@ -27,7 +27,7 @@ constexpr QRect cancelAt{230, 217, 79, 31};
 
 frmCharacterList::frmCharacterList(DialogContext context, QWidget* owner)
     : Dialog(u"frmCharacterList"_s, client, context, owner) {
-    setWindowTitle(state().text(13));
+    setWindowTitle(state().text(Caption::Characters));
     addControls();
     connect(lstCharacters_, &ListBox::picked, this, [this] {
         cmdModify_->setEnabled(true);
@@ -40,12 +40,12 @@ frmCharacterList::frmCharacterList(DialogContext context, QWidget* owner)
 }
 
 void frmCharacterList::addControls() {
-    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(14));
-    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(14));
-    cmdCreate_ = addButton(u"cmdCreate"_s, createAt, state().text(15));
-    cmdModify_ = addButton(u"cmdModify"_s, modifyAt, state().text(16));
-    cmdDelete_ = addButton(u"cmdDelete"_s, deleteAt, state().text(17));
-    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(18));
+    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(Caption::MyCharacters));
+    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(Caption::MyCharacters));
+    cmdCreate_ = addButton(u"cmdCreate"_s, createAt, state().text(Caption::NewCharacterButton));
+    cmdModify_ = addButton(u"cmdModify"_s, modifyAt, state().text(Caption::EditCharacter));
+    cmdDelete_ = addButton(u"cmdDelete"_s, deleteAt, state().text(Caption::DeleteCharacter));
+    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     connect(cmdCancel, &QPushButton::clicked, this, &frmCharacterList::reject);
 }
 
@@ -64,7 +64,7 @@ void frmCharacterList::fillCharacters() {
 
 void frmCharacterList::create() {
     if (freeCharacterNumber(state()) > mostCharacters)
-        tellProblem(ownText(state(), OwnText::TooManyCharacters));
+        tellProblem(state().text(Caption::TooManyCharacters));
     else
         edit(-1);
 }
@@ -82,7 +82,7 @@ void frmCharacterList::edit(int number) {
 
 void frmCharacterList::remove() {
     const ListEntry character = lstCharacters_->selectedEntry();
-    const QString question = state().text(19) + u' ' + character.text + u" ?"_s;
+    const QString question = state().text(Caption::DeleteCharacterQuestion) + u' ' + character.text + u" ?"_s;
     if (!desktop().ask(MessageIcon::None, programName(), question))
         return;
     saveAndTell(state(), desktop(), [&](bool evenIfChanged) {

@@ -18,8 +18,8 @@ constexpr QSize clientSize(514, 253);
 constexpr QRect creditsPlace(4, 6, 507, 205);
 constexpr QRect cancelPlace(430, 216, 79, 31);
 
-constexpr int windowCaption = 102;
-constexpr int closeCaption = 103;
+constexpr Caption windowCaption = Caption::CreditsTitle;
+constexpr Caption closeCaption = Caption::CloseWindow;
 
 } // namespace
 

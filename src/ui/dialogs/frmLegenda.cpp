@@ -36,8 +36,8 @@ constexpr int textIndent = 15;
 constexpr int codeLeft = 4;
 constexpr int greenTextShift = 14;
 
-constexpr int legendCaption = 30;
-constexpr int closeCaption = 103;
+constexpr Caption legendCaption = Caption::Legend;
+constexpr Caption closeCaption = Caption::CloseWindow;
 constexpr Colour bandBlue = 0xFF0000;
 constexpr Colour white = 0xFFFFFF;
 constexpr Colour lightGrey = 0xF0F0F0;
@@ -46,7 +46,7 @@ enum class Symbol { Code, NoBoss, Green, Picture };
 
 struct LegendRow {
     const char* Code;
-    int text; // language entry
+    Caption text;
     int OffsetY;
     Symbol symbol;
     Sprite sprite;
@@ -54,18 +54,18 @@ struct LegendRow {
 };
 
 constexpr std::array<LegendRow, 12> legendRows = {{
-    {"?", 34, 0, Symbol::Code, Sprite::Count, 0},
-    {"1", 35, 0, Symbol::Code, Sprite::Count, 0},
-    {"a", 36, 0, Symbol::Code, Sprite::Count, 0},
-    {"P", 37, 0, Symbol::Code, Sprite::Count, 0},
-    {"C", 38, 0, Symbol::Code, Sprite::Count, 0},
-    {"D", 39, 0, Symbol::Code, Sprite::Count, 0},
-    {"noBoss", 60, 0, Symbol::NoBoss, Sprite::Count, 0},
-    {"Green", 61, 3, Symbol::Green, Sprite::GreenMarker, 11},
-    {"Coll1", 51, 6, Symbol::Picture, Sprite::CollArmi, 1},
-    {"Coll2", 52, 6, Symbol::Picture, Sprite::CollArmature, 1},
-    {"Notes", 73, 9, Symbol::Picture, Sprite::Note, -1},
-    {"Treas", 83, 12, Symbol::Picture, Sprite::Treasure, -1},
+    {"?", Caption::PlaceUncertain, 0, Symbol::Code, Sprite::Count, 0},
+    {"1", Caption::AppearsOnce, 0, Symbol::Code, Sprite::Count, 0},
+    {"a", Caption::OneOfSeveralPlaces, 0, Symbol::Code, Sprite::Count, 0},
+    {"P", Caption::WalksPatrol, 0, Symbol::Code, Sprite::Count, 0},
+    {"C", Caption::InChallenge, 0, Symbol::Code, Sprite::Count, 0},
+    {"D", Caption::InDungeon, 0, Symbol::Code, Sprite::Count, 0},
+    {"noBoss", Caption::BossWithoutSkill, 0, Symbol::NoBoss, Sprite::Count, 0},
+    {"Green", Caption::BossWithGreenItem, 3, Symbol::Green, Sprite::GreenMarker, 11},
+    {"Coll1", Caption::WeaponsAndTools, 6, Symbol::Picture, Sprite::CollArmi, 1},
+    {"Coll2", Caption::Armour, 6, Symbol::Picture, Sprite::CollArmature, 1},
+    {"Notes", Caption::YourNote, 9, Symbol::Picture, Sprite::Note, -1},
+    {"Treas", Caption::Treasures, 12, Symbol::Picture, Sprite::Treasure, -1},
 }};
 
 // The professions of the second column; the first has as many or one less.

@@ -40,8 +40,8 @@ int filterOf(const ListBox& list) {
 
 frmManageCharacter::frmManageCharacter(DialogContext context, QWidget* owner)
     : Dialog(u"frmManageCharacter"_s, client, context, owner) {
-    addLabel(u"lblName"_s, nameLabelAt, state().text(23));
-    txtName_ = new TextField(u"txtName"_s, state().text(23), this);
+    addLabel(u"lblName"_s, nameLabelAt, state().text(Caption::CharacterName));
+    txtName_ = new TextField(u"txtName"_s, state().text(Caption::CharacterName), this);
     txtName_->setGeometry(nameAt);
     addFilters();
     addSkills();
@@ -49,20 +49,20 @@ frmManageCharacter::frmManageCharacter(DialogContext context, QWidget* owner)
 }
 
 void frmManageCharacter::addFilters() {
-    addLabel(u"lblCampaign"_s, campaignLabelAt, state().text(2));
-    lstCampaign_ = addList(u"lstCampaign"_s, campaignAt, state().text(2));
-    addLabel(u"lblProfession"_s, professionLabelAt, state().text(31));
-    lstProfession_ = addList(u"lstProfession"_s, professionAt, state().text(31));
+    addLabel(u"lblCampaign"_s, campaignLabelAt, state().text(Caption::Campaign));
+    lstCampaign_ = addList(u"lstCampaign"_s, campaignAt, state().text(Caption::Campaign));
+    addLabel(u"lblProfession"_s, professionLabelAt, state().text(Caption::EditorProfession));
+    lstProfession_ = addList(u"lstProfession"_s, professionAt, state().text(Caption::EditorProfession));
     connect(lstCampaign_, &ListBox::picked, this, &frmManageCharacter::fillSkills);
     connect(lstProfession_, &ListBox::picked, this, &frmManageCharacter::fillSkills);
 }
 
 void frmManageCharacter::addSkills() {
-    addLabel(u"lblEliteList"_s, skillsLabelAt, state().text(22));
-    lstElite_ = addList(u"lstElite"_s, skillsAt, state().text(22));
-    auto* cmdSelectAll = addButton(u"cmdSelectAll"_s, selectAllAt, state().text(24));
-    auto* cmdDeselectAll = addButton(u"cmdDeselectAll"_s, deselectAllAt, state().text(25));
-    auto* cmdInvertSelection = addButton(u"cmdInvertSelection"_s, invertAt, state().text(26));
+    addLabel(u"lblEliteList"_s, skillsLabelAt, state().text(Caption::CapturedEliteSkills));
+    lstElite_ = addList(u"lstElite"_s, skillsAt, state().text(Caption::CapturedEliteSkills));
+    auto* cmdSelectAll = addButton(u"cmdSelectAll"_s, selectAllAt, state().text(Caption::SelectAll));
+    auto* cmdDeselectAll = addButton(u"cmdDeselectAll"_s, deselectAllAt, state().text(Caption::ClearAll));
+    auto* cmdInvertSelection = addButton(u"cmdInvertSelection"_s, invertAt, state().text(Caption::Invert));
     connect(lstElite_, &ListBox::checkToggled, this, &frmManageCharacter::toggle);
     connect(cmdSelectAll, &QPushButton::clicked, this, [this] { selectAll(true); });
     connect(cmdDeselectAll, &QPushButton::clicked, this, [this] { selectAll(false); });
@@ -70,8 +70,8 @@ void frmManageCharacter::addSkills() {
 }
 
 void frmManageCharacter::addEnd() {
-    auto* cmdSave = addButton(u"cmdSave"_s, saveAt, state().text(27));
-    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(18));
+    auto* cmdSave = addButton(u"cmdSave"_s, saveAt, state().text(Caption::Save));
+    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     cmdSave->setDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, &frmManageCharacter::save);
     connect(cmdCancel, &QPushButton::clicked, this, &frmManageCharacter::reject);
@@ -79,7 +79,7 @@ void frmManageCharacter::addEnd() {
 
 void frmManageCharacter::load() {
     const QString name = character_ >= 1 ? state().Characters[character_] : QString();
-    setWindowTitle(character_ >= 1 ? name : state().text(21));
+    setWindowTitle(character_ >= 1 ? name : state().text(Caption::NewCharacter));
     selection_ = characterSelection(state(), character_);
     lstCampaign_->setEntries(campaignEntries(state()));
     lstProfession_->setEntries(editorProfessionEntries(state()));
@@ -109,7 +109,7 @@ void frmManageCharacter::toggle(int index, bool on) {
         return;
     }
     showChecks();
-    tellProblem(ownText(state(), OwnText::SkillNumberTooLarge));
+    tellProblem(state().text(Caption::SkillNumberTooLarge));
 }
 
 void frmManageCharacter::selectAll(bool selected) {
@@ -125,12 +125,12 @@ void frmManageCharacter::invert() {
 bool frmManageCharacter::checkEntries() {
     const NameProblem problem = checkName(state(), txtName_->line(), character_);
     if (problem != NameProblem::None) {
-        tellProblem(state().text(problem == NameProblem::Empty ? 28 : 29));
+        tellProblem(state().text(problem == NameProblem::Empty ? Caption::NameMissing : Caption::NameTaken));
         txtName_->setFocus();
         return false;
     }
     if (character_ < 1 && freeCharacterNumber(state()) > mostCharacters) {
-        tellProblem(ownText(state(), OwnText::TooManyCharacters));
+        tellProblem(state().text(Caption::TooManyCharacters));
         return false;
     }
     return true;

@@ -30,18 +30,18 @@ constexpr QRect cancelAt{230, 288, 79, 31};
 
 frmManageNote::frmManageNote(DialogContext context, QWidget* owner)
     : Dialog(u"frmManageNote"_s, client, context, owner) {
-    setWindowTitle(state().text(65));
-    addLabel(u"lblShortDesc"_s, titleLabelAt, state().text(69));
-    txtShortDesc_ = new TextField(u"txtShortDesc"_s, state().text(69), this);
+    setWindowTitle(state().text(Caption::Notes));
+    addLabel(u"lblShortDesc"_s, titleLabelAt, state().text(Caption::NoteTitle));
+    txtShortDesc_ = new TextField(u"txtShortDesc"_s, state().text(Caption::NoteTitle), this);
     txtShortDesc_->setGeometry(titleAt);
-    addLabel(u"lblNoteBody"_s, bodyLabelAt, state().text(70));
+    addLabel(u"lblNoteBody"_s, bodyLabelAt, state().text(Caption::NoteText));
     txtBody_ = new QPlainTextEdit(this);
     txtBody_->setObjectName(u"txtBody"_s);
-    txtBody_->setAccessibleName(state().text(70));
+    txtBody_->setAccessibleName(state().text(Caption::NoteText));
     txtBody_->setGeometry(bodyAt);
     txtBody_->setTabChangesFocus(true);
-    auto* cmdSave = addButton(u"cmdSave"_s, saveAt, state().text(27));
-    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(18));
+    auto* cmdSave = addButton(u"cmdSave"_s, saveAt, state().text(Caption::Save));
+    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     cmdSave->setDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, &frmManageNote::save);
     connect(cmdCancel, &QPushButton::clicked, this, &frmManageNote::reject);
@@ -65,8 +65,8 @@ bool frmManageNote::checkTitle() {
     const NoteProblem problem = checkNote(txtShortDesc_->line());
     if (problem == NoteProblem::None)
         return true;
-    tellProblem(problem == NoteProblem::EmptyTitle ? state().text(71)
-                                                   : ownText(state(), OwnText::TitleIsComment));
+    tellProblem(problem == NoteProblem::EmptyTitle ? state().text(Caption::TitleMissing)
+                                                   : state().text(Caption::TitleIsComment));
     txtShortDesc_->setFocus();
     return false;
 }

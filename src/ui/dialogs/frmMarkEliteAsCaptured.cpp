@@ -29,12 +29,13 @@ constexpr QRect cancelAt{230, 208, 79, 31};
 frmMarkEliteAsCaptured::frmMarkEliteAsCaptured(DialogContext context, std::function<void()> refilter,
                                                QWidget* owner)
     : Dialog(u"frmMarkEliteAsCaptured"_s, client, context, owner), refilter_(std::move(refilter)) {
-    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(13));
-    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(13));
-    addLabel(u"lblExplanation"_s, explanationAt, state().text(43))->setWrapWidth(explanationWidth);
-    lstCharacters_->setAccessibleDescription(state().text(43));
-    cmdSave_ = addButton(u"cmdSave"_s, saveAt, state().text(42));
-    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(18));
+    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(Caption::Characters));
+    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(Caption::Characters));
+    addLabel(u"lblExplanation"_s, explanationAt, state().text(Caption::ChooseCapturer))
+        ->setWrapWidth(explanationWidth);
+    lstCharacters_->setAccessibleDescription(state().text(Caption::ChooseCapturer));
+    cmdSave_ = addButton(u"cmdSave"_s, saveAt, state().text(Caption::Captured));
+    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     cmdSave_->setDefault(true);
     connect(lstCharacters_, &ListBox::picked, this, [this] { cmdSave_->setEnabled(true); });
     connect(cmdSave_, &QPushButton::clicked, this, &frmMarkEliteAsCaptured::save);
@@ -56,7 +57,7 @@ void frmMarkEliteAsCaptured::fillCharacters() {
 
 void frmMarkEliteAsCaptured::save() {
     if (!isMarkable(skill_)) {
-        tellProblem(ownText(state(), OwnText::SkillNumberTooLarge));
+        tellProblem(state().text(Caption::SkillNumberTooLarge));
         return;
     }
     // The panel stays usable beside this dialog: the character may have been deleted meanwhile.

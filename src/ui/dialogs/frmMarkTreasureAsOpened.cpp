@@ -34,17 +34,18 @@ frmMarkTreasureAsOpened::frmMarkTreasureAsOpened(DialogContext context, std::fun
                                                  QWidget* owner)
     : Dialog(u"frmMarkTreasureAsOpened"_s, client, context, owner), refilter_(std::move(refilter)),
       order_(detectDateOrder(desktop().shortDate(QDate(2011, 10, 16)))) {
-    setWindowTitle(state().text(105));
-    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(13));
-    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(13));
-    addLabel(u"lblExplanation"_s, explanationAt, state().text(86))->setWrapWidth(explanationWidth);
-    lstCharacters_->setAccessibleDescription(state().text(86));
+    setWindowTitle(state().text(Caption::TreasureOpened));
+    addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(Caption::Characters));
+    lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(Caption::Characters));
+    addLabel(u"lblExplanation"_s, explanationAt, state().text(Caption::ChooseOpener))
+        ->setWrapWidth(explanationWidth);
+    lstCharacters_->setAccessibleDescription(state().text(Caption::ChooseOpener));
     addDate();
     LayoutDateBoxes();
-    cmdSave_ = addButton(u"cmdSave"_s, saveAt, state().text(92));
+    cmdSave_ = addButton(u"cmdSave"_s, saveAt, state().text(Caption::OpenedOn));
     cmdSave_->setDefault(true);
     cmdSave_->setEnabled(false);
-    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(18));
+    auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     for (DateBox* box : txtDate_)
         connect(box, &DateBox::textChanged, this, &frmMarkTreasureAsOpened::UpdateSaveCaption);
     connect(lstCharacters_, &ListBox::picked, this, [this] { cmdSave_->setEnabled(true); });
@@ -55,7 +56,7 @@ frmMarkTreasureAsOpened::frmMarkTreasureAsOpened(DialogContext context, std::fun
 void frmMarkTreasureAsOpened::addDate() {
     for (size_t k = 0; k < txtDate_.size(); ++k) {
         txtDate_[k] = new DateBox(u"txtDate(%1)"_s.arg(k), this);
-        txtDate_[k]->setPart(order_[k], state().text(90) + u' ' + tagOf(order_[k]));
+        txtDate_[k]->setPart(order_[k], state().text(Caption::Date) + u' ' + tagOf(order_[k]));
     }
     for (size_t k = 0; k < lblSeparatore_.size(); ++k)
         lblSeparatore_[k] = addLabel(u"lblSeparatore(%1)"_s.arg(k), {}, u"-"_s);
@@ -83,7 +84,7 @@ void frmMarkTreasureAsOpened::load() {
 
 void frmMarkTreasureAsOpened::UpdateSaveCaption() {
     const QStringList texts{txtDate_[0]->text(), txtDate_[1]->text(), txtDate_[2]->text()};
-    setCaption(*cmdSave_, state().text(92) + u' ' + texts.join(u'-'));
+    setCaption(*cmdSave_, state().text(Caption::OpenedOn) + u' ' + texts.join(u'-'));
 }
 
 DateFields frmMarkTreasureAsOpened::fields() const {
@@ -98,7 +99,7 @@ DateFields frmMarkTreasureAsOpened::fields() const {
 void frmMarkTreasureAsOpened::save() {
     const std::optional<QDate> date = enteredDate(fields());
     if (!date) {
-        tellProblem(state().text(104));
+        tellProblem(state().text(Caption::InvalidDate));
         return;
     }
     const ChestOpening opening{treasure_, lstCharacters_->selectedEntry().data, *date};

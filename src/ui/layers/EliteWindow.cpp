@@ -66,23 +66,24 @@ EliteWindow::EliteWindow(const ProgramState& state, frmMap& map)
     : InformationWindow(u"picExtToolTip"_s, windowWidth, map.picMap()), frame_(map),
       lblExtEliteName_(informationLabel(u"lblExtEliteName"_s, arial(points10, true), white, *this)),
       imgExtElite_(informationPicture(u"imgExtElite"_s, picturePlace, *this)),
-      type_(makeRow("Type", state.text(10), rowTop)),
-      attribute_(makeRow("Attribute", state.text(53), rowTop + rowStep)),
-      campaign_(makeRow("Campaign", state.text(2), rowTop + 2 * rowStep)),
-      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep", ownText(state, OwnText::Upkeep))),
-      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline", ownText(state, OwnText::Adrenaline))),
-      energy_(makeCost("imgExtEnergy", "lblExtEnergy", ownText(state, OwnText::Energy))),
-      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime", ownText(state, OwnText::Recharge))),
-      cast_(makeCost("imgExtCast", "lblExtCastTime", ownText(state, OwnText::CastTime))),
+      type_(makeRow("Type", state.text(Caption::Type), rowTop)),
+      attribute_(makeRow("Attribute", state.text(Caption::Attribute), rowTop + rowStep)),
+      campaign_(makeRow("Campaign", state.text(Caption::Campaign), rowTop + 2 * rowStep)),
+      upkeep_(makeCost("imgExtUpKeep", "lblExtUpKeep", state.text(Caption::Upkeep))),
+      adrenaline_(makeCost("imgExtAdrenaline", "lblExtAdrenaline", state.text(Caption::Adrenaline))),
+      energy_(makeCost("imgExtEnergy", "lblExtEnergy", state.text(Caption::Energy))),
+      recharge_(makeCost("imgExtRecharge", "lblExtRechargeTime", state.text(Caption::Recharge))),
+      cast_(makeCost("imgExtCast", "lblExtCastTime", state.text(Caption::CastTime))),
       lblExtDescription_(informationLabel(u"lblExtDescription"_s, arial(points8_25), white, *this)),
-      boss_(makeRow("Boss", state.text(33), 0)), zone_(makeRow("Zone", state.text(41), 0)),
+      boss_(makeRow("Boss", state.text(Caption::Boss), 0)),
+      zone_(makeRow("Zone", state.text(Caption::Zone), 0)),
       lblExtCaptionNote_(informationLabel(u"lblExtCaptionNote"_s, arial(points8_25), captionColour, *this)),
       lblExtNote_(informationLabel(u"lblExtNote"_s, arial(points8_25), white, *this)) {
     lblExtEliteName_->move(left, nameTop);
     lblExtEliteName_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblExtDescription_->move(left, descriptionTop);
     lblExtDescription_->setWrapWidth(textWidth);
-    lblExtCaptionNote_->setCaption(state.text(40));
+    lblExtCaptionNote_->setCaption(state.text(Caption::BossNote));
     lblExtNote_->setWrapWidth(textWidth);
     boss_.value->setFont(arial(points8_25, true));
     boss_.value->setColour(bossColour);

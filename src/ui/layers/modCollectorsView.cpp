@@ -13,9 +13,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int listCaption = 44;
-constexpr int locationCaption = 49;
-constexpr int requestCaption = 50;
+constexpr Caption listCaption = Caption::Collectors;
+constexpr Caption locationCaption = Caption::Location;
+constexpr Caption requestCaption = Caption::Collects;
 constexpr size_t bandColour = 1; // of TabColors
 
 constexpr int width = 290;

@@ -11,7 +11,7 @@ namespace orvinel {
 
 namespace {
 
-constexpr int countCaption = 32;
+constexpr Caption countCaption = Caption::EliteSkills;
 constexpr int extentBeyondText = 4; // pixels
 
 int widestText(const std::vector<ListEntry>& entries) {

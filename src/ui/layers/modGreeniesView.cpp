@@ -9,7 +9,7 @@ namespace orvinel {
 
 namespace {
 
-constexpr int countCaption = 59;
+constexpr Caption countCaption = Caption::GreenItems;
 
 } // namespace
 

@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int listCaption = 65;
+constexpr Caption listCaption = Caption::Notes;
 constexpr Colour bandColour = 0xDDDDDD;
 
 constexpr int width = 260;

@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int listCaption = 114;
+constexpr Caption listCaption = Caption::Pets;
 constexpr size_t bandColour = 4; // of TabColors
 
 constexpr QPoint titleAt{14, 5};

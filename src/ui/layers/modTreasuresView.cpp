@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int listCaption = 83;
+constexpr Caption listCaption = Caption::Treasures;
 constexpr size_t bandColour = 4; // of TabColors
 
 constexpr int width = 240;

@@ -16,12 +16,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int regionCaption = 3;
-constexpr int notesCaption = 65;
-constexpr int insertCaption = 66;
-constexpr int editCaption = 67;
-constexpr int deleteCaption = 68;
-constexpr int deleteQuestion = 72;
+constexpr Caption regionCaption = Caption::Region;
+constexpr Caption notesCaption = Caption::Notes;
+constexpr Caption insertCaption = Caption::NewNoteHere;
+constexpr Caption editCaption = Caption::EditNote;
+constexpr Caption deleteCaption = Caption::DeleteNote;
+constexpr Caption deleteQuestion = Caption::DeleteNoteQuestion;
 
 QAction* addEntry(QMenu& menu, const QString& name, const QString& caption) {
     QAction* entry = menu.addAction(verbatim(caption));

@@ -26,7 +26,6 @@ constexpr int margin = 2;    // pixels around picMap
 constexpr int smallest = 80; // 1200 twips, both ways
 constexpr QSize designSize(624 + 2 * margin, 491 + 2 * margin);
 constexpr qint64 cachedBytes = 96ll * 1024 * 1024;
-constexpr int emptyMapTitle = 12;
 
 } // namespace
 
@@ -50,11 +49,11 @@ frmMap::~frmMap() = default;
 void frmMap::buildButtons() {
     const ProgramState& state = with_.state;
     cmdMinimize_ = new PictureButton(u"cmdMinimize"_s, u":/windows/minimize.png"_s,
-                                     ownText(state, OwnText::Minimise), viewport_);
+                                     state.text(Caption::Minimise), viewport_);
     cmdMaximize_ = new PictureButton(u"cmdMaximize"_s, u":/windows/maximize.png"_s,
-                                     ownText(state, OwnText::Maximise), viewport_);
+                                     state.text(Caption::Maximise), viewport_);
     cmdClose_ =
-        new PictureButton(u"cmdClose"_s, u":/windows/close.png"_s, ownText(state, OwnText::Quit), viewport_);
+        new PictureButton(u"cmdClose"_s, u":/windows/close.png"_s, state.text(Caption::Quit), viewport_);
     connect(cmdClose_, &PictureButton::clicked, this, &frmMap::quitWanted);
     connect(cmdMaximize_, &PictureButton::clicked, this, [this] {
         emit maximiseWanted();
@@ -113,7 +112,7 @@ void frmMap::InizializzaVariabili(const QString& picture, int campaign, int regi
 void frmMap::sayWhatIsShown() {
     const ProgramState& state = with_.state;
     viewport_->setAccessibleName(mapLoaded() ? regionName(state, campaign_, region_)
-                                             : state.text(emptyMapTitle));
+                                             : state.text(Caption::EmptyMapTitle));
     viewport_->setAccessibleDescription(mapLoaded() ? campaignName(state, campaign_)
                                                     : byLine() + u'\n' + creditsText());
     setAccessibleName(programName() + u": "_s + viewport_->accessibleName());
@@ -141,7 +140,8 @@ void frmMap::beginRest() {
 void frmMap::showEmptyMap() {
     // Before the first layout nobody can see it.
     if (isVisible())
-        viewport_->setEmptyPicture(drawEmptyMap(viewport_->screenPixels(), with_.state.text(emptyMapTitle)));
+        viewport_->setEmptyPicture(
+            drawEmptyMap(viewport_->screenPixels(), with_.state.text(Caption::EmptyMapTitle)));
 }
 
 void frmMap::CenterMapOn(int x, int y) {

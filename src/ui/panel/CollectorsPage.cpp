@@ -49,21 +49,25 @@ CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(1, parent) {
 }
 
 void CollectorsPage::applyCaptions(const ProgramState& state) {
-    lblCollStuffType->setCaption(state.text(48));
-    lblCollectorLevel->setCaption(state.text(97));
+    lblCollStuffType->setCaption(state.text(Caption::Reward));
+    lblCollectorLevel->setCaption(state.text(Caption::Level));
     for (size_t i = 0; i < 3; ++i) {
-        setOptionCaption(*optCollType[i], state.text(std::array{9, 51, 52}[i]), state.text(48));
-        setOptionCaption(*optCollLevel[i], state.text(std::array{9, 98, 99}[i]), state.text(97));
+        setOptionCaption(*optCollType[i],
+                         state.text(std::array{Caption::All, Caption::WeaponsAndTools, Caption::Armour}[i]),
+                         state.text(Caption::Reward));
+        setOptionCaption(*optCollLevel[i],
+                         state.text(std::array{Caption::All, Caption::HighLevel, Caption::LowLevel}[i]),
+                         state.text(Caption::Level));
     }
-    lblCollRequest->setCaption(state.text(46));
-    lblCollhand->setCaption(state.text(10));
-    lblCollSearch->setCaption(state.text(47));
-    lblCollectors->setCaption(state.text(44));
-    cmbCollHand->setEntries({{pinnedText(state.text(9)), 0},
-                             {state.text(54), 1},
-                             {state.text(55), 2},
-                             {state.text(56), 4},
-                             {state.text(57), 8}});
+    lblCollRequest->setCaption(state.text(Caption::CollectsChoice));
+    lblCollhand->setCaption(state.text(Caption::Type));
+    lblCollSearch->setCaption(state.text(Caption::Search));
+    lblCollectors->setCaption(state.text(Caption::Collectors));
+    cmbCollHand->setEntries({{pinnedText(state.text(Caption::All)), 0},
+                             {state.text(Caption::OneHanded), 1},
+                             {state.text(Caption::TwoHanded), 2},
+                             {state.text(Caption::OffHand), 4},
+                             {state.text(Caption::OtherHand), 8}});
 }
 
 void CollectorsPage::applyColour(Colour colour) {

@@ -38,14 +38,14 @@ ElitePage::ElitePage(QWidget* parent) : TabPage(0, parent) {
 }
 
 void ElitePage::applyCaptions(const ProgramState& state) {
-    setOptionCaption(*optCapture[0], state.text(11), state.text(32));
-    setOptionCaption(*optCapture[1], state.text(6), state.text(32));
-    cmbCharacter->setAccessibleName(state.text(20));
-    cmbCharacter->setAccessibleDescription(state.text(6));
+    setOptionCaption(*optCapture[0], state.text(Caption::AllEliteSkills), state.text(Caption::EliteSkills));
+    setOptionCaption(*optCapture[1], state.text(Caption::MissingFor), state.text(Caption::EliteSkills));
+    cmbCharacter->setAccessibleName(state.text(Caption::Character));
+    cmbCharacter->setAccessibleDescription(state.text(Caption::MissingFor));
     lblSecondaryProfession->setCaption(u"Secondary prof."_s);
-    lblEliteName->setCaption(state.text(7));
-    lblBossName->setCaption(state.text(100));
-    lblLocations->setCaption(state.text(8));
+    lblEliteName->setCaption(state.text(Caption::SkillName));
+    lblBossName->setCaption(state.text(Caption::BossName));
+    lblLocations->setCaption(state.text(Caption::Locations));
 }
 
 void ElitePage::read(EliteChoice& choice) const {

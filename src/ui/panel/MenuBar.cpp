@@ -45,7 +45,7 @@ MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
 
 void MenuBar::applyCaptions(const ProgramState& state) {
     for (size_t i = 0; i < lblMenu.size(); ++i)
-        lblMenu[i]->setCaption(state.text(std::array{111, 112, 109}[i]));
+        lblMenu[i]->setCaption(state.text(std::array{Caption::View, Caption::Options, Caption::Help}[i]));
 }
 
 void MenuBar::markOpen(int index) {

@@ -19,9 +19,9 @@ GreensPage::GreensPage(QWidget* parent) : TabPage(2, parent) {
 }
 
 void GreensPage::applyCaptions(const ProgramState& state) {
-    lblGreenName->setCaption(state.text(58));
-    lblGreenAdditional->setCaption(state.text(47));
-    lblGreensList->setCaption(state.text(59));
+    lblGreenName->setCaption(state.text(Caption::ItemName));
+    lblGreenAdditional->setCaption(state.text(Caption::Search));
+    lblGreensList->setCaption(state.text(Caption::GreenItems));
 }
 
 void GreensPage::arrange() {
@@ -43,8 +43,8 @@ NotesPage::NotesPage(QWidget* parent) : TabPage(3, parent) {
 }
 
 void NotesPage::applyCaptions(const ProgramState& state) {
-    lblNoteShortDesc->setCaption(state.text(63));
-    lblNoteBody->setCaption(state.text(64));
+    lblNoteShortDesc->setCaption(state.text(Caption::SearchTitle));
+    lblNoteBody->setCaption(state.text(Caption::SearchText));
 }
 
 void NotesPage::arrange() {
@@ -64,9 +64,9 @@ VariousPage::VariousPage(QWidget* parent) : TabPage(4, parent) {
 }
 
 void VariousPage::applyCaptions(const ProgramState& state) {
-    lblTreasures->setCaption(state.text(83) + u": 0"_s);
-    lblPets->setCaption(state.text(114));
-    lblPetLocations->setCaption(state.text(115));
+    lblTreasures->setCaption(state.text(Caption::Treasures) + u": 0"_s);
+    lblPets->setCaption(state.text(Caption::Pets));
+    lblPetLocations->setCaption(state.text(Caption::PetLocations));
 }
 
 void VariousPage::arrange() {

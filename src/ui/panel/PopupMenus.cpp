@@ -11,35 +11,35 @@ namespace {
 
 struct Row {
     MenuKind kind;
-    int text = 0; // language entry
+    Caption text = Caption::None; // not of separators
     bool enabled = true;
 };
 
-constexpr Row separator{MenuKind::Separator, 0, false};
+constexpr Row separator{MenuKind::Separator, Caption::None, false};
 
-constexpr Row viewRows[] = {{MenuKind::Check, 32},
-                            {MenuKind::Check, 44},
-                            {MenuKind::Check, 59},
-                            {MenuKind::Check, 65},
-                            {MenuKind::Check, 113}};
-constexpr Row optionRows[] = {{MenuKind::Check, 62},
-                              {MenuKind::Check, 95},
+constexpr Row viewRows[] = {{MenuKind::Check, Caption::EliteSkills},
+                            {MenuKind::Check, Caption::Collectors},
+                            {MenuKind::Check, Caption::GreenItems},
+                            {MenuKind::Check, Caption::Notes},
+                            {MenuKind::Check, Caption::TreasuresAndPets}};
+constexpr Row optionRows[] = {{MenuKind::Check, Caption::ShowLegend},
+                              {MenuKind::Check, Caption::AlwaysOnTop},
                               separator,
-                              {MenuKind::Command, 74, false},
-                              {MenuKind::Option, 91},
-                              {MenuKind::Option, 75},
-                              {MenuKind::Option, 76},
+                              {MenuKind::Command, Caption::InformationWindows, false},
+                              {MenuKind::Option, Caption::RightClickStays},
+                              {MenuKind::Option, Caption::WhileRightButton},
+                              {MenuKind::Option, Caption::FollowMouse},
                               separator,
-                              {MenuKind::Command, 14}};
-constexpr Row helpRows[] = {{MenuKind::Command, 93},
-                            {MenuKind::Command, 107},
+                              {MenuKind::Command, Caption::MyCharacters}};
+constexpr Row helpRows[] = {{MenuKind::Command, Caption::UpdateAndQuit},
+                            {MenuKind::Command, Caption::HomePage},
                             separator,
-                            {MenuKind::Command, 81},
-                            {MenuKind::Command, 108},
-                            {MenuKind::Command, 89},
-                            {MenuKind::Command, 109},
+                            {MenuKind::Command, Caption::ShowCredits},
+                            {MenuKind::Command, Caption::CreditsHeading},
+                            {MenuKind::Command, Caption::WhatIsNew},
+                            {MenuKind::Command, Caption::Help},
                             separator,
-                            {MenuKind::Command, 110}};
+                            {MenuKind::Command, Caption::About}};
 
 int countOf(const MenuDefinition& menu, MenuKind kind) {
     return static_cast<int>(std::count_if(menu.Entries.begin(), menu.Entries.end(),

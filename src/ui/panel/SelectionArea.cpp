@@ -48,11 +48,11 @@ SelectionArea::SelectionArea(QWidget* panel) : QWidget(panel) {
 }
 
 void SelectionArea::applyCaptions(const ProgramState& state) {
-    lblCampaign->setCaption(state.text(2));
-    lblRegion->setCaption(state.text(3));
-    lblZone->setCaption(state.text(41));
-    lblClass->setCaption(state.text(5));
-    lblAttribute->setCaption(state.text(53));
+    lblCampaign->setCaption(state.text(Caption::Campaign));
+    lblRegion->setCaption(state.text(Caption::Region));
+    lblZone->setCaption(state.text(Caption::Zone));
+    lblClass->setCaption(state.text(Caption::Profession));
+    lblAttribute->setCaption(state.text(Caption::Attribute));
 }
 
 void SelectionArea::FillCampaignCombo(const ProgramState& state) {
@@ -74,7 +74,7 @@ void SelectionArea::FillZoneCombo(const ProgramState& state) {
 }
 
 void SelectionArea::FillProfessionList(const ProgramState& state) {
-    fill(*cmbProfession, *lblClass, professionEntries(state, 9));
+    fill(*cmbProfession, *lblClass, professionEntries(state, Caption::All));
 }
 
 void SelectionArea::FillAttributeList(const ProgramState& state) {

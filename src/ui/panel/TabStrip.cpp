@@ -23,7 +23,9 @@ const std::array<TabDesign, tabCount> designs = {{{u"Elites ", {7, 177, 54, 18},
                                                   {u"Greens ", {145, 177, 64, 18}, 0x008000},
                                                   {u"Notes ", {77, 158, 56, 18}, 0xFFFFFF},
                                                   {u"Various ", {7, 158, 68, 18}, 0xC0E0FF}}};
-constexpr std::array<int, tabCount> layerTexts = {32, 44, 59, 65, 113};
+constexpr std::array<Caption, tabCount> layerTexts = {Caption::EliteSkills, Caption::Collectors,
+                                                      Caption::GreenItems, Caption::Notes,
+                                                      Caption::TreasuresAndPets};
 constexpr QRect falseBorderPlace(8, 193, 52, 3);
 
 } // namespace

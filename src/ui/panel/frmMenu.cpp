@@ -48,7 +48,7 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
     setCursor(programCursor(101));
-    cmdQuit_ = new PictureButton(u"cmdQuit"_s, u":/windows/quit.png"_s, ownText(state, OwnText::Quit), this);
+    cmdQuit_ = new PictureButton(u"cmdQuit"_s, u":/windows/quit.png"_s, state.text(Caption::Quit), this);
     cmdQuit_->move(quitPlace);
     connect(cmdQuit_, &QAbstractButton::clicked, this, [this] { hooks_.quit(); });
     menuBar_ = new MenuBar(this);
@@ -121,7 +121,7 @@ void frmMenu::RefillPanel() {
     MenuReady = false;
     selection_->FillCampaignCombo(state_);
     selection_->FillProfessionList(state_);
-    elitePage_->cmbSecondaryProfession->setEntries(professionEntries(state_, 96));
+    elitePage_->cmbSecondaryProfession->setEntries(professionEntries(state_, Caption::None));
     elitePage_->cmbSecondaryProfession->select(0);
     FillCharacterList();
     collectorsPage_->cmbCollReq->setEntries(requestTypeEntries(state_, collectorsPage_->level()));

@@ -74,11 +74,11 @@ class frmMenu : public QWidget {
     // True when the layer's check box has the value 1.
     bool layerShown(int layer) const { return tabs_->chkShowObject[size_t(layer)]->value() == 1; }
 
-    // The protocol of every layer filter. `caption`: language entry that stands before ": count".
+    // The protocol of every layer filter. `caption`: the text that stands before ": count".
     struct Refill {
         ListBox& list;
         Label& label;
-        int caption;
+        Caption caption;
         std::function<std::vector<ListEntry>()> entries;
     };
     void runFilter(const Refill& refill, bool updateMap);
