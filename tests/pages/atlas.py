@@ -46,6 +46,7 @@ class Pages:
         return self.browser.one(f".marker[aria-label$=': {name}']")
 
     def centre(self, name):
+        until("the map at rest", lambda: not self.browser.all(".leaflet-pan-anim, .leaflet-zoom-anim"))
         return self.browser.run("const b = arguments[0].getBoundingClientRect(); return [b.left + b.width / 2, b.top + b.height / 2]",
                                 self.marker(name))
 

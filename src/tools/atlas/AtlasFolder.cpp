@@ -48,10 +48,22 @@ DiskError strangersIn(const QString& folder) {
     return std::nullopt;
 }
 
+// A full disk takes a part first; only the attempt to write the rest says why.
+bool writeBytes(QFile& file, const QByteArray& bytes) {
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 taken = file.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0)
+            return false;
+        done += taken;
+    }
+    return true;
+}
+
 DiskError writeFile(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeBytes(file, bytes))
         return std::nullopt;
     return u"%1: %2"_s.arg(systemPath(path), file.errorString());
 }

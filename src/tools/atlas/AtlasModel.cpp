@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "app/modLanguage.h"
+#include "base/Listing.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
 #include "tools/atlas/AtlasTexts.h"
@@ -50,6 +51,8 @@ class Maker {
         addChests();
         addPets();
         addNotes();
+        for (AtlasRegion& region : atlas_.regions)
+            sortPlaces(region.places);
         return std::move(atlas_);
     }
 
@@ -241,6 +244,20 @@ class Maker {
             place.parts = {{Kind::Text, {}, {}, linesOf(note.Body), {}}};
             add(note.At, std::move(place));
         }
+    }
+
+    // By layer, and as a reader looks for them.
+    static void sortPlaces(std::vector<AtlasPlace>& places) {
+        std::vector<QString> names;
+        for (const AtlasPlace& place : places)
+            names.push_back(place.name);
+        std::vector<AtlasPlace> sorted;
+        sorted.reserve(places.size());
+        for (const int position : alphabeticalOrder(names))
+            sorted.push_back(std::move(places[static_cast<size_t>(position)]));
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [](const AtlasPlace& a, const AtlasPlace& b) { return a.layer < b.layer; });
+        places = std::move(sorted);
     }
 
     QString character() const { return state_.Characters[choice_.character]; }

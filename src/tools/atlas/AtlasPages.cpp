@@ -114,7 +114,7 @@ QByteArray startPage(const ProgramState& state, const Atlas& atlas) {
     // Without a script there is no map, search or choice: the style sheet hides what is "scripted" then.
     const QString body =
         u"<body class=\"start\">\n<a class=\"skip\" href=\"#lists\">"_s + own(AtlasText::SkipToLists) +
-        u"</a>\n<header>\n<h1>"_s + safeHtml(title) +
+        u"</a>\n<header>\n<h1><img alt=\"\" src=\"icon.svg\"> "_s + safeHtml(title) +
         u"</h1>\n<form id=\"search\" class=\"scripted\" role=\"search\">\n<label class=\"hidden\" for=\"query\">"_s +
         search +
         u"</label>\n<input type=\"search\" id=\"query\" autocomplete=\"off\" spellcheck=\"false\" placeholder=\""_s +

@@ -191,7 +191,7 @@ var RegionMap = (function () {
 
   // A window fits on the map, also on a phone's.
   RegionMap.prototype.windowHeight = function () {
-    return Math.max(120, Math.min(380, this.map.getSize().y - 110));
+    return Math.max(120, Math.min(400, this.map.getSize().y - 130));
   };
 
   // A boss's green item has a marker of its own only while the boss has none.
@@ -224,7 +224,10 @@ var RegionMap = (function () {
   // Goes to a place of the region, at its natural size unless the reader is nearer, and opens its window when a
   // marker stands there.
   RegionMap.prototype.goTo = function (x, y) {
-    this.map.setView(latLng(x, y), Math.max(0, this.map.getZoom()), {animate: false});
+    // Below the middle, so that the window above it is seen whole.
+    var below = Math.min(this.windowHeight() / 2, this.map.getSize().y / 2 - 60);
+    var zoom = Math.max(0, this.map.getZoom());
+    this.map.setView(latLng(x, y - below / Math.pow(2, zoom)), zoom, {animate: false});
     this.ring.setLatLng(latLng(x, y)).addTo(this.map);
     var here = this.entries.filter(function (entry) {
       return entry.place.x === x && entry.place.y === y && this.map.hasLayer(entry.marker);

@@ -93,7 +93,7 @@
   }
 
   function subject(place) {
-    var skills = place.parts.filter(function (part) { return part.heading && place.layer === 1; });
+    var skills = place.parts.filter(function (part) { return part.kind < 3 && place.layer === 1; });
     return [place.zone].concat(skills.map(function (part) { return part.heading; })).filter(Boolean).join(" · ");
   }
 
@@ -109,12 +109,15 @@
   }
 
   function fillHere(region, places) {
+    var open = Array.from(byId("here").querySelectorAll("details[open]")).map(function (group) { return group.dataset.layer; });
     byId("here").replaceChildren();
     Atlas.layers.forEach(function (name, layer) {
       var here = places.filter(function (place) { return layer === 2 ? place.green : place.layer === layer; });
       if (!here.length)
         return;
       var group = element("details");
+      group.dataset.layer = layer;
+      group.open = open.indexOf(String(layer)) >= 0; // as in the region before
       var heading = element("summary", "", name + " ");
       heading.append(element("span", "count", String(here.length)));
       var list = element("ul");
