@@ -52,7 +52,7 @@ static_assert(builtIn.size() == static_cast<size_t>(ToolText::End) - first);
 
 QString toolText(const World& state, ToolText number) {
     const int position = static_cast<int>(number);
-    const QString text = state.text(position);
+    const QString text = state.text(static_cast<Caption>(position));
     return text.isEmpty() ? QString::fromLatin1(builtIn[static_cast<size_t>(position - first)]) : text;
 }
 
