@@ -32,18 +32,18 @@ void typeInto(benchmark::State& run, QWidget& field) {
 
 struct Field {
     const char* name;
-    int tab;
+    Tab tab;
     QLineEdit* field;
 };
 
 std::vector<Field> fields(frmMenu& panel) {
-    return {{"txtEliteName", 0, panel.elitePage().txtEliteName},
-            {"txtEliteBossName", 0, panel.elitePage().txtEliteBossName},
-            {"txtCollSearch", 1, panel.collectorsPage().txtCollSearch},
-            {"txtGreensName", 2, panel.greensPage().txtGreensName},
-            {"txtGreenAdditional", 2, panel.greensPage().txtGreenAdditional},
-            {"txtNoteShortDesc", 3, panel.notesPage().txtNoteShortDesc},
-            {"txtNoteBody", 3, panel.notesPage().txtNoteBody}};
+    return {{"txtEliteName", Tab::Elites, panel.elitePage().txtEliteName},
+            {"txtEliteBossName", Tab::Elites, panel.elitePage().txtEliteBossName},
+            {"txtCollSearch", Tab::Collectors, panel.collectorsPage().txtCollSearch},
+            {"txtGreensName", Tab::Greens, panel.greensPage().txtGreensName},
+            {"txtGreenAdditional", Tab::Greens, panel.greensPage().txtGreenAdditional},
+            {"txtNoteShortDesc", Tab::Notes, panel.notesPage().txtNoteShortDesc},
+            {"txtNoteBody", Tab::Notes, panel.notesPage().txtNoteBody}};
 }
 
 void addBare(World& world) {

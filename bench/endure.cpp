@@ -42,7 +42,7 @@ void idle(int milliseconds) {
 
 // The processor's share, in percent of one core, while a marker blinks and nobody touches anything.
 double blinkingShare(World& world) {
-    world.panel().tabs().activate(0);
+    world.panel().tabs().activate(Tab::Elites);
     world.panel().elitePage().lstElite->select(0);
     settle();
     idle(1000);
@@ -61,7 +61,7 @@ void visit(World& world, std::pair<int, int> region) {
 void act(World& world, int step) {
     frmMenu& panel = world.panel();
     MapViewport& map = world.map().picMap();
-    panel.tabs().activate(step % 5);
+    panel.tabs().activate(allTabs[static_cast<size_t>(step) % allTabs.size()]);
     QLineEdit* const fields[] = {panel.elitePage().txtEliteName, panel.collectorsPage().txtCollSearch,
                                  panel.greensPage().txtGreensName, panel.notesPage().txtNoteBody};
     QLineEdit& field = *fields[step % 4];

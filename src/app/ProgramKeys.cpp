@@ -2,12 +2,6 @@
 
 namespace orvinel {
 
-namespace {
-
-constexpr int notesTab = 3;
-
-} // namespace
-
 void Program::wireKeys() {
     keys_ = std::make_unique<WindowKeys>(std::vector<QWidget*>{panel_.get(), map_, legend_});
     TabStrip& tabs = panel_->tabs();
@@ -29,7 +23,7 @@ void Program::actOnSelected() {
     if (!place)
         return;
     // A double click on a note opens its menu where the mouse is.
-    if (panel_->tabs().active() == notesTab)
+    if (panel_->tabs().active() == Tab::Notes)
         emit map_->menuKeyPressed();
     else
         map_->actAt(*place);
@@ -41,7 +35,7 @@ void Program::insertNote() {
     if (!map_->mapLoaded())
         return;
     const MapViewport& map = map_->picMap();
-    const bool onNotes = panel_->tabs().active() == notesTab;
+    const bool onNotes = panel_->tabs().active() == Tab::Notes;
     const QPoint middle = map.view().visible().center();
     const MapPoint place =
         (onNotes ? std::nullopt : flashing_->selectedPlace()).value_or(MapPoint{middle.x(), middle.y()});

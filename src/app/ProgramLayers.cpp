@@ -4,6 +4,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 ProgramLayers::ProgramLayers(const ProgramState& state, const Disk& disk, const Desktop& desktop,
                              frmMenu& panel, frmMap& map, Actions actions)
     : zones(state, map.art()), greens(state, panel, map),
@@ -22,13 +24,34 @@ std::vector<InformationWindow*> ProgramLayers::windows() {
     return {&collectors.window(), &elites.window(), &notes.window(), &treasures.window(), &pets.window()};
 }
 
-std::array<std::function<void(bool)>, filterCount> ProgramLayers::filters() {
-    return {[this](bool updateMap) { elites.FilterEliteSkills(updateMap); },
-            [this](bool updateMap) { collectors.FilterCollectors(updateMap); },
-            [this](bool updateMap) { greens.FilterGreens(updateMap); },
-            [this](bool updateMap) { notes.FilterNotes(updateMap); },
-            [this](bool updateMap) { treasures.FilterTreasures(updateMap); },
-            [this](bool updateMap) { pets.FilterPets(updateMap); }};
+std::array<ListedLayer*, filterCount> ProgramLayers::listed() {
+    return {&elites, &collectors, &greens, &notes, &treasures, &pets};
+}
+
+std::vector<FlashingKind> ProgramLayers::flashing() {
+    return {{Tab::Collectors, u"tmrFlashCollector"_s, Sprite::CollSelezione, {&collectors}},
+            {Tab::Elites, u"tmrFlashSelection"_s, Sprite::Selezione, {&elites}},
+            {Tab::Greens, u"tmrFlashGreen"_s, Sprite::GreenSelezione, {&greens}},
+            {Tab::Notes, u"tmrFlashNote"_s, Sprite::NoteSelezione, {&notes}},
+            {Tab::Various, u"tmrFlashTreasures"_s, Sprite::TreasureSelezione, {&treasures, &pets}}};
+}
+
+void connectMap(frmMap& map, ProgramLayers& layers, Flashing& flashing) {
+    map.setChains(layers.chains());
+    map.setInformationWindows(layers.windows());
+    map.startFlashing = [&flashing] { flashing.StartFlashing(); };
+}
+
+PanelHooks panelHooks(ProgramLayers& layers, frmMap& map, Flashing& flashing) {
+    PanelHooks hooks;
+    hooks.layers = layers.listed();
+    hooks.showRegion = [&map](const QString& picture, int campaign, int region) {
+        map.InizializzaVariabili(picture, campaign, region);
+    };
+    hooks.updateMap = [&map] { map.UpdateMapWithNewEliteSkills(); };
+    hooks.drawMap = [&map] { map.DrawEverythingOnMap(); };
+    hooks.switchFlashing = [&flashing](Tab tab, bool on) { flashing.switchFlashing(tab, on); };
+    return hooks;
 }
 
 } // namespace orvinel

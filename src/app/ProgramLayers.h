@@ -7,6 +7,7 @@
 #include "ui/layers/modPetsView.h"
 #include "ui/layers/modTreasuresView.h"
 #include "ui/layers/modZonesView.h"
+#include "ui/map/Flashing.h"
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
 
@@ -34,7 +35,14 @@ struct ProgramLayers {
     frmMap::Chains chains();
     // In the order in which they are hidden.
     std::vector<InformationWindow*> windows();
-    std::array<std::function<void(bool)>, filterCount> filters();
+    // By Filter.
+    std::array<ListedLayer*, filterCount> listed();
+    std::vector<FlashingKind> flashing();
 };
+
+// Has the map draw and ask the layers; what is selected blinks. `flashing` is made of the layers.
+void connectMap(frmMap& map, ProgramLayers& layers, Flashing& flashing);
+// What the panel calls of layers and map; the rest is the caller's to fill in. All outlive the panel's use.
+PanelHooks panelHooks(ProgramLayers& layers, frmMap& map, Flashing& flashing);
 
 } // namespace orvinel

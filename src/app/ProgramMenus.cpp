@@ -12,7 +12,37 @@ namespace orvinel {
 
 namespace {
 
-enum Menu { ViewMenu, OptionsMenu, HelpMenu };
+// The tab whose layers the row switches; nothing for other rows.
+std::optional<Tab> tabOf(MenuAction action) {
+    switch (action) {
+    case MenuAction::SwitchElites:
+        return Tab::Elites;
+    case MenuAction::SwitchCollectors:
+        return Tab::Collectors;
+    case MenuAction::SwitchGreens:
+        return Tab::Greens;
+    case MenuAction::SwitchNotes:
+        return Tab::Notes;
+    case MenuAction::SwitchVarious:
+        return Tab::Various;
+    default:
+        return std::nullopt;
+    }
+}
+
+// The mode of the information windows that the row chooses; nothing for other rows.
+std::optional<int> windowModeOf(MenuAction action) {
+    switch (action) {
+    case MenuAction::WhileRightButton:
+        return 0;
+    case MenuAction::FollowMouse:
+        return 1;
+    case MenuAction::RightClickStays:
+        return 2;
+    default:
+        return std::nullopt;
+    }
+}
 
 } // namespace
 
@@ -25,17 +55,20 @@ void Program::wireMenus() {
 }
 
 void Program::openMenu(int menu) {
-    if (menu == ViewMenu)
-        for (int k = 0; k < tabCount; ++k)
-            popupMenu_->SetValue(menu, k, panel_->tabs().chkShowObject[size_t(k)]->value());
-    if (menu == OptionsMenu) {
-        popupMenu_->SetValue(menu, 0, panel_->MenuLegendShown);
-        popupMenu_->SetValue(menu, 1, panel_->MenuAlwaysOnTop);
-        popupMenu_->SetValue(menu, 4, panel_->MenuRightClickNeeded == 2);
-        popupMenu_->SetValue(menu, 5, panel_->MenuRightClickNeeded == 0);
-        popupMenu_->SetValue(menu, 6, panel_->MenuRightClickNeeded == 1);
-    }
+    const std::vector<MenuEntry>& entries = popupMenu_->menus()[size_t(menu)].Entries;
+    for (size_t e = 0; e < entries.size(); ++e)
+        popupMenu_->SetValue(menu, static_cast<int>(e), menuValue(entries[e].Action));
     popupMenu_->OpenMenu(menu, *panel_->menuBar().lblMenu[size_t(menu)]);
+}
+
+int Program::menuValue(MenuAction action) const {
+    if (const auto tab = tabOf(action))
+        return panel_->tabs().chkShowObject[indexOf(*tab)]->value();
+    if (const auto mode = windowModeOf(action))
+        return panel_->MenuRightClickNeeded == *mode;
+    if (action == MenuAction::ToggleLegend)
+        return panel_->MenuLegendShown;
+    return action == MenuAction::ToggleAlwaysOnTop ? panel_->MenuAlwaysOnTop : 0;
 }
 
 void Program::openMenuByKey(int menu) {
@@ -46,52 +79,37 @@ void Program::openMenuByKey(int menu) {
 
 void Program::OnMenuEntryClick(int menu, int entry) {
     popupMenu_->hide();
-    if (menu == ViewMenu) {
-        SmallCheckBox& box = *panel_->tabs().chkShowObject[size_t(entry)];
+    const MenuAction action = popupMenu_->menus()[size_t(menu)].Entries[size_t(entry)].Action;
+    if (const auto tab = tabOf(action)) {
+        SmallCheckBox& box = *panel_->tabs().chkShowObject[indexOf(*tab)];
         box.setValue(box.value() == 1 ? 0 : 1);
-    } else if (menu == OptionsMenu) {
-        chooseOption(entry);
+    } else if (const auto mode = windowModeOf(action)) {
+        panel_->MenuRightClickNeeded = *mode;
     } else {
-        chooseHelp(entry);
+        act(action);
     }
 }
 
-void Program::chooseOption(int entry) {
-    switch (entry) {
-    case 0:
+void Program::act(MenuAction action) {
+    switch (action) {
+    case MenuAction::ToggleLegend:
         return ToggleLegend();
-    case 1:
+    case MenuAction::ToggleAlwaysOnTop:
         return ToggleAlwaysOnTop();
-    case 4:
-        panel_->MenuRightClickNeeded = 2;
-        return;
-    case 5:
-        panel_->MenuRightClickNeeded = 0;
-        return;
-    case 6:
-        panel_->MenuRightClickNeeded = 1;
-        return;
-    case 8:
+    case MenuAction::MyCharacters:
         return OpenCharacterList();
-    default:
-        return;
-    }
-}
-
-void Program::chooseHelp(int entry) {
-    switch (entry) {
-    case 0:
+    case MenuAction::Update:
         return RunUpdater();
-    case 1:
+    case MenuAction::HomePage:
         return OpenWithShell(homePage());
-    case 3:
+    case MenuAction::Credits:
         frmCredits(dialogContext(), panel_.get()).exec();
         return;
-    case 5:
+    case MenuAction::History:
         return ShowHistory();
-    case 6:
+    case MenuAction::Guide:
         return ShowGuide();
-    case 8:
+    case MenuAction::About:
         frmInformation(dialogContext(), panel_.get()).exec();
         return;
     default:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tab.h"
 #include "app/modOptions.h"
 #include "base/Colour.h"
 #include "progress/Progress.h"
@@ -13,6 +14,8 @@ namespace orvinel {
 struct ProgramState : Progress {
     Options AppOptions;
     std::array<Colour, 9> TabColors{}; // of the panel's tabs and the information windows
+
+    Colour colourOf(Tab tab) const { return TabColors[indexOf(tab)]; }
 };
 
 } // namespace orvinel

@@ -97,24 +97,17 @@ void Program::makeLayers() {
         state_, files_.disk(), desktop_, *panel_, *map_,
         ProgramLayers::Actions{[this](int id, bool fromMap) { openCapture(id, fromMap); },
                                [this](int index) { openTreasure(index); }});
-    map_->setChains(layers_->chains());
-    map_->setInformationWindows(layers_->windows());
-    flashing_ = std::make_unique<Flashing>(state_, *panel_, *map_);
+    flashing_ = std::make_unique<Flashing>(layers_->flashing(), *map_);
+    connectMap(*map_, *layers_, *flashing_);
     mapMenus_ = std::make_unique<MapMenus>(
-        MapMenus::Surroundings{state_, files_, desktop_, *panel_, *map_},
-        MapMenus::NoteActions{[this](const NoteRequest& request) { return editNote(request); },
-                              [this] { layers_->notes.FilterNotes(true); }});
+        MapMenus::Surroundings{state_, files_, desktop_, *map_},
+        MapMenus::Actions{[this](int campaign, int region) { panel_->chooseRegion(campaign, region); },
+                          [this](const NoteRequest& request) { return editNote(request); },
+                          [this] { layers_->notes.FilterNotes(true); }});
 }
 
 void Program::wirePanel() {
-    PanelHooks hooks;
-    hooks.filters = layers_->filters();
-    hooks.showRegion = [this](const QString& picture, int campaign, int region) {
-        map_->InizializzaVariabili(picture, campaign, region);
-    };
-    hooks.updateMap = [this] { map_->UpdateMapWithNewEliteSkills(); };
-    hooks.drawMap = [this] { map_->DrawEverythingOnMap(); };
-    hooks.switchFlashing = [this](int layer, bool on) { flashing_->switchFlashing(layer, on); };
+    PanelHooks hooks = panelHooks(*layers_, *map_, *flashing_);
     hooks.openMenu = [this](int menu) { openMenu(menu); };
     hooks.quit = [this] { QuitProgram(); };
     hooks.maximised = [this] { return MapMaximised_; };
@@ -123,7 +116,6 @@ void Program::wirePanel() {
 }
 
 void Program::wireMap() {
-    map_->startFlashing = [this] { flashing_->StartFlashing(); };
     connect(map_, &frmMap::quitWanted, this, &Program::QuitProgram);
     connect(map_, &frmMap::maximiseWanted, this, &Program::ToggleMapMaximised);
     connect(map_, &frmMap::minimiseWanted, this, [this] {

@@ -65,8 +65,9 @@ class Program : public QObject {
     void openMenu(int menu);
     void openMenuByKey(int menu);
     void OnMenuEntryClick(int menu, int entry);
-    void chooseOption(int entry);
-    void chooseHelp(int entry);
+    // What the row shows in its box: 1 when it is on.
+    int menuValue(MenuAction action) const;
+    void act(MenuAction action);
     void ToggleLegend();
     void ToggleAlwaysOnTop();
     void applyAlwaysOnTop();

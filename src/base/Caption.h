@@ -115,7 +115,7 @@ enum class Caption : int {
     TreasureOpened = 105,         // "Treasure opened"
     OpenedWhen = 106,             // "on"
     HomePage = 107,               // "Orvinel on the web"
-    CreditsHeading = 108,         // "Orvinel 4.0.0"
+    ProgramVersion = 108,         // "Orvinel 4.0.0"
     Help = 109,                   // "Help"
     About = 110,                  // "About Orvinel..."
     View = 111,                   // "View"

@@ -22,57 +22,24 @@ LayersFixture::LayersFixture() {
 
 void LayersFixture::startOnFjord() {
     start();
-    makeViews();
-    wireHooks();
-    showFjord();
-}
-
-void LayersFixture::makeViews() {
-    collectors = std::make_unique<CollectorsView>(state, *panel, *map);
-    notes = std::make_unique<NotesView>(state, *panel, *map);
-    treasures = std::make_unique<TreasuresView>(state, desktop, *panel, *map,
-                                                [this](int index) { openedChest = index; });
-    pets = std::make_unique<PetsView>(state, disk, *panel, *map);
-    flashing = std::make_unique<Flashing>(state, *panel, *map);
-    menus = std::make_unique<MapMenus>(MapMenus::Surroundings{state, files, desktop, *panel, *map},
-                                       MapMenus::NoteActions{[this](const NoteRequest& asked) {
-                                                                 request = asked;
-                                                                 return storedNote;
-                                                             },
-                                                             [this] {
-                                                                 ++noteFilters;
-                                                                 notes->FilterNotes(true);
-                                                             }});
+    collectors = &layers->collectors;
+    notes = &layers->notes;
+    treasures = &layers->treasures;
+    pets = &layers->pets;
+    menus = std::make_unique<MapMenus>(
+        MapMenus::Surroundings{state, files, desktop, *map},
+        MapMenus::Actions{[this](int campaign, int region) { panel->chooseRegion(campaign, region); },
+                          [this](const NoteRequest& asked) {
+                              request = asked;
+                              return storedNote;
+                          },
+                          [this] {
+                              ++noteFilters;
+                              notes->FilterNotes(true);
+                          }});
     QObject::connect(map.get(), &frmMap::regionMenuWanted, menus.get(), &MapMenus::openRegionMenu);
-    QObject::connect(notes.get(), &NotesView::menuWanted, menus.get(), &MapMenus::openNoteMenu);
-    map->startFlashing = [this] { flashing->StartFlashing(); };
-    map->setChains({{collectors.get(), notes.get(), treasures.get(), pets.get()},
-                    {collectors.get(), notes.get(), treasures.get(), pets.get()},
-                    {treasures.get(), collectors.get(), pets.get(), notes.get()}});
-    map->setInformationWindows(
-        {&collectors->window(), &notes->window(), &treasures->window(), &pets->window()});
-}
-
-void LayersFixture::wireHooks() {
-    PanelHooks hooks;
-    hooks.filters.fill([](bool) {});
-    const auto filter = [&](Filter which) -> auto& {
-        return hooks.filters[static_cast<size_t>(which)];
-    };
-    filter(Filter::Collectors) = [this](bool update) { collectors->FilterCollectors(update); };
-    filter(Filter::Notes) = [this](bool update) { notes->FilterNotes(update); };
-    filter(Filter::Treasures) = [this](bool update) { treasures->FilterTreasures(update); };
-    filter(Filter::Pets) = [this](bool update) { pets->FilterPets(update); };
-    hooks.showRegion = [this](const QString& picture, int campaign, int region) {
-        map->InizializzaVariabili(picture, campaign, region);
-    };
-    hooks.updateMap = [this] { map->UpdateMapWithNewEliteSkills(); };
-    hooks.drawMap = [this] { map->DrawEverythingOnMap(); };
-    hooks.switchFlashing = [this](int layer, bool on) { flashing->switchFlashing(layer, on); };
-    hooks.openMenu = [](int) {};
-    hooks.quit = [] {};
-    hooks.maximised = [] { return false; };
-    panel->setHooks(std::move(hooks));
+    QObject::connect(notes, &NotesView::menuWanted, menus.get(), &MapMenus::openNoteMenu);
+    showFjord();
 }
 
 } // namespace orvinel

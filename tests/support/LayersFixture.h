@@ -1,11 +1,6 @@
 #pragma once
 
 #include "support/ProgramFixture.h"
-#include "ui/layers/modCollectorsView.h"
-#include "ui/layers/modNotesView.h"
-#include "ui/layers/modPetsView.h"
-#include "ui/layers/modTreasuresView.h"
-#include "ui/map/Flashing.h"
 #include "ui/map/MapMenus.h"
 
 namespace orvinel {
@@ -18,13 +13,11 @@ namespace orvinel {
 //   pets 7 "Wolf" at (200, 200), zone 11, and on Glacier at (50, 50), zone 21; 8 "Bear" at (208, 200)
 //   note 1 "Alpha" at (500, 100) and 2 "Beta" on Glacier at (60, 60)
 struct LayersFixture : ProgramFixture {
-    std::unique_ptr<CollectorsView> collectors;
-    std::unique_ptr<NotesView> notes;
-    std::unique_ptr<TreasuresView> treasures;
-    std::unique_ptr<PetsView> pets;
+    CollectorsView* collectors = nullptr; // of the layers
+    NotesView* notes = nullptr;
+    TreasuresView* treasures = nullptr;
+    PetsView* pets = nullptr;
     std::unique_ptr<MapMenus> menus;
-    std::unique_ptr<Flashing> flashing;
-    int openedChest = 0; // the last for which the dialog was asked
     NoteRequest request; // the last of the note editor
     int storedNote = -1; // what the note editor answers
     int noteFilters = 0; // how often the menus had the notes refilled
@@ -44,10 +37,6 @@ struct LayersFixture : ProgramFixture {
     bool shown(const char* window) { return !inMap<InformationWindow>(window).isHidden(); }
     VariousPage& various() { return panel->variousPage(); }
     ListBox& lstNotes() { return *panel->notesPage().lstNotes; }
-
-  private:
-    void makeViews();
-    void wireHooks();
 };
 
 } // namespace orvinel

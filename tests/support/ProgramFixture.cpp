@@ -49,8 +49,7 @@ void ProgramFixture::start() {
     panel = std::make_unique<frmMenu>(state, desktop);
     map = std::make_unique<frmMap>(frmMap::Surroundings{state, disk, desktop, panel->MenuRightClickNeeded},
                                    panel.get());
-    makeLayers();
-    wirePanel();
+    wire();
     QObject::connect(map.get(), &frmMap::regionMenuWanted, map.get(), [this] { ++regionMenus; });
     map->InizializzaVariabili({}, -1, -1);
     panel->Form_Load();
@@ -58,34 +57,17 @@ void ProgramFixture::start() {
     map->show();
 }
 
-void ProgramFixture::makeLayers() {
-    zones = std::make_unique<ZonesView>(state, map->art());
-    elites = std::make_unique<EliteView>(state, disk, *panel, *map, [this](int id, bool fromMap) {
-        captures << QString::number(id) + (fromMap ? u" map"_s : u" panel"_s);
-    });
-    greens = std::make_unique<GreensView>(state, *panel, *map);
-    map->setChains({{zones.get(), greens.get(), elites.get()}, {elites.get()}, {elites.get()}});
-    map->setInformationWindows({&elites->window()});
-}
-
-void ProgramFixture::wirePanel() {
-    PanelHooks hooks;
-    hooks.filters.fill([](bool updateMap) { Q_UNUSED(updateMap) });
-    hooks.filters[size_t(Filter::Elites)] = [this](bool update) { elites->FilterEliteSkills(update); };
-    hooks.filters[size_t(Filter::Greens)] = [this](bool update) { greens->FilterGreens(update); };
-    // Stands for the layers that are not there: the last filter of a row is one of theirs.
-    const auto last = [this](bool update) {
-        if (update && panel->MenuReady)
-            map->UpdateMapWithNewEliteSkills();
-    };
-    hooks.filters[size_t(Filter::Notes)] = last;
-    hooks.filters[size_t(Filter::Pets)] = last;
-    hooks.showRegion = [this](const QString& picture, int campaign, int region) {
-        map->InizializzaVariabili(picture, campaign, region);
-    };
-    hooks.updateMap = [this] { map->UpdateMapWithNewEliteSkills(); };
-    hooks.drawMap = [this] { map->DrawEverythingOnMap(); };
-    hooks.switchFlashing = [](int, bool) {};
+void ProgramFixture::wire() {
+    layers = std::make_unique<ProgramLayers>(
+        state, disk, desktop, *panel, *map,
+        ProgramLayers::Actions{[this](int id, bool fromMap) {
+                                   captures << QString::number(id) + (fromMap ? u" map"_s : u" panel"_s);
+                               },
+                               [this](int index) { openedChest = index; }});
+    elites = &layers->elites;
+    flashing = std::make_unique<Flashing>(layers->flashing(), *map);
+    connectMap(*map, *layers, *flashing);
+    PanelHooks hooks = panelHooks(*layers, *map, *flashing);
     hooks.openMenu = [](int) {};
     hooks.quit = [] {};
     hooks.maximised = [] { return false; };

@@ -1,13 +1,9 @@
 #pragma once
 
+#include "app/ProgramLayers.h"
 #include "app/ProgramState.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
-#include "ui/layers/modEliteView.h"
-#include "ui/layers/modGreeniesView.h"
-#include "ui/layers/modZonesView.h"
-#include "ui/map/frmMap.h"
-#include "ui/panel/frmMenu.h"
 
 #include <QTest>
 
@@ -31,11 +27,12 @@ struct ProgramFixture : testing::Test {
     ProgramState state;
     std::unique_ptr<frmMenu> panel;
     std::unique_ptr<frmMap> map;
-    std::unique_ptr<ZonesView> zones;
-    std::unique_ptr<EliteView> elites;
-    std::unique_ptr<GreensView> greens;
+    std::unique_ptr<ProgramLayers> layers;
+    std::unique_ptr<Flashing> flashing;
+    EliteView* elites = nullptr; // of the layers
     // What asked for the capture dialog: "7 map", "7 panel".
     QStringList captures;
+    int openedChest = 0; // the last for which the dialog was asked
     int regionMenus = 0; // how often the region menu was asked for
 
     ProgramFixture();
@@ -70,8 +67,7 @@ struct ProgramFixture : testing::Test {
 
   private:
     void choose(ItemCombo& combo, const QString& text);
-    void makeLayers();
-    void wirePanel();
+    void wire();
     void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys = {});
 };
 

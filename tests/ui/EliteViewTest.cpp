@@ -247,7 +247,7 @@ TEST_F(EliteViewTest, greenItemsAreBarsUnderBossesThatAreDrawnAndMarkersElsewher
 
 TEST_F(EliteViewTest, aGreenItemChosenMovesTheMapToItsBoss) {
     start();
-    panel->tabs().activate(2);
+    panel->tabs().activate(Tab::Greens);
     clickRow(*panel->greensPage().lstGreens, 2);
     EXPECT_EQ(1, map->MapRegion());
     EXPECT_EQ(green, mapPixel(200, 208));

@@ -29,7 +29,7 @@ const QPoint anna(100, 100);
 
 TEST_F(FlashingTest, theSelectedEntryOfTheActivePageBlinks) {
     startOnFjord();
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     panel->collectorsPage().lstCollectors->select(0);
     EXPECT_TRUE(marked(anna));
     EXPECT_TRUE(clock("tmrFlashCollector").isActive());
@@ -43,9 +43,9 @@ TEST_F(FlashingTest, theSelectedEntryOfTheActivePageBlinks) {
 
 TEST_F(FlashingTest, anotherPageEndsTheBlinkingWithTheNextComposition) {
     startOnFjord();
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     panel->collectorsPage().lstCollectors->select(0);
-    panel->tabs().activate(3);
+    panel->tabs().activate(Tab::Notes);
     EXPECT_TRUE(clock("tmrFlashCollector").isActive());
     lstNotes().select(0);
     EXPECT_FALSE(clock("tmrFlashCollector").isActive());
@@ -56,7 +56,7 @@ TEST_F(FlashingTest, anotherPageEndsTheBlinkingWithTheNextComposition) {
 
 TEST_F(FlashingTest, nothingBlinksWhileThePictureIsDragged) {
     startOnFjord();
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     panel->collectorsPage().lstCollectors->select(0);
     press({400, 400});
     tick("tmrFlashCollector");
@@ -68,7 +68,7 @@ TEST_F(FlashingTest, nothingBlinksWhileThePictureIsDragged) {
 
 TEST_F(FlashingTest, aLayerSwitchedOffShowsNoSelectionAndItsTicksDoNothing) {
     startOnFjord();
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     panel->collectorsPage().lstCollectors->select(0);
     panel->tabs().chkShowObject[1]->setValue(0);
     EXPECT_FALSE(clock("tmrFlashCollector").isActive());
@@ -82,7 +82,7 @@ TEST_F(FlashingTest, aLayerSwitchedOffShowsNoSelectionAndItsTicksDoNothing) {
 
 TEST_F(FlashingTest, chestsAndPetsShareOneMarker) {
     startOnFjord();
-    panel->tabs().activate(4);
+    panel->tabs().activate(Tab::Various);
     various().lstPets->select(0);
     EXPECT_TRUE(marked({200, 200}));
     various().lstKesraTreasures->select(0);
@@ -96,7 +96,7 @@ TEST_F(FlashingTest, aMarkerAtTheEdgeEndsWithThePicture) {
     disk.put(u"/o/Personal/Notes.txt"_s, "Edge\tx\t299\t100\t3\t2\r\n");
     startOnFjord();
     chooseRegion(u"Glacier"_s);
-    panel->tabs().activate(3);
+    panel->tabs().activate(Tab::Notes);
     lstNotes().select(0);
     EXPECT_TRUE(marked({289, 100}));
     const QImage beyond = map->picMap().grab(QRect(300, 80, 20, 40)).toImage();
@@ -105,7 +105,7 @@ TEST_F(FlashingTest, aMarkerAtTheEdgeEndsWithThePicture) {
 
 TEST_F(FlashingTest, noMarkerIsShownOnARegionOfWhichTheEntryIsNot) {
     startOnFjord();
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     panel->collectorsPage().lstCollectors->select(0);
     map->InizializzaVariabili(u"/o/Campaign.03.Frost/2.jpg"_s, 3, 2);
     map->UpdateMapWithNewEliteSkills();

@@ -79,12 +79,12 @@ TEST_F(KeyboardTest, theMapsMarginTellsOfItsFocus) {
 
 TEST_F(KeyboardTest, arrowsGoThroughTheTabsAndRoundTheirEnds) {
     TabStrip& tabs = panel->tabs();
-    tabs.activateWithFocus(0);
+    tabs.activateWithFocus(Tab::Elites);
     key(Qt::Key_Left);
-    EXPECT_EQ(4, tabs.active());
+    EXPECT_EQ(Tab::Various, tabs.active());
     EXPECT_EQ(tabs.lblTab[4], focus());
     key(Qt::Key_Down);
-    EXPECT_EQ(0, tabs.active());
+    EXPECT_EQ(Tab::Elites, tabs.active());
     key(Qt::Key_Tab);
     key(Qt::Key_Backtab);
     EXPECT_EQ(tabs.lblTab[0], focus()) << "Tab stops at the active header only";
@@ -104,7 +104,7 @@ TEST_F(KeyboardTest, theWordsOfTheMenuBarAreLedThroughAndOpened) {
 
 TEST_F(KeyboardTest, enterInASearchLeadsToWhatItFound) {
     ListBox* list = panel->greensPage().lstGreens;
-    panel->tabs().activate(2);
+    panel->tabs().activate(Tab::Greens);
     auto* field = panel->greensPage().txtGreensName;
     field->setFocus();
     key(Qt::Key_Return);

@@ -102,7 +102,7 @@ TEST_F(NotesViewTest, aNoteWhoseFileCannotBeWrittenStays) {
 
 TEST_F(NotesViewTest, keysOpenTheMenuForTheSelectedNoteElseForTheMiddleOfTheMap) {
     startOnFjord();
-    QSignalSpy wanted(notes.get(), &NotesView::menuWanted);
+    QSignalSpy wanted(notes, &NotesView::menuWanted);
     QTest::keyClick(&map->picMap(), Qt::Key_Menu);
     EXPECT_EQ(u"100"_s, enabledEntries());
     lstNotes().select(0);

@@ -7,27 +7,46 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-// The panel alone: every hook writes down that it was called. A filter that finds the panel not ready does
-// nothing, as in the program.
+// A layer that writes down that it was refilled. It does nothing while the panel is not ready, as in the
+// program.
+struct LoggedLayer : ListedLayer {
+    QStringList& log;
+    const std::unique_ptr<frmMenu>& panel;
+    QChar letter;
+
+    LoggedLayer(QStringList& calls, const std::unique_ptr<frmMenu>& of, QChar name)
+        : log(calls), panel(of), letter(name) {}
+    void refilter(bool updateMap) override {
+        if (panel->MenuReady)
+            log << QString(letter) + (updateMap ? u'1' : u'0');
+    }
+    const MapLocation* selected() const override { return nullptr; }
+    bool switchedOn() const override { return true; }
+    bool inFront() const override { return true; }
+};
+
+// The panel alone: every hook writes down that it was called.
 struct PanelTest : ProgramFixture {
     QStringList log;
+    std::vector<std::unique_ptr<LoggedLayer>> layers;
 
     void startPanel(const Options& remembered = {}) {
         load();
         state.AppOptions = remembered;
         panel = std::make_unique<frmMenu>(state, desktop);
         PanelHooks hooks;
-        for (size_t i = 0; i < filterCount; ++i)
-            hooks.filters[i] = [this, i](bool update) {
-                if (panel->MenuReady)
-                    log << QString(u"ECGNTP"_s[qsizetype(i)]) + (update ? u'1' : u'0');
-            };
+        for (size_t i = 0; i < filterCount; ++i) {
+            layers.push_back(std::make_unique<LoggedLayer>(log, panel, u"ECGNTP"_s[qsizetype(i)]));
+            hooks.layers[i] = layers.back().get();
+        }
         hooks.showRegion = [this](const QString& picture, int campaign, int region) {
             log << u"show %1 %2 %3"_s.arg(picture.section(u'/', -1)).arg(campaign).arg(region);
         };
         hooks.updateMap = [this] { log << u"update"_s; };
         hooks.drawMap = [this] { log << u"draw"_s; };
-        hooks.switchFlashing = [this](int layer, bool on) { log << u"flash %1 %2"_s.arg(layer).arg(on); };
+        hooks.switchFlashing = [this](Tab tab, bool on) {
+            log << u"flash %1 %2"_s.arg(static_cast<int>(tab)).arg(on);
+        };
         hooks.openMenu = [](int) {};
         hooks.quit = [] {};
         hooks.maximised = [] { return false; };
@@ -54,10 +73,10 @@ TEST_F(PanelTest, theLoadSequenceFiltersOnceAtItsEnd) {
     remembered.ShowNotes = 0;
     startPanel(remembered);
     EXPECT_EQ(u"show  -1 -1 show 1.jpg 3 1 "_s + allSix, calls());
-    EXPECT_FALSE(panel->layerShown(3));
+    EXPECT_FALSE(panel->layerShown(Tab::Notes));
     EXPECT_TRUE(panel->MenuReady);
     EXPECT_EQ(u"<<< Text 4 >>>"_s, panel->elitePage().cmbCharacter->currentText());
-    EXPECT_EQ(0, panel->tabs().active());
+    EXPECT_EQ(Tab::Elites, panel->tabs().active());
 }
 
 TEST_F(PanelTest, campaignRegionAndZoneRunAllFiltersWithOneRedraw) {
@@ -183,7 +202,7 @@ TEST_F(PanelTest, theRowOfTheActiveTabLiesNextToThePages) {
     const int upper = tabs.lblTab[3]->y();
     const int lower = tabs.lblTab[0]->y();
     ASSERT_LT(upper, lower);
-    tabs.activate(3);
+    tabs.activate(Tab::Notes);
     for (const size_t i : {3, 4})
         EXPECT_EQ(lower, tabs.lblTab[i]->y());
     for (const size_t i : {0, 1, 2}) {
@@ -192,20 +211,20 @@ TEST_F(PanelTest, theRowOfTheActiveTabLiesNextToThePages) {
     }
     EXPECT_TRUE(panel->elitePage().isHidden());
     EXPECT_FALSE(panel->notesPage().isHidden());
-    tabs.activate(4);
+    tabs.activate(Tab::Various);
     EXPECT_EQ(lower, tabs.lblTab[4]->y());
-    tabs.activate(1);
+    tabs.activate(Tab::Collectors);
     EXPECT_EQ(lower, tabs.lblTab[1]->y());
-    EXPECT_EQ(1, tabs.active());
+    EXPECT_EQ(Tab::Collectors, tabs.active());
 }
 
 TEST_F(PanelTest, aClickedTabHasTheFocus) {
     startPanel();
-    panel->tabs().activate(0);
+    panel->tabs().activate(Tab::Elites);
     panel->elitePage().txtEliteName->setFocus();
     TabHeader* header = panel->tabs().lblTab[1];
     QTest::mouseClick(header, Qt::LeftButton);
-    EXPECT_EQ(1, panel->tabs().active());
+    EXPECT_EQ(Tab::Collectors, panel->tabs().active());
     EXPECT_EQ(header, panel->focusWidget());
 }
 
@@ -247,7 +266,7 @@ TEST_F(PanelTest, theListsFollowThePanelsHeight) {
     EXPECT_LE(page.lstElite->geometry().bottom(), page.lblLocations->y());
     EXPECT_EQ(0, (page.lstLocations->height() - 2 * ListBox::frame) % ListBox::rowHeight);
     EXPECT_EQ(page.inner()->height() - 5, page.lstLocations->y() + page.lstLocations->height());
-    panel->tabs().activate(1);
+    panel->tabs().activate(Tab::Collectors);
     const CollectorsPage& collectors = panel->collectorsPage();
     EXPECT_EQ(collectors.inner()->height() - 5,
               collectors.lstCollectors->y() + collectors.lstCollectors->height());

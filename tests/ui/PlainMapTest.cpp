@@ -17,8 +17,8 @@ struct PlainMapTest : LayersFixture {
 
     QImage plain(const QString& boss) {
         const QImage picture = loadPicture(disk, findRegion(state, 3, 1)->RegionPicture);
-        return bench::plainMap(picture, *zones, map->shown(0), bench::allMarkers(state, map->shown(0), boss),
-                               map->art());
+        return bench::plainMap(picture, layers->zones, map->shown(0),
+                               bench::allMarkers(state, map->shown(0), boss), map->art());
     }
     void expectPlain(const QString& boss) {
         map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0), boss));

@@ -32,7 +32,7 @@ Dialog::Dialog(const QString& name, QSize client, DialogContext context, QWidget
     setObjectName(name);
     setSpokenRole(*this, QAccessible::Dialog);
     setFixedSize(client);
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
 }
 
 Label* Dialog::addLabel(const QString& name, QPoint at, const QString& caption) {

@@ -247,7 +247,7 @@ void frmInformation::hover(QPoint inContainer) {
     if (link == LinkHot)
         return;
     LinkHot = link;
-    picOntainer->setCursor(programCursor(link == NoLink ? 101 : 102));
+    picOntainer->setCursor(programCursor(link == NoLink ? Pointer::Usual : Pointer::OpenHand));
 }
 
 void frmInformation::click(QPoint inContainer) {

@@ -119,7 +119,7 @@ frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
     setObjectName(u"frmLegenda"_s);
     setWindowTitle(title_);
     setSpokenRole(*this, QAccessible::Dialog);
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
     setFont(arial(points8_25));
     picLegenda_->setObjectName(u"picLegenda"_s);
     picLegenda_->setBackground(lightGrey);

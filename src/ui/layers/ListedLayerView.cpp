@@ -20,8 +20,12 @@ ListedLayerView::ListedLayerView(Surroundings with, ListBox& list, const Rules& 
             [this](const MapShown& shown) { return rules_.hitAreas(with_.state, list_.items(), shown); }) {
 }
 
+const MapLocation* ListedLayerView::selected() const {
+    return list_.hasSelection() ? &location(list_.selectedEntry().data, 0) : nullptr;
+}
+
 void ListedLayerView::drawMarkers(std::vector<Marker>& markers) const {
-    if (!panel().layerShown(rules_.layer))
+    if (!switchedOn())
         return;
     const MapShown shown = map().shown(panel().selection().zoneIndex());
     std::vector<Marker> own = rules_.markers(with_.state, list_.items(), shown);

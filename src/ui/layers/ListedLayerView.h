@@ -13,14 +13,18 @@ namespace orvinel {
 
 // A layer that marks the entries of one of the panel's lists: all that collectors, notes, chests and pets
 // have in common. Where they differ stands in their Rules.
-class ListedLayerView : public QObject, public MapLayer {
+class ListedLayerView : public QObject, public MapLayer, public ListedLayer {
     Q_OBJECT
   public:
     InformationWindow& window() { return *window_; }
 
+    const MapLocation* selected() const override;
+    bool switchedOn() const override { return panel().layerShown(rules_.tab); }
+    bool inFront() const override { return panel().tabs().active() == rules_.tab; }
+
   protected:
     struct Rules {
-        int layer; // index of its check box in the panel
+        Tab tab; // whose check box switches it
         std::vector<Marker> (*markers)(const Content&, ListedItems, const MapShown&);
         std::vector<HitArea> (*hitAreas)(const Content&, ListedItems, const MapShown&);
         const MapLocation& (*location)(const Content&, int id, int part);

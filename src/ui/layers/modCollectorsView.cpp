@@ -16,7 +16,7 @@ namespace {
 constexpr Caption listCaption = Caption::Collectors;
 constexpr Caption locationCaption = Caption::Location;
 constexpr Caption requestCaption = Caption::Collects;
-constexpr size_t bandColour = 1; // of TabColors
+constexpr Tab bandTab = Tab::Collectors; // whose colour the band has
 
 constexpr int width = 290;
 constexpr QPoint titleAt{14, 5};
@@ -42,7 +42,8 @@ const MapLocation& locationOf(const Content& state, int id, int) {
 
 CollectorsView::CollectorsView(const ProgramState& state, frmMenu& panel, frmMap& map)
     : ListedLayerView({state, panel, map}, *panel.collectorsPage().lstCollectors,
-                      {1, collectorMarkers, collectorHitAreas, locationOf, u"picCollectorToolTip"_s, width}) {
+                      {Tab::Collectors, collectorMarkers, collectorHitAreas, locationOf,
+                       u"picCollectorToolTip"_s, width}) {
     const auto label = [this](const QString& name, const QFont& font, Colour colour) {
         Label* created = informationLabel(name, font, colour, window());
         hideAllOnClick(this->map(), *created);
@@ -77,7 +78,7 @@ void CollectorsView::ShowSelectedCollector() {
 
 void CollectorsView::ShowCollectorTooltip(const HitArea& item) {
     FillCollectorTooltip(item.id);
-    frame(item, state().TabColors[bandColour], *lblCollName_);
+    frame(item, state().colourOf(bandTab), *lblCollName_);
     window().separator(lblCollLocation_->y() + lblCollLocation_->height() + lineBelowLocation);
 }
 

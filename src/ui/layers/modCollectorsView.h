@@ -14,6 +14,7 @@ class CollectorsView : public ListedLayerView {
     CollectorsView(const ProgramState& state, frmMenu& panel, frmMap& map);
 
     void FilterCollectors(bool updateMap);
+    void refilter(bool updateMap) override { FilterCollectors(updateMap); }
     void ShowSelectedCollector();
     void DrawCollectors(std::vector<Marker>& markers) const { drawMarkers(markers); }
     std::optional<HitArea> HitTestCollector(ViewPoint at) { return hitTest(at); }

@@ -49,8 +49,17 @@ void EliteView::FilterEliteSkills(bool updateMap) {
                      updateMap);
 }
 
+const MapLocation* EliteView::selected() const {
+    const ElitePage& page = panel_.elitePage();
+    if (!page.lstElite->hasSelection() || !page.lstLocations->hasSelection())
+        return nullptr;
+    const List1<MapLocation>& locations = state_.EliteSkills[page.lstElite->selectedEntry().data].Locations;
+    const int index = page.lstLocations->selectedEntry().data;
+    return locations.has(index) ? &locations[index] : nullptr;
+}
+
 void EliteView::DrawEliteSkills(std::vector<Marker>& markers) const {
-    if (!panel_.layerShown(0))
+    if (!switchedOn())
         return;
     const ElitePage& page = panel_.elitePage();
     std::vector<Marker> boxes =
@@ -81,8 +90,9 @@ bool EliteView::doubleClick(ViewPoint at) {
 EliteTooltip EliteView::FillEliteTooltip(EliteHit hit) {
     const ListedItems listed = panel_.elitePage().lstElite->items();
     const bool skillListed =
-        panel_.layerShown(0) && std::find(listed.begin(), listed.end(), hit.id) != listed.end();
-    const EliteTooltip tip = eliteTooltip(state_, hit, map_.shown(0), skillListed, panel_.layerShown(2));
+        panel_.layerShown(Tab::Elites) && std::find(listed.begin(), listed.end(), hit.id) != listed.end();
+    const EliteTooltip tip =
+        eliteTooltip(state_, hit, map_.shown(0), skillListed, panel_.layerShown(Tab::Greens));
     window_->fill(tip, tip.skillShown ? loadPicture(disk_, tip.picture, largestIcon) : QImage());
     return tip;
 }

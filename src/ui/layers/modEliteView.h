@@ -15,7 +15,7 @@
 namespace orvinel {
 
 // The elite skills in the panel and their bosses on the map.
-class EliteView : public QObject, public MapLayer {
+class EliteView : public QObject, public MapLayer, public ListedLayer {
   public:
     // Opens the dialog that marks the skill as captured: over the map and modal when asked for on the map,
     // else beside the panel.
@@ -28,6 +28,10 @@ class EliteView : public QObject, public MapLayer {
     InformationWindow& window() { return *window_; }
 
     void FilterEliteSkills(bool updateMap);
+    void refilter(bool updateMap) override { FilterEliteSkills(updateMap); }
+    const MapLocation* selected() const override;
+    bool switchedOn() const override { return panel_.layerShown(Tab::Elites); }
+    bool inFront() const override { return panel_.tabs().active() == Tab::Elites; }
     std::optional<EliteHit> HitTestElite(ViewPoint at);
     void appendMarkers(std::vector<Marker>& markers) override { DrawEliteSkills(markers); }
     bool mouseOver(ViewPoint at) override { return EliteMouseOver(at); }

@@ -25,17 +25,22 @@ void GreensView::FilterGreens(bool updateMap) {
                      updateMap);
 }
 
+const MapLocation* GreensView::selected() const {
+    const ListBox& list = *panel_.greensPage().lstGreens;
+    return list.hasSelection() ? greenLocation(state_, list.selectedEntry().data) : nullptr;
+}
+
 void GreensView::DrawGreens(std::vector<Marker>& markers) const {
-    if (!panel_.layerShown(2))
+    if (!switchedOn())
         return;
     std::vector<Marker> marks =
         greenMarkers(state_, panel_.greensPage().lstGreens->items(), panel_.elitePage().lstElite->items(),
-                     map_.shown(panel_.selection().zoneIndex()), panel_.layerShown(0));
+                     map_.shown(panel_.selection().zoneIndex()), panel_.layerShown(Tab::Elites));
     std::move(marks.begin(), marks.end(), std::back_inserter(markers));
 }
 
 void GreensView::ShowSelectedGreen() {
-    if (const MapLocation* at = greenLocation(state_, panel_.greensPage().lstGreens->selectedEntry().data))
+    if (const MapLocation* at = selected())
         showOnMap(map_, state_, RegionPoint::of(*at));
 }
 

@@ -10,12 +10,16 @@
 namespace orvinel {
 
 // The green items in the panel and their marks on the map. The window of their boss tells about them.
-class GreensView : public QObject, public MapLayer {
+class GreensView : public QObject, public MapLayer, public ListedLayer {
   public:
     // All arguments outlive the view.
     GreensView(const ProgramState& state, frmMenu& panel, frmMap& map);
 
     void FilterGreens(bool updateMap);
+    void refilter(bool updateMap) override { FilterGreens(updateMap); }
+    const MapLocation* selected() const override;
+    bool switchedOn() const override { return panel_.layerShown(Tab::Greens); }
+    bool inFront() const override { return panel_.tabs().active() == Tab::Greens; }
     void appendMarkers(std::vector<Marker>& markers) override { DrawGreens(markers); }
 
   private:

@@ -30,7 +30,7 @@ const MapLocation& locationOf(const Content& state, int index, int) {
 
 NotesView::NotesView(const ProgramState& state, frmMenu& panel, frmMap& map)
     : ListedLayerView({state, panel, map}, *panel.notesPage().lstNotes,
-                      {3, noteMarkers, noteHitAreas, locationOf, u"picNoteTooltip"_s, width}) {
+                      {Tab::Notes, noteMarkers, noteHitAreas, locationOf, u"picNoteTooltip"_s, width}) {
     lblShortDescription_ =
         informationLabel(u"lblShortDescription"_s, arial(points10, true), blackTitle, window());
     lblDescription_ = informationLabel(u"lblDescription"_s, arial(points8_25), whiteText, window());

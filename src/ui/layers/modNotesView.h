@@ -11,6 +11,7 @@ class NotesView : public ListedLayerView {
     NotesView(const ProgramState& state, frmMenu& panel, frmMap& map);
 
     void FilterNotes(bool updateMap);
+    void refilter(bool updateMap) override { FilterNotes(updateMap); }
     void ShowSelectedNote();
     void DrawNotes(std::vector<Marker>& markers) const { drawMarkers(markers); }
     std::optional<HitArea> FindNoteAt(ViewPoint at) { return hitTest(at); }

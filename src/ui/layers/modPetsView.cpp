@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr Caption listCaption = Caption::Pets;
-constexpr size_t bandColour = 4; // of TabColors
+constexpr Tab bandTab = Tab::Various; // whose colour the band has
 
 constexpr QPoint titleAt{14, 5};
 constexpr int left = 14;
@@ -30,8 +30,9 @@ const MapLocation& locationOf(const Content& state, int id, int part) {
 } // namespace
 
 PetsView::PetsView(const ProgramState& state, const Disk& disk, frmMenu& panel, frmMap& map)
-    : ListedLayerView({state, panel, map}, *panel.variousPage().lstPets,
-                      {4, petMarkers, petHitAreas, locationOf, u"picPetTooltip"_s, largestPicture.width()}),
+    : ListedLayerView(
+          {state, panel, map}, *panel.variousPage().lstPets,
+          {Tab::Various, petMarkers, petHitAreas, locationOf, u"picPetTooltip"_s, largestPicture.width()}),
       disk_(disk) {
     lblPetName_ = informationLabel(u"lblPetName"_s, arial(points10, true), blackTitle, window());
     imgPetImage_ = informationLabel(u"imgPetImage"_s, arial(points8_25), whiteText, window());
@@ -39,6 +40,14 @@ PetsView::PetsView(const ProgramState& state, const Disk& disk, frmMenu& panel, 
     const VariousPage& page = panel.variousPage();
     connect(page.lstPets, &ListBox::picked, this, &PetsView::ShowPetLocations);
     connect(page.lstPetLocations, &ListBox::picked, this, &PetsView::locationPicked);
+}
+
+const MapLocation* PetsView::selected() const {
+    const VariousPage& page = panel().variousPage();
+    if (!page.lstPets->hasSelection() || !page.lstPetLocations->hasSelection())
+        return nullptr;
+    return &locationOf(state(), page.lstPets->selectedEntry().data,
+                       page.lstPetLocations->selectedEntry().data);
 }
 
 void PetsView::FilterPets(bool updateMap) {
@@ -92,7 +101,7 @@ void PetsView::ShowPetTooltip(const HitArea& item) {
     lblPetName_->move(titleAt);
     imgPetImage_->move(left, titleAt.y() + lblPetName_->height() + belowTitle);
     window().resize(width, imgPetImage_->y() + imgPetImage_->height() + bottomMargin);
-    frame(item, state().TabColors[bandColour], *lblPetName_);
+    frame(item, state().colourOf(bandTab), *lblPetName_);
 }
 
 // A pet without a picture leaves an empty line as wide as its name.

@@ -13,6 +13,8 @@ class PetsView : public ListedLayerView {
     PetsView(const ProgramState& state, const Disk& disk, frmMenu& panel, frmMap& map);
 
     void FilterPets(bool updateMap);
+    const MapLocation* selected() const override;
+    void refilter(bool updateMap) override { FilterPets(updateMap); }
     void ShowPetLocations();
     void ShowSelectedPetLocation();
     void DrawPets(std::vector<Marker>& markers) const { drawMarkers(markers); }

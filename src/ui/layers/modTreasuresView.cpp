@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr Caption listCaption = Caption::Treasures;
-constexpr size_t bandColour = 4; // of TabColors
+constexpr Tab bandTab = Tab::Various; // whose colour the band has
 
 constexpr int width = 240;
 constexpr QPoint titleAt{14, 5};
@@ -31,8 +31,9 @@ const MapLocation& locationOf(const Content& state, int index, int) {
 
 TreasuresView::TreasuresView(const ProgramState& state, const Desktop& desktop, frmMenu& panel, frmMap& map,
                              std::function<void(int)> openTreasure)
-    : ListedLayerView({state, panel, map}, *panel.variousPage().lstKesraTreasures,
-                      {4, treasureMarkers, treasureHitAreas, locationOf, u"picTreasureTooltip"_s, width}),
+    : ListedLayerView(
+          {state, panel, map}, *panel.variousPage().lstKesraTreasures,
+          {Tab::Various, treasureMarkers, treasureHitAreas, locationOf, u"picTreasureTooltip"_s, width}),
       desktop_(desktop), openTreasure_(std::move(openTreasure)) {
     lblTreasureName_ = informationLabel(u"lblTreasureName"_s, arial(points10, true), blackTitle, window());
     lblTreasureOpenedBy_ =
@@ -89,7 +90,7 @@ void TreasuresView::ShowTreasureTooltip(const HitArea& item) {
     lblTreasureCharList_->move(left,
                                lblTreasureOpenedBy_->y() + lblTreasureOpenedBy_->height() + belowHeading);
     window().resize(width, lblTreasureCharList_->y() + lblTreasureCharList_->height() + bottomMargin);
-    frame(item, state().TabColors[bandColour], *lblTreasureName_);
+    frame(item, state().colourOf(bandTab), *lblTreasureName_);
 }
 
 QString TreasuresView::characterLines(const TreasureTooltip& tooltip) const {

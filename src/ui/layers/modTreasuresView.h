@@ -18,6 +18,7 @@ class TreasuresView : public ListedLayerView {
                   std::function<void(int index)> openTreasure);
 
     void FilterTreasures(bool updateMap);
+    void refilter(bool updateMap) override { FilterTreasures(updateMap); }
     void ShowSelectedTreasure();
     void DrawTreasures(std::vector<Marker>& markers) const { drawMarkers(markers); }
     std::optional<HitArea> HitTestTreasure(ViewPoint at) { return hitTest(at); }

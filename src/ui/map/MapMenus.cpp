@@ -3,7 +3,7 @@
 #include "app/Saving.h"
 #include "app/modLanguage.h"
 #include "layers/modNotes.h"
-#include "ui/panel/Controls.h"
+#include "ui/platform/ControlText.h"
 #include "world/modCampaigns.h"
 
 #include <QGuiApplication>
@@ -15,13 +15,6 @@ namespace orvinel {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr Caption regionCaption = Caption::Region;
-constexpr Caption notesCaption = Caption::Notes;
-constexpr Caption insertCaption = Caption::NewNoteHere;
-constexpr Caption editCaption = Caption::EditNote;
-constexpr Caption deleteCaption = Caption::DeleteNote;
-constexpr Caption deleteQuestion = Caption::DeleteNoteQuestion;
 
 QAction* addEntry(QMenu& menu, const QString& name, const QString& caption) {
     QAction* entry = menu.addAction(verbatim(caption));
@@ -46,7 +39,7 @@ std::vector<CampaignMenu> regionMenus(const ProgramState& state) {
     return menus;
 }
 
-MapMenus::MapMenus(Surroundings with, NoteActions actions)
+MapMenus::MapMenus(Surroundings with, Actions actions)
     : with_(with), actions_(std::move(actions)), MenuPopUp_(new QMenu(&with.map)),
       MenuPopupRegion_(new QMenu(&with.map)) {
     buildNoteMenu();
@@ -59,10 +52,10 @@ MapMenus::MapMenus(Surroundings with, NoteActions actions)
 void MapMenus::buildNoteMenu() {
     const ProgramState& state = with_.state;
     MenuPopUp_->setObjectName(u"MenuPopUp"_s);
-    MenuPopUp_->setAccessibleName(state.text(notesCaption));
-    mnuNoteInsert_ = addEntry(*MenuPopUp_, u"mnuNoteInsert"_s, state.text(insertCaption));
-    mnuNoteEdit_ = addEntry(*MenuPopUp_, u"mnuNoteEdit"_s, state.text(editCaption));
-    mnuNoteDelete_ = addEntry(*MenuPopUp_, u"mnuNoteDelete"_s, state.text(deleteCaption));
+    MenuPopUp_->setAccessibleName(state.text(Caption::Notes));
+    mnuNoteInsert_ = addEntry(*MenuPopUp_, u"mnuNoteInsert"_s, state.text(Caption::NewNoteHere));
+    mnuNoteEdit_ = addEntry(*MenuPopUp_, u"mnuNoteEdit"_s, state.text(Caption::EditNote));
+    mnuNoteDelete_ = addEntry(*MenuPopUp_, u"mnuNoteDelete"_s, state.text(Caption::DeleteNote));
     // Not at once: a screen reader that chooses waits for an answer, and the dialogs stay open for long.
     connect(mnuNoteInsert_, &QAction::triggered, this, &MapMenus::editNote, Qt::QueuedConnection);
     connect(mnuNoteEdit_, &QAction::triggered, this, &MapMenus::editNote, Qt::QueuedConnection);
@@ -71,7 +64,7 @@ void MapMenus::buildNoteMenu() {
 
 void MapMenus::buildRegionMenu() {
     MenuPopupRegion_->setObjectName(u"MenuPopupRegion"_s);
-    MenuPopupRegion_->setAccessibleName(with_.state.text(regionCaption));
+    MenuPopupRegion_->setAccessibleName(with_.state.text(Caption::Region));
     for (const CampaignMenu& campaign : regionMenus(with_.state)) {
         QMenu* submenu = MenuPopupRegion_->addMenu(verbatim(campaign.caption));
         submenu->setObjectName(arrayName(u"mnuCampaign"_s, campaign.campaign));
@@ -81,7 +74,7 @@ void MapMenus::buildRegionMenu() {
         for (const ListEntry& region : campaign.regions) {
             const QAction* entry = addEntry(*submenu, arrayName(name, ++i), region.text);
             connect(entry, &QAction::triggered, this,
-                    [this, c = campaign.campaign, r = region.data] { goToRegion(c, r); });
+                    [this, c = campaign.campaign, r = region.data] { actions_.chooseRegion(c, r); });
         }
     }
 }
@@ -103,15 +96,6 @@ void MapMenus::openNoteMenu(int note, MapPoint at, QPoint global) {
         MenuPopUp_->setActiveAction(there ? mnuNoteEdit_ : mnuNoteInsert_);
 }
 
-void MapMenus::goToRegion(int campaign, int region) {
-    SelectionArea& selection = with_.panel.selection();
-    // The lists are filled for the region that is chosen in the end, and only once.
-    with_.panel.MenuReady = false;
-    selection.cmbCampaign->select(selection.cmbCampaign->findData(campaign));
-    with_.panel.MenuReady = true;
-    selection.cmbRegion->select(selection.cmbRegion->findData(region));
-}
-
 void MapMenus::editNote() {
     NoteRequest request{-1, at_, with_.map.MapCampaign(), with_.map.MapRegion()};
     if (with_.state.Notes.has(note_)) {
@@ -119,19 +103,19 @@ void MapMenus::editNote() {
         const MapLocation& place = with_.state.Notes[note_].At;
         request = {note_, {place.X, place.Y}, place.Campaign, place.Region};
     }
-    if (actions_.edit(request) != -1)
-        actions_.refilter();
+    if (actions_.editNote(request) != -1)
+        actions_.refilterNotes();
 }
 
 void MapMenus::askToDelete() {
     ProgramState& state = with_.state;
-    if (!with_.desktop.ask(MessageIcon::Question, programName(), state.text(deleteQuestion)))
+    if (!with_.desktop.ask(MessageIcon::Question, programName(), state.text(Caption::DeleteNoteQuestion)))
         return;
     const auto remove = [&](bool evenIfChanged) {
         return deleteNote(state, with_.files, note_, evenIfChanged);
     };
     if (saveAndTell(state, with_.desktop, remove))
-        actions_.refilter();
+        actions_.refilterNotes();
 }
 
 } // namespace orvinel

@@ -2,9 +2,9 @@
 
 #include "app/ProgramState.h"
 #include "base/Desktop.h"
+#include "base/Listing.h"
 #include "base/PlayerFiles.h"
 #include "ui/map/frmMap.h"
-#include "ui/panel/frmMenu.h"
 
 #include <QMenu>
 
@@ -41,15 +41,16 @@ class MapMenus : public QObject {
         ProgramState& state;
         PlayerFiles& files;
         Desktop& desktop;
-        frmMenu& panel;
         frmMap& map;
     };
-    struct NoteActions {
-        std::function<int(const NoteRequest&)> edit; // the index of the note stored; -1: cancelled
-        std::function<void()> refilter;              // FilterNotes with True
+    struct Actions {
+        // Has the panel choose a region.
+        std::function<void(int campaign, int region)> chooseRegion;
+        std::function<int(const NoteRequest&)> editNote; // the index of the note stored; -1: cancelled
+        std::function<void()> refilterNotes;             // FilterNotes with True
     };
 
-    MapMenus(Surroundings with, NoteActions actions);
+    MapMenus(Surroundings with, Actions actions);
 
     // `global`: screen position of the menu's corner.
     void openRegionMenu(QPoint global);
@@ -59,12 +60,11 @@ class MapMenus : public QObject {
   private:
     void buildNoteMenu();
     void buildRegionMenu();
-    void goToRegion(int campaign, int region);
     void editNote();
     void askToDelete();
 
     Surroundings with_;
-    NoteActions actions_;
+    Actions actions_;
     QMenu* MenuPopUp_; // both are owned by the map window
     QMenu* MenuPopupRegion_;
     QAction* mnuNoteInsert_ = nullptr;

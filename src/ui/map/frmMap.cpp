@@ -36,8 +36,8 @@ frmMap::frmMap(Surroundings with, QWidget* owner)
     setWindowTitle(programName());
     setSpokenRole(*this, QAccessible::Window);
     setMinimumSize(smallest, smallest);
-    setCursor(programCursor(101));
-    viewport_->setCursor(programCursor(102));
+    setCursor(programCursor(Pointer::Usual));
+    viewport_->setCursor(programCursor(Pointer::OpenHand));
     buildButtons();
     connectViewport();
     new EdgeResize(*this, smallest, {viewport_});
@@ -182,7 +182,7 @@ void frmMap::press(Qt::MouseButton button, Qt::KeyboardModifiers keys, ViewPoint
     last_ = at;
     lastButton_ = button;
     if (button == Qt::LeftButton && keys == Qt::NoModifier) {
-        viewport_->setCursor(programCursor(103));
+        viewport_->setCursor(programCursor(Pointer::Fist));
         dragging_ = true;
         const MapPoint grip = toMap(at); // mouse minus scroll, rounded
         drag_ = {double(grip.x), double(grip.y)};
@@ -203,7 +203,7 @@ void frmMap::moveTo(ViewPoint at) {
 
 void frmMap::release(Qt::MouseButton button) {
     if (dragging_) {
-        viewport_->setCursor(programCursor(102));
+        viewport_->setCursor(programCursor(Pointer::OpenHand));
         with_.desktop.processPendingEvents();
         dragging_ = false;
     } else if (button == Qt::RightButton && with_.informationMode == 0) {

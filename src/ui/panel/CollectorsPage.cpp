@@ -15,7 +15,7 @@ constexpr std::array<QRect, 3> typePlaces = {QRect(2, 22, 95, 16), QRect(2, 38, 
 
 } // namespace
 
-CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(1, parent) {
+CollectorsPage::CollectorsPage(QWidget* parent) : TabPage(Tab::Collectors, parent) {
     lblCollStuffType = panelLabel(u"lblCollStuffType"_s, {4, 8}, inner());
     // Without a group of their own they would belong together with the levels, which lie deeper on this page:
     // a click on the type chosen would leave none chosen.

@@ -53,14 +53,6 @@ void leadToList(QLineEdit& field, ListBox& list) {
     });
 }
 
-QString arrayName(const QString& name, int index) {
-    return name + u'(' + QString::number(index) + u')';
-}
-
-QString verbatim(QString text) {
-    return text.replace(u'&', QLatin1String("&&"));
-}
-
 void setBackground(QWidget& widget, Colour colour) {
     QPalette colours = widget.palette();
     colours.setColor(QPalette::Window, toQColor(colour));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/platform/ControlText.h"
 #include "ui/platform/ItemCombo.h"
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
@@ -24,12 +25,6 @@ void setOptionCaption(QRadioButton& option, const QString& caption, const QStrin
 
 // Enter in the field leads to the list and, where nothing is selected, to its first entry.
 void leadToList(QLineEdit& field, ListBox& list);
-
-// "name(index)", the fixed name of a member of a control array.
-QString arrayName(const QString& name, int index);
-
-// A text for controls that take "&" for a mnemonic.
-QString verbatim(QString text);
 
 // Gives a widget that fills its background the colour.
 void setBackground(QWidget& widget, Colour colour);

@@ -12,7 +12,7 @@ constexpr int margin = 2; // the selection area's, which the lists follow
 
 } // namespace
 
-ElitePage::ElitePage(QWidget* parent) : TabPage(0, parent) {
+ElitePage::ElitePage(QWidget* parent) : TabPage(Tab::Elites, parent) {
     optCapture[0] = panelOption(u"optCapture(0)"_s, {0, 6, 171, 19}, inner());
     optCapture[1] = panelOption(u"optCapture(1)"_s, {0, 22, 133, 19}, inner());
     cmbCharacter = panelCombo(u"cmbCharacter"_s, {102, 20, 113, 22}, inner());

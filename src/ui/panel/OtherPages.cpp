@@ -4,7 +4,7 @@ namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
-GreensPage::GreensPage(QWidget* parent) : TabPage(2, parent) {
+GreensPage::GreensPage(QWidget* parent) : TabPage(Tab::Greens, parent) {
     lblGreenName = panelLabel(u"lblGreenName"_s, {4, 8}, inner());
     txtGreensName = panelField(u"txtGreensName"_s, {4, 22, 97, 21}, inner());
     lblGreenAdditional = panelLabel(u"lblGreenAdditional"_s, {106, 8}, inner());
@@ -28,7 +28,7 @@ void GreensPage::arrange() {
     lstGreens->resize(lstGreens->width(), innerHeight() - lstGreens->y() - 5);
 }
 
-NotesPage::NotesPage(QWidget* parent) : TabPage(3, parent) {
+NotesPage::NotesPage(QWidget* parent) : TabPage(Tab::Notes, parent) {
     lblNoteShortDesc = panelLabel(u"lblNoteShortDesc"_s, {4, 8}, inner());
     txtNoteShortDesc = panelField(u"txtNoteShortDesc"_s, {4, 22, 97, 21}, inner());
     lblNoteBody = panelLabel(u"lblNoteBody"_s, {106, 8}, inner());
@@ -51,7 +51,7 @@ void NotesPage::arrange() {
     lstNotes->resize(lstNotes->width(), innerHeight() - lstNotes->y() - 5);
 }
 
-VariousPage::VariousPage(QWidget* parent) : TabPage(4, parent) {
+VariousPage::VariousPage(QWidget* parent) : TabPage(Tab::Various, parent) {
     lblTreasures = panelLabel(u"lblTreasures"_s, {4, 4}, inner());
     lstKesraTreasures = panelList(u"lstKesraTreasures"_s, {2, 18, 213, 174}, inner());
     lblPets = panelLabel(u"lblPets"_s, {4, 200}, inner());

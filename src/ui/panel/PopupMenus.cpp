@@ -12,34 +12,35 @@ namespace {
 struct Row {
     MenuKind kind;
     Caption text = Caption::None; // not of separators
+    MenuAction action = MenuAction::None;
     bool enabled = true;
 };
 
-constexpr Row separator{MenuKind::Separator, Caption::None, false};
+constexpr Row separator{MenuKind::Separator, Caption::None, MenuAction::None, false};
 
-constexpr Row viewRows[] = {{MenuKind::Check, Caption::EliteSkills},
-                            {MenuKind::Check, Caption::Collectors},
-                            {MenuKind::Check, Caption::GreenItems},
-                            {MenuKind::Check, Caption::Notes},
-                            {MenuKind::Check, Caption::TreasuresAndPets}};
-constexpr Row optionRows[] = {{MenuKind::Check, Caption::ShowLegend},
-                              {MenuKind::Check, Caption::AlwaysOnTop},
+constexpr Row viewRows[] = {{MenuKind::Check, Caption::EliteSkills, MenuAction::SwitchElites},
+                            {MenuKind::Check, Caption::Collectors, MenuAction::SwitchCollectors},
+                            {MenuKind::Check, Caption::GreenItems, MenuAction::SwitchGreens},
+                            {MenuKind::Check, Caption::Notes, MenuAction::SwitchNotes},
+                            {MenuKind::Check, Caption::TreasuresAndPets, MenuAction::SwitchVarious}};
+constexpr Row optionRows[] = {{MenuKind::Check, Caption::ShowLegend, MenuAction::ToggleLegend},
+                              {MenuKind::Check, Caption::AlwaysOnTop, MenuAction::ToggleAlwaysOnTop},
                               separator,
-                              {MenuKind::Command, Caption::InformationWindows, false},
-                              {MenuKind::Option, Caption::RightClickStays},
-                              {MenuKind::Option, Caption::WhileRightButton},
-                              {MenuKind::Option, Caption::FollowMouse},
+                              {MenuKind::Command, Caption::InformationWindows, MenuAction::None, false},
+                              {MenuKind::Option, Caption::RightClickStays, MenuAction::RightClickStays},
+                              {MenuKind::Option, Caption::WhileRightButton, MenuAction::WhileRightButton},
+                              {MenuKind::Option, Caption::FollowMouse, MenuAction::FollowMouse},
                               separator,
-                              {MenuKind::Command, Caption::MyCharacters}};
-constexpr Row helpRows[] = {{MenuKind::Command, Caption::UpdateAndQuit},
-                            {MenuKind::Command, Caption::HomePage},
+                              {MenuKind::Command, Caption::MyCharacters, MenuAction::MyCharacters}};
+constexpr Row helpRows[] = {{MenuKind::Command, Caption::UpdateAndQuit, MenuAction::Update},
+                            {MenuKind::Command, Caption::HomePage, MenuAction::HomePage},
                             separator,
-                            {MenuKind::Command, Caption::ShowCredits},
-                            {MenuKind::Command, Caption::CreditsHeading},
-                            {MenuKind::Command, Caption::WhatIsNew},
-                            {MenuKind::Command, Caption::Help},
+                            {MenuKind::Command, Caption::ShowCredits, MenuAction::Credits},
+                            {MenuKind::Command, Caption::ProgramVersion},
+                            {MenuKind::Command, Caption::WhatIsNew, MenuAction::History},
+                            {MenuKind::Command, Caption::Help, MenuAction::Guide},
                             separator,
-                            {MenuKind::Command, Caption::About}};
+                            {MenuKind::Command, Caption::About, MenuAction::About}};
 
 int countOf(const MenuDefinition& menu, MenuKind kind) {
     return static_cast<int>(std::count_if(menu.Entries.begin(), menu.Entries.end(),
@@ -53,6 +54,7 @@ MenuDefinition build(const ProgramState& state, std::span<const Row> rows) {
         if (row.kind != MenuKind::Separator)
             entry.Caption = state.text(row.text);
         entry.Kind = row.kind;
+        entry.Action = row.action;
         entry.KindIndex = countOf(menu, row.kind);
         entry.Enabled = row.enabled;
         menu.Entries.push_back(entry);

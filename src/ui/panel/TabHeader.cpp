@@ -22,7 +22,7 @@ class TabHeaderAccessible : public QAccessibleWidget {
         QAccessible::State state = QAccessibleWidget::state();
         const auto* header = static_cast<TabHeader*>(widget());
         state.selectable = true;
-        state.selected = !header->tag().isEmpty();
+        state.selected = header->active();
         return state;
     }
     QString text(QAccessible::Text kind) const override {
@@ -47,19 +47,19 @@ void installTabAccessibility() {
     QAccessible::installFactory(makeAccessible);
 }
 
-TabHeader::TabHeader(int index, const QString& caption, Colour textColour, QWidget* parent)
+TabHeader::TabHeader(Tab tab, const QString& caption, Colour textColour, QWidget* parent)
     : QAbstractButton(parent), textColour_(textColour) {
-    setObjectName(arrayName(QStringLiteral("lblTab"), index));
+    setObjectName(arrayName(QStringLiteral("lblTab"), static_cast<int>(tab)));
     setText(caption);
     setFont(arial(points8_25, true));
     setFocusPolicy(Qt::NoFocus);
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
 }
 
-void TabHeader::setTag(const QString& tag) {
-    tag_ = tag;
+void TabHeader::setActive(bool active) {
+    active_ = active;
     // Tab stops at the active one only; the arrow keys go on from there.
-    setFocusPolicy(tag.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
+    setFocusPolicy(active ? Qt::TabFocus : Qt::NoFocus);
     QAccessible::State changed;
     changed.selected = true;
     QAccessibleStateChangeEvent event(this, changed);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tab.h"
 #include "base/Colour.h"
 
 #include <QAbstractButton>
@@ -10,11 +11,11 @@ namespace orvinel {
 class TabHeader : public QAbstractButton {
     Q_OBJECT
   public:
-    TabHeader(int index, const QString& caption, Colour textColour, QWidget* parent);
+    TabHeader(Tab tab, const QString& caption, Colour textColour, QWidget* parent);
 
-    // "1": its page is shown; empty: it is not.
-    const QString& tag() const { return tag_; }
-    void setTag(const QString& tag);
+    // Its page is shown.
+    bool active() const { return active_; }
+    void setActive(bool active);
     void setColour(Colour colour);
 
   signals:
@@ -27,7 +28,7 @@ class TabHeader : public QAbstractButton {
 
   private:
     Colour textColour_;
-    QString tag_;
+    bool active_ = false;
 };
 
 // Makes the headers known to screen readers; to be called once before the first is made.

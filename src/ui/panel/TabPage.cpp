@@ -14,11 +14,11 @@ constexpr QRect designPlace(-1, 194, 219, 541);
 
 } // namespace
 
-TabPage::TabPage(int index, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
-    setObjectName(arrayName(QStringLiteral("picTab"), index));
+TabPage::TabPage(Tab tab, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
+    setObjectName(arrayName(QStringLiteral("picTab"), static_cast<int>(tab)));
     setGeometry(designPlace);
     setSpokenRole(*this, QAccessible::Pane);
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
     // A press beside the controls is not one on the panel's own background, which drags it.
     setAttribute(Qt::WA_NoMousePropagation);
     hide();

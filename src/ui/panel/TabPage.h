@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tab.h"
 #include "base/Colour.h"
 
 #include <QWidget>
@@ -11,7 +12,7 @@ namespace orvinel {
 class TabPage : public QWidget {
     Q_OBJECT
   public:
-    TabPage(int index, QWidget* parent);
+    TabPage(Tab tab, QWidget* parent);
 
     QWidget* inner() const { return inner_; }
     // Stretches the page's lists; called when the page's height has changed.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ProgramState.h"
+#include "app/Tab.h"
 #include "ui/panel/TabHeader.h"
 #include "ui/panel/TabPage.h"
 #include "ui/platform/SmallCheckBox.h"
@@ -8,10 +9,9 @@
 #include <QObject>
 
 #include <array>
+#include <optional>
 
 namespace orvinel {
-
-inline constexpr int tabCount = 5;
 
 // The five tabs in two rows, their layer check boxes, and which page is shown. The row of the active tab
 // always lies next to the pages. The widgets are children of the panel.
@@ -27,20 +27,20 @@ class TabStrip : public QObject {
     void applyColours(const ProgramState& state);
     // What screen readers call the check boxes.
     void applyCaptions(const ProgramState& state);
+    // The layers that are remembered as shown, and back.
+    void applyOptions(const Options& options);
+    void readOptions(Options& options) const;
     // lblTab_Click.
-    void activate(int index);
+    void activate(Tab tab);
     // The same by the player: the header has the focus afterwards, so that Tab leads into the page.
-    void activateWithFocus(int index);
+    void activateWithFocus(Tab tab);
     // To the tab so many further on, round the ends.
     void step(int by);
-    // -1: none yet.
-    int active() const;
-
-  signals:
-    void activated(int index);
+    // Nothing before the first.
+    std::optional<Tab> active() const;
 
   private:
-    void swapRows(int left, int right);
+    void swapRows(Tab left, Tab right);
 
     std::array<TabPage*, tabCount> pages_;
     QWidget* picFalseBorder_;

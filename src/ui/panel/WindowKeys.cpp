@@ -1,7 +1,5 @@
 #include "ui/panel/WindowKeys.h"
 
-#include "ui/panel/TabStrip.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -39,7 +37,7 @@ bool WindowKeys::press(const QKeyEvent& key, QWidget* window) {
     if (held & Qt::ControlModifier)
         return pressWithControl(key.key());
     if (held == Qt::AltModifier && key.key() >= Qt::Key_1 && key.key() < Qt::Key_1 + tabCount) {
-        emit pageWanted(key.key() - Qt::Key_1);
+        emit pageWanted(static_cast<Tab>(key.key() - Qt::Key_1));
         return true;
     }
     switch (key.key()) {

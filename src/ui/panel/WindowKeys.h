@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Tab.h"
+
 #include <QObject>
 
 #include <vector>
@@ -19,7 +21,7 @@ class WindowKeys : public QObject {
 
   signals:
     void menuBarWanted();
-    void pageWanted(int index);
+    void pageWanted(orvinel::Tab tab);
     // 1: the next page, -1: the one before.
     void pageStepWanted(int step);
     // The control that has the focus gets the key too.

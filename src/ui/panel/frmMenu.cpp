@@ -47,7 +47,7 @@ frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     setAccessibleName(titleText());
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
     cmdQuit_ = new PictureButton(u"cmdQuit"_s, u":/windows/quit.png"_s, state.text(Caption::Quit), this);
     cmdQuit_->move(quitPlace);
     connect(cmdQuit_, &QAbstractButton::clicked, this, [this] { hooks_.quit(); });
@@ -83,7 +83,7 @@ void frmMenu::orderTabStops() {
     for (SmallCheckBox* box : tabs_->chkShowObject)
         append(box);
     for (TabHeader* header : tabs_->lblTab)
-        header->setTag({});
+        header->setActive(false);
     setTabOrder(variousPage_->lstPetLocations, cmdQuit_);
     selection_->cmbCampaign->setFocus();
 }
@@ -92,7 +92,7 @@ void frmMenu::Form_Load() {
     ApplyPanelCaptions();
     RefillPanel();
     ApplyTabColours();
-    tabs_->activate(0);
+    tabs_->activate(Tab::Elites);
     selection_->cmbProfession->setDropRows(-1);
     elitePage_->cmbSecondaryProfession->setDropRows(-1);
     elitePage_->cmbCharacter->setDropRows(-1);
@@ -113,8 +113,8 @@ void frmMenu::ApplyPanelCaptions() {
 void frmMenu::ApplyTabColours() {
     tabs_->applyColours(state_);
     for (QRadioButton* option : elitePage_->optCapture)
-        setBackground(*option, state_.TabColors[0]);
-    collectorsPage_->applyColour(state_.TabColors[1]);
+        setBackground(*option, state_.colourOf(Tab::Elites));
+    collectorsPage_->applyColour(state_.colourOf(Tab::Collectors));
 }
 
 void frmMenu::RefillPanel() {
@@ -130,6 +130,14 @@ void frmMenu::RefillPanel() {
     ApplyOptionsToPanel();
     MenuReady = true;
     runFilters(Filter::Elites, Filter::Pets);
+}
+
+void frmMenu::chooseRegion(int campaign, int region) {
+    {
+        const auto guard = notReady(MenuReady);
+        selection_->cmbCampaign->select(selection_->cmbCampaign->findData(campaign));
+    }
+    selection_->cmbRegion->select(selection_->cmbRegion->findData(region));
 }
 
 void frmMenu::FillCharacterList() {
@@ -153,10 +161,7 @@ void frmMenu::ApplyOptionsToPanel() {
     if (!options.AllElite)
         choose(elitePage_->cmbCharacter, options.Character);
     MenuLegendShown = options.Legend ? 1 : 0;
-    const std::array<int, 4> shown = {options.ShowElites, options.ShowCollectors, options.ShowGreens,
-                                      options.ShowNotes};
-    for (size_t i = 0; i < shown.size(); ++i)
-        tabs_->chkShowObject[i]->setValue(shown[i]);
+    tabs_->applyOptions(options);
     MenuRightClickNeeded = options.RightClickNeeded;
     collectorsPage_->setLevel(options.CollectorLevel);
     MenuAlwaysOnTop = options.AlwaysOnTop;
@@ -170,10 +175,7 @@ void frmMenu::readOptions(Options& options) const {
     options.SecondaryProfession = elitePage_->cmbSecondaryProfession->currentIndex();
     options.AllElite = elitePage_->optCapture[0]->isChecked();
     options.Character = elitePage_->cmbCharacter->currentIndex();
-    options.ShowElites = tabs_->chkShowObject[0]->value();
-    options.ShowCollectors = tabs_->chkShowObject[1]->value();
-    options.ShowGreens = tabs_->chkShowObject[2]->value();
-    options.ShowNotes = tabs_->chkShowObject[3]->value();
+    tabs_->readOptions(options);
     options.RightClickNeeded = MenuRightClickNeeded;
     options.AlwaysOnTop = MenuAlwaysOnTop;
     options.CollectorLevel = collectorsPage_->level();
@@ -217,7 +219,7 @@ void frmMenu::runFilter(const Refill& refill, bool updateMap) {
 
 void frmMenu::runFilters(Filter first, Filter last) {
     for (int i = static_cast<int>(first); i <= static_cast<int>(last); ++i)
-        hooks_.filters[size_t(i)](i == static_cast<int>(last));
+        hooks_.layers[size_t(i)]->refilter(i == static_cast<int>(last));
 }
 
 void frmMenu::connectSelection() {
@@ -228,9 +230,9 @@ void frmMenu::connectSelection() {
     connect(selection_->cmbAttribute, &ItemCombo::picked, this,
             [this] { runFilters(Filter::Elites, Filter::Notes); });
     connect(menuBar_, &MenuBar::menuWanted, this, [this](int menu) { hooks_.openMenu(menu); });
-    for (int i = 0; i < tabCount; ++i)
-        connect(tabs_->chkShowObject[size_t(i)], &SmallCheckBox::changed, this,
-                [this, i] { layerSwitched(i); });
+    for (const Tab tab : allTabs)
+        connect(tabs_->chkShowObject[indexOf(tab)], &SmallCheckBox::changed, this,
+                [this, tab] { layerSwitched(tab); });
 }
 
 void frmMenu::connectElitePage() {
@@ -242,7 +244,7 @@ void frmMenu::connectElitePage() {
     for (QRadioButton* option : elitePage_->optCapture)
         connect(option, &QRadioButton::toggled, this, [this, filter](bool on) {
             if (!on)
-                return; // the other one tells
+                return; // the other one says it
             elitePage_->cmbCharacter->setEnabled(elitePage_->optCapture[1]->isChecked());
             filter();
         });
@@ -258,13 +260,12 @@ void frmMenu::connectCollectorsPage() {
             if (on)
                 collectorTypePicked(i);
         });
-        connect(
-            collectorsPage_->optCollLevel[size_t(i)], &QRadioButton::toggled, this, [this, filter](bool on) {
-                if (!on)
-                    return;
-                collectorsPage_->cmbCollReq->setEntries(requestTypeEntries(state_, collectorsPage_->level()));
-                collectorsPage_->cmbCollReq->select(0);
-            });
+        connect(collectorsPage_->optCollLevel[size_t(i)], &QRadioButton::toggled, this, [this](bool on) {
+            if (!on)
+                return;
+            collectorsPage_->cmbCollReq->setEntries(requestTypeEntries(state_, collectorsPage_->level()));
+            collectorsPage_->cmbCollReq->select(0);
+        });
     }
 }
 
@@ -322,6 +323,7 @@ void frmMenu::professionPicked() {
 void frmMenu::collectorTypePicked(int index) {
     const bool handMatters = index != 2;
     if (!handMatters) {
+        // Ready afterwards whatever it was: the choice of armour ends a load as any other.
         MenuReady = false;
         collectorsPage_->cmbCollHand->select(0);
         MenuReady = true;
@@ -331,10 +333,10 @@ void frmMenu::collectorTypePicked(int index) {
     runFilters(Filter::Collectors, Filter::Collectors);
 }
 
-void frmMenu::layerSwitched(int layer) {
+void frmMenu::layerSwitched(Tab tab) {
     if (!MenuReady)
         return;
-    hooks_.switchFlashing(layer, layerShown(layer));
+    hooks_.switchFlashing(tab, layerShown(tab));
     hooks_.drawMap();
 }
 

@@ -12,6 +12,7 @@
 #include "ui/panel/OtherPages.h"
 #include "ui/panel/SelectionArea.h"
 #include "ui/panel/TabStrip.h"
+#include "ui/platform/ListedLayer.h"
 #include "ui/platform/Windows.h"
 
 #include <QAbstractButton>
@@ -22,19 +23,18 @@
 
 namespace orvinel {
 
-// The layer filters in the order in which a change runs them.
+// The layers' filters in the order in which a change runs them.
 enum class Filter { Elites, Collectors, Greens, Notes, Treasures, Pets };
 inline constexpr int filterCount = 6;
 
-// What the panel calls; wired by the program. Each refills one list; with True it has the map redrawn
-// afterwards.
+// What the panel calls; wired by the program.
 struct PanelHooks {
-    std::array<std::function<void(bool updateMap)>, filterCount> filters;
+    std::array<ListedLayer*, filterCount> layers{}; // by Filter; they outlive the panel's use
     // Shows a region on the map; an empty path and -1, -1 show none.
     std::function<void(const QString& picture, int campaign, int region)> showRegion;
     std::function<void()> updateMap; // UpdateMapWithNewEliteSkills
     std::function<void()> drawMap;   // DrawEverythingOnMap
-    std::function<void(int layer, bool on)> switchFlashing;
+    std::function<void(Tab tab, bool on)> switchFlashing;
     std::function<void(int menu)> openMenu;
     std::function<void()> quit;
     std::function<bool()> maximised; // the pair of windows fills the screen
@@ -72,7 +72,7 @@ class frmMenu : public QWidget {
     TreasureChoice treasureChoice() const { return {selection_->place()}; }
     PetChoice petChoice() const { return {selection_->place()}; }
     // True when the layer's check box has the value 1.
-    bool layerShown(int layer) const { return tabs_->chkShowObject[size_t(layer)]->value() == 1; }
+    bool layerShown(Tab tab) const { return tabs_->chkShowObject[indexOf(tab)]->value() == 1; }
 
     // The protocol of every layer filter. `caption`: the text that stands before ": count".
     struct Refill {
@@ -83,6 +83,8 @@ class frmMenu : public QWidget {
     };
     void runFilter(const Refill& refill, bool updateMap);
 
+    // Has the map show the region; the lists are filled once, for the region chosen in the end.
+    void chooseRegion(int campaign, int region);
     // Fills cmbCharacter anew after the characters changed; the first entry is selected.
     void FillCharacterList();
     // The selection and options as they stand, into those that are saved.
@@ -119,7 +121,7 @@ class frmMenu : public QWidget {
     void zonePicked();
     void professionPicked();
     void collectorTypePicked(int index);
-    void layerSwitched(int layer);
+    void layerSwitched(Tab tab);
 
     const ProgramState& state_;
     Desktop& desktop_;

@@ -79,7 +79,7 @@ frmPopupMenu::frmPopupMenu(const ProgramState& state, QWidget* panel)
       lblFalseHole(patch(u"lblFalseHole"_s, barBlue, this)) {
     installMenuAccessibility();
     setObjectName(u"frmPopupMenu"_s);
-    setCursor(programCursor(101));
+    setCursor(programCursor(Pointer::Usual));
     setFont(arial(points8_25));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -135,7 +135,8 @@ void chooseWindowSystem() {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-QCursor programCursor(int number) {
+QCursor programCursor(Pointer pointer) {
+    const int number = static_cast<int>(pointer);
     const QPoint at = hotSpot(number);
     // Under X11 a pointer's picture is shown as it is, at every scale factor.
     const qreal scale = QGuiApplication::platformName() == u"xcb"_s ? qGuiApp->devicePixelRatio() : 1;

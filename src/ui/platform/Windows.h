@@ -9,9 +9,13 @@ class QApplication;
 
 namespace orvinel {
 
-// The program's own mouse pointers, by number: 101 everywhere, 102 over the map and over links, 103 while
-// dragging.
-QCursor programCursor(int number);
+// The program's own mouse pointers, by the numbers of their resources.
+enum class Pointer {
+    Usual = 101,
+    OpenHand = 102, // over the map and over links
+    Fist = 103      // while dragging
+};
+QCursor programCursor(Pointer pointer);
 
 // To be called before the application object is made: windows can be placed and kept on top under X11 only,
 // so it is preferred to Wayland.
