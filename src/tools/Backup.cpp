@@ -2,6 +2,9 @@
 
 #include "base/FileDisk.h"
 #include "tools/TarArchive.h"
+#ifdef ORVINEL_ZIP
+#include "tools/ZipArchive.h"
+#endif
 #include "world/modCampaigns.h"
 
 #include <QCryptographicHash>
@@ -18,7 +21,13 @@ namespace {
 
 constexpr int deepestFolder = 8;
 const QString sumsName = QStringLiteral("SHA256SUMS");
-const QString extension = QStringLiteral(".tar");
+const QString zipExtension = QStringLiteral(".zip");
+const QString tarExtension = QStringLiteral(".tar");
+#ifdef ORVINEL_ZIP
+const QString newExtension = zipExtension;
+#else
+const QString newExtension = tarExtension;
+#endif
 const QString datedPrefix = QStringLiteral("orvinel-");
 const QString optionsName = QStringLiteral("Data/Options.txt");
 const QString personalName = QStringLiteral("Personal");
@@ -29,6 +38,25 @@ QByteArray sumsOf(const std::vector<ArchivedFile>& files) {
         sums += QCryptographicHash::hash(file.bytes, QCryptographicHash::Sha256).toHex() + "  " +
                 file.name.toUtf8() + '\n';
     return sums;
+}
+
+// Empty when the archive cannot be made.
+QByteArray archived(const QString& path, const std::vector<ArchivedFile>& files, const QDateTime& now) {
+    if (path.endsWith(tarExtension))
+        return writeTar(files, now).value_or(QByteArray());
+#ifdef ORVINEL_ZIP
+    return writeZip(files, now);
+#else
+    return {};
+#endif
+}
+
+ArchiveContent readArchive(const QByteArray& bytes) {
+#ifdef ORVINEL_ZIP
+    if (bytes.startsWith("PK"))
+        return readZip(bytes);
+#endif
+    return readTar(bytes);
 }
 
 // An archive from elsewhere must not write outside the player's files.
@@ -109,14 +137,20 @@ class Gatherer {
 } // namespace
 
 QString Backup::pathOf(const QString& name) const {
-    return folder_ + u"Backups/"_s + name + (name.endsWith(extension) ? QString() : extension);
+    const QString path = folder_ + u"Backups/"_s + name;
+    for (const QString& extension : {zipExtension, tarExtension})
+        if (name.endsWith(extension))
+            return path;
+    const bool isOld = disk_.read(path + tarExtension).outcome != ReadResult::Outcome::NotThere;
+    return path + (isOld ? tarExtension : newExtension);
 }
 
 QStringList Backup::list() const {
     QStringList names;
     for (const QString& name : disk_.list(folder_ + u"Backups"_s))
-        if (name.endsWith(extension))
-            names << name.chopped(extension.size());
+        for (const QString& extension : {zipExtension, tarExtension})
+            if (name.endsWith(extension))
+                names << name.chopped(extension.size());
     std::sort(names.begin(), names.end()); // without the extension a second one of a second comes second
     return names;
 }
@@ -147,7 +181,7 @@ Backup::Content Backup::content(const QString& name) const {
             read.outcome == ReadResult::Outcome::Failed ? read.reason : u"there is no such backup"_s;
         return archive;
     }
-    TarContent content = readTar(read.bytes);
+    ArchiveContent content = readArchive(read.bytes);
     archive.problem = content.problem.isEmpty() ? problemOf(content.files) : content.problem;
     archive.files = std::move(content.files);
     return archive;
@@ -170,12 +204,12 @@ Backup::Result Backup::saveAs(const QString& file) {
         return {false, u"there is nothing to save"_s};
     std::vector<ArchivedFile> entries = gatherer.files;
     entries.push_back({sumsName, sumsOf(entries)});
-    const auto archive = writeTar(entries, now_());
-    if (!archive)
-        return {false, u"a file's name is too long for an archive"_s};
-    if (archive->size() > largestDataFile)
+    const QByteArray archive = archived(path, entries, now_());
+    if (archive.isEmpty())
+        return {false, u"no archive can be made of it: is a file's name too long?"_s};
+    if (archive.size() > largestDataFile)
         return {false, u"the player's files are larger than 64 MB together"_s};
-    if (const DiskError error = disk_.replace(path, *archive))
+    if (const DiskError error = disk_.replace(path, archive))
         return {false, u"%1: %2"_s.arg(path, *error)};
     const Content written = content(file);
     if (!written.problem.isEmpty() || written.files != gatherer.files)

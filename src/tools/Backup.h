@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "tools/TarArchive.h"
+#include "tools/Archive.h"
 
 #include <QDateTime>
 #include <QString>
@@ -14,9 +14,10 @@ namespace orvinel {
 
 // Keeps the player's files (everything in Personal, and Data/Options.txt) as archives in the folder Backups.
 //
-// An archive is a ustar file, which tar opens; its last entry SHA256SUMS holds the files' check sums as
-// sha256sum -c reads them. Nothing is ever overwritten unless told to, and what then is overwritten has been
-// archived before. The program must not run meanwhile: the caller sees to that.
+// An archive is a .zip file, which every system opens, or a .tar file of an earlier version; its last entry
+// SHA256SUMS holds the files' check sums as sha256sum -c reads them. Nothing is ever overwritten unless told
+// to, and what then is overwritten has been archived before. The program must not run meanwhile: the caller
+// sees to that.
 class Backup {
   public:
     // `folder` ends in '/'. `now` gives the time for names and entries.
@@ -28,10 +29,10 @@ class Backup {
         QString text; // what was done, or why not; may be several lines
     };
 
-    // `name`: a file name with or without ".tar"; empty: one made of date and time. Written whole or not at
-    // all, and read back before it counts.
+    // `name`: a file name with or without ".zip" or ".tar"; empty: one made of date and time. Written whole
+    // or not at all, and read back before it counts.
     Result save(const QString& name = {});
-    // Names of the archives without their ".tar", sorted; those named by date are in the order of their
+    // Names of the archives without their ending, sorted; those named by date are in the order of their
     // making.
     QStringList list() const;
     // `name` empty, here and in restore: the latest one named by date.

@@ -12,7 +12,10 @@
 
 #include <shellapi.h>
 #else
+#include <langinfo.h>
 #include <unistd.h>
+
+#include <clocale>
 #endif
 
 namespace orvinel {
@@ -83,6 +86,11 @@ QString programFolder(const QString& argument) {
 
 CommandLine::CommandLine(const ToolTable& table, int argc, char** argv)
     : name_(table.name.toLatin1()), argv_{name_.data(), nullptr}, application_(argc_, argv_) {
+#ifndef Q_OS_WIN
+    // Names in archives go through the C library's locale; files' names are UTF-8 to Qt whatever that is.
+    if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0)
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+#endif
     parser_.setApplicationDescription(table.description);
     for (const ToolTable::Word& word : table.words)
         parser_.addPositionalArgument(word.name, word.description, word.name);

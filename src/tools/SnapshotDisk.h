@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Disk.h"
-#include "tools/TarArchive.h"
+#include "tools/Archive.h"
 
 #include <QHash>
 #include <QString>

@@ -91,7 +91,7 @@ qsizetype padding(qsizetype size) {
 }
 
 // Reads the entry at `at` and moves behind it; the reason when it cannot be used.
-QString readEntry(const QByteArray& bytes, qsizetype& at, TarContent& content) {
+QString readEntry(const QByteArray& bytes, qsizetype& at, ArchiveContent& content) {
     const QByteArrayView header = QByteArrayView(bytes).sliced(at, blockSize);
     const auto size = numberOf(header, sizeField);
     if (numberOf(header, checksumField) != checksum(header.toByteArray()))
@@ -126,9 +126,9 @@ std::optional<QByteArray> writeTar(const std::vector<ArchivedFile>& files, const
     return archive + QByteArray(2 * blockSize, '\0');
 }
 
-TarContent readTar(const QByteArray& bytes) {
+ArchiveContent readTar(const QByteArray& bytes) {
     const QByteArray zeros(blockSize, '\0');
-    TarContent content;
+    ArchiveContent content;
     qsizetype at = 0;
     while (content.problem.isEmpty()) {
         if (bytes.size() - at < blockSize)

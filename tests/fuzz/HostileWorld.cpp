@@ -177,7 +177,7 @@ QString startWith(const HostileFile& file, const QByteArray& bytes) {
 
 QString readArchive(const QByteArray& bytes) {
     const QDateTime then(QDate(2026, 3, 7), QTime(12, 0));
-    const TarContent content = readTar(bytes);
+    const ArchiveContent content = readTar(bytes);
     if (content.problem.isEmpty())
         if (const auto written = writeTar(content.files, then))
             if (readTar(*written).files != content.files)

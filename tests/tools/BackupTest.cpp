@@ -1,6 +1,7 @@
 #include "tools/Backup.h"
 #include "support/MemoryDisk.h"
 #include "tools/TarArchive.h"
+#include "tools/ZipArchive.h"
 
 #include <gtest/gtest.h>
 
@@ -97,22 +98,34 @@ TEST_F(BackupTest, aRestoreThatFailsHalfWayIsTakenBack) {
 }
 
 TEST_F(BackupTest, everyDamageIsFound) {
-    ASSERT_TRUE(backup.save(u"a"_s).good);
-    const QString path = u"/o/Backups/a.tar"_s;
-    const QByteArray whole = disk.content(path);
-    int undetected = 0;
-    for (qsizetype at = 0; at < whole.size(); at += 7) {
-        QByteArray damaged = whole;
-        damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
-        disk.put(path, damaged);
-        // The padding between the files means nothing.
-        undetected += backup.verify(u"a"_s).good && whole[at] != '\0' ? 1 : 0;
+    for (const QString& name : {u"a.zip"_s, u"b.tar"_s}) {
+        ASSERT_TRUE(backup.save(name).good);
+        const QString path = u"/o/Backups/"_s + name;
+        const bool isTar = name.endsWith(u".tar"_s);
+        const QByteArray whole = disk.content(path);
+        int undetected = 0;
+        for (qsizetype at = 0; at < whole.size(); at += isTar ? 7 : 1) {
+            QByteArray damaged = whole;
+            damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+            disk.put(path, damaged);
+            // The padding between the files of a .tar means nothing.
+            undetected += backup.verify(name).good && (!isTar || whole[at] != '\0') ? 1 : 0;
+        }
+        EXPECT_EQ(0, undetected) << name.toStdString();
+        for (qsizetype size = 0; size < whole.size() - (isTar ? 512 : 0); size += isTar ? 256 : 1) {
+            disk.put(path, whole.first(size));
+            EXPECT_FALSE(backup.verify(name).good) << size;
+        }
     }
-    EXPECT_EQ(0, undetected);
-    for (qsizetype size = 0; size < whole.size() - 512; size += 256) {
-        disk.put(path, whole.first(size));
-        EXPECT_FALSE(backup.verify(u"a"_s).good) << size;
-    }
+}
+
+TEST_F(BackupTest, readsWhatEarlierVersionsSaved) {
+    ASSERT_TRUE(backup.save(u"old.tar"_s).good);
+    EXPECT_EQ(QStringList{u"old"_s}, backup.list());
+    EXPECT_FALSE(backup.save(u"old"_s).good); // a name stands for one archive
+    disk.remove(u"/o/Personal/Characters.txt"_s);
+    EXPECT_TRUE(backup.restore(u"old"_s, false).good);
+    EXPECT_EQ("01\tAda\r\n", content("Personal/Characters.txt"));
 }
 
 TEST_F(BackupTest, anArchiveFromElsewhereCannotWriteOutsideThePlayersFiles) {
@@ -122,9 +135,12 @@ TEST_F(BackupTest, anArchiveFromElsewhereCannotWriteOutsideThePlayersFiles) {
             QByteArray("2d711642b726b04401627ca9fbac32f5c8530fb1903cc4db02258717921a4881  ") + name.toUtf8() +
             '\n';
         disk.put(u"/o/Backups/evil.tar"_s, *writeTar({{name, "x"}, {u"SHA256SUMS"_s, sums}}, noon));
-        const Backup::Result result = backup.restore(u"evil"_s, true);
-        EXPECT_FALSE(result.good) << name.toStdString();
-        EXPECT_TRUE(result.text.contains(u"does not belong"_s)) << result.text.toStdString();
+        disk.put(u"/o/Backups/evil.zip"_s, writeZip({{name, "x"}, {u"SHA256SUMS"_s, sums}}, noon));
+        for (const QString& archive : {u"evil.tar"_s, u"evil.zip"_s}) {
+            const Backup::Result result = backup.restore(archive, true);
+            EXPECT_FALSE(result.good) << name.toStdString();
+            EXPECT_TRUE(result.text.contains(u"does not belong"_s)) << result.text.toStdString();
+        }
     }
     EXPECT_FALSE(backup.restore(u"../Data/x"_s, true).good);
 }
@@ -135,6 +151,7 @@ TEST(TarArchive, keepsLongNamesAndRefusesThoseThatDoNotFit) {
     const auto archive = writeTar(files, noon);
     ASSERT_TRUE(archive);
     EXPECT_EQ(files, readTar(*archive).files);
+    EXPECT_EQ(files, readZip(writeZip(files, noon)).files);
     EXPECT_FALSE(writeTar({{QString(101, u'x'), {}}}, noon));
 }
 
