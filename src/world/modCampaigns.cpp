@@ -3,6 +3,8 @@
 #include "base/TextFile.h"
 #include "world/World.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <array>
 
