@@ -144,7 +144,10 @@ TEST_F(AtlasFolderTest, leavesWhatItCannotFinishAsItWas) {
     EXPECT_EQ(QStringList(u"out"_s), beside());
     files.push_back({u"index.html/below a file"_s, "x", {}});
     disk.unreadable.clear();
-    EXPECT_TRUE(write()) << "a file that cannot be written";
+    const DiskError unwritable = write();
+    ASSERT_TRUE(unwritable) << "a file that cannot be written";
+    EXPECT_TRUE(QDir::fromNativeSeparators(*unwritable).startsWith(out + u"/index.html/below a file: "_s))
+        << unwritable->toStdString();
     EXPECT_EQ(QStringList(u"out"_s), beside());
 }
 

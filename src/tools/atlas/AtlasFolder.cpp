@@ -125,8 +125,10 @@ DiskError writeAtlasFolder(const Disk& disk, const QString& folder, const std::v
     DiskError error = writeAll(disk, made, files, progress);
     if (!error)
         error = putInPlace(made, folder);
-    if (error)
+    if (error) {
         QDir(made).removeRecursively();
+        error->replace(systemPath(made), systemPath(folder)); // the name that the player gave
+    }
     return error;
 }
 
