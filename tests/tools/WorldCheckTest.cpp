@@ -54,6 +54,27 @@ TEST_F(WorldCheckTest, aWorldInOrderHasNoFindings) {
     EXPECT_TRUE(summaryText(checkWorld(disk, u"/o/"_s)).contains(u"      1 chests\n"_s));
 }
 
+TEST_F(WorldCheckTest, warnsOfWhatWorksButLooksBad) {
+    add("EliteLocations.txt", "7\t1\t3000\t3000\tAlone\t1a\t5\r\n7\t1\t6000\t3000\tTwice\t\t5\r\n"
+                              "7\t1\t6000\t3000\tTwice\tPPP\t5\r\n");
+    QByteArray note;
+    for (int line = 0; line < 70; ++line)
+        note += "line\\n";
+    add("EliteLocations.txt", "7\t1\t9000\t3000\tTall\t\t5\t" + note + "\r\n");
+    disk.put(u"/o/Campaign.03.Sunhollow/1.jpg"_s,
+             QByteArray::fromHex("ffd8ffe0000400ffffc0000b08ffffffff") + QByteArray(40000, '\0'));
+    const WorldFindings result = checkWorld(disk, u"/o/"_s);
+    EXPECT_EQ(0, result.counts.errors);
+    const std::vector<std::string> lines = findings();
+    ASSERT_EQ(5u, lines.size()) << testing::PrintToString(lines);
+    EXPECT_THAT(lines[0], testing::HasSubstr("1.jpg:0: warning: picture: 65535 x 65535"));
+    EXPECT_THAT(lines[1], testing::HasSubstr("warning: marker: Alone is one of several places"));
+    EXPECT_THAT(lines[2], testing::HasSubstr("warning: marker: \"PPP\""));
+    EXPECT_THAT(lines[3], testing::HasSubstr("warning: place: Twice stands there a second time"));
+    EXPECT_THAT(lines[4], testing::HasSubstr("the information window of Tall"));
+    EXPECT_TRUE(findingsJson(result).contains(u"\"severity\": \"warning\""_s));
+}
+
 TEST_F(WorldCheckTest, tellsOfEveryLineThatALoaderPassesOver) {
     add("Regions.txt", "300\tNowhere\r\n");
     add("Zones.txt", "6\t1\t9\t1\t30\t30\tOdd\r\n");
