@@ -10,9 +10,9 @@ SmallCheckBox::SmallCheckBox(const QString& name, QWidget* parent) : QCheckBox(p
     setChecked(true);
     resize(13, 14);
     // Screen readers toggle the button itself.
-    connect(this, &QCheckBox::stateChanged, this, [this](int state) {
-        if (state != Qt::PartiallyChecked)
-            setValue(state == Qt::Checked ? 1 : 0);
+    connect(this, &QCheckBox::toggled, this, [this] {
+        if (checkState() != Qt::PartiallyChecked)
+            setValue(checkState() == Qt::Checked ? 1 : 0);
     });
 }
 
