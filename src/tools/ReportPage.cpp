@@ -45,6 +45,8 @@ ul.todo li.chest { grid-template-columns: 1.1rem 1fr; }
   background: var(--box); }
 .pic { width: 2rem; height: 2rem; }
 .more { color: var(--soft); font-size: .9rem; display: block; }
+h4 .more { display: inline; font-weight: normal; margin-left: .4em; }
+h5 { margin: .8em 0 .1em; font-size: .95rem; color: var(--soft); }
 @media (max-width: 30rem) { .count { font-size: .85rem; } .rows th { width: 30%; } }
 @media print { section.character { break-before: page; } section.character:first-of-type { break-before: auto; }
   ul.todo { columns: 2; column-gap: 1.5rem; } .wide { overflow: visible; } .grid { font-size: 7pt; }
