@@ -120,7 +120,7 @@ void Program::wireMap() {
     connect(map_, &frmMap::maximiseWanted, this, &Program::ToggleMapMaximised);
     connect(map_, &frmMap::minimiseWanted, this, [this] {
         popupMenu_->hide();
-        taskBar_->showMinimized();
+        taskBar_->minimise();
     });
     connect(map_, &frmMap::regionMenuWanted, this, [this](QPoint at) { mapMenus_->openRegionMenu(at); });
     connect(&layers_->notes, &NotesView::menuWanted, this,

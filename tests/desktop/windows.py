@@ -10,7 +10,7 @@ import sys
 
 import journeys
 from journeys import Player, in_marsh, make_world
-from screen import click, hover, keys, run, until, windows
+from screen import click, has_focus, hover, keys, run, until, windows
 
 MANAGERS = ["openbox", "xfwm4"]
 MONITOR = 1280  # pixels wide; there are two of them
@@ -65,6 +65,44 @@ def task_bar(folder):
             run("xdotool", "windowactivate", str(player.button.number))
             until("all windows back", lambda: len(player.shown()) == 3)
             all_have(player, {"SKIP_TASKBAR"})
+
+
+def minimised(player, window):
+    """False when the window manager refuses, as it may for windows that have no button on the task bar."""
+    run("xdotool", "windowminimize", str(window.number))
+    try:
+        until("nothing left on the screen", lambda: not player.shown(), 2)
+    except AssertionError:
+        assert window.number in player.shown(), "minimised, and the others are not"
+        return False
+    return True
+
+
+def comes_back(folder):
+    """Whichever window the window manager minimises, the program goes as a whole and its button brings all of it back."""
+    make_world(folder)
+    in_marsh(folder)
+    with Desktop(folder) as player:
+        player.ready()
+        for window in (player.panel, player.map) * 2:
+            run("xdotool", "windowactivate", "--sync", str(window.number))
+            if not minimised(player, window):
+                continue
+            run("xdotool", "windowactivate", str(player.button.number))
+            until("both windows back", lambda: len(player.shown()) == 2)
+            until("the keyboard where it was", lambda: has_focus(window))
+        run("xdotool", "windowactivate", "--sync", str(player.panel.number))
+        player.options("End")
+        dialog = player.dialog("Characters")
+        for _ in range(2):
+            if not minimised(player, dialog):
+                run("xdotool", "windowminimize", str(player.button.number))
+            until("nothing left on the screen", lambda: not player.shown())
+            run("xdotool", "windowactivate", str(player.button.number))
+            until("the dialog back with both windows", lambda: dialog.number in player.shown() and len(player.shown()) == 3)
+            until("the keyboard in the dialog", lambda: has_focus(dialog))
+        keys("Escape")
+        player.gone(dialog)
 
 
 def always_on_top(folder):
@@ -159,7 +197,7 @@ def hasty_click(folder):
         until("the windows at their new place", lambda: [p[:2] for p in places(player)] == [(140, 70), (357, 70)])
 
 
-ERRANDS = [task_bar, always_on_top, second_monitor, lower_edge, hasty_click]
+ERRANDS = [task_bar, comes_back, always_on_top, second_monitor, lower_edge, hasty_click]
 
 
 def main():

@@ -4,14 +4,29 @@
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QTimer>
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// A window manager answers within a few; one that has not by then minimises nothing.
+constexpr int lookEveryMs = 20;
+constexpr int mostLooks = 15;
+// Some window managers give the keyboard away once more when a window appears.
+constexpr int keyboardAgainMs = 100;
+
+void takeMinimisedOff(QWidget& window) {
+    if (window.windowState() & Qt::WindowMinimized)
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+}
+
+} // namespace
 
 WindowsShown afterTaskBarUse(WindowsShown now, bool first, bool legendWanted) {
     WindowsShown next = now;
@@ -32,6 +47,9 @@ frmFAKE::frmFAKE(TaskBarGroup group)
     setFixedSize(1, 1);
     // Window managers that insist on pulling it onto the screen find nothing to show.
     setMask(QRegion(-1, -1, 1, 1));
+    icon_.setInterval(lookEveryMs);
+    connect(&icon_, &QTimer::timeout, this, &frmFAKE::lookForIcon);
+    qApp->installEventFilter(this); // for the state of windows that come and go
 }
 
 void frmFAKE::showOutside(QSize screens) {
@@ -48,22 +66,91 @@ void frmFAKE::showEvent(QShowEvent* event) {
         Form_Resize();
 }
 
+void frmFAKE::minimise() {
+    following_ = false;
+    if (!minimised_ && !icon_.isActive())
+        showMinimized();
+}
+
+bool frmFAKE::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::WindowStateChange && event->type() != QEvent::WindowActivate)
+        return false;
+    auto* window = qobject_cast<QWidget*>(watched);
+    if (!window || window == this || !window->isWindow() || minimised_)
+        return false;
+    // From the first window that is minimised on, others become active or minimised in its wake.
+    if (following_ || icon_.isActive())
+        return false;
+    if (event->type() == QEvent::WindowActivate) {
+        keyboard_ = window;
+    } else if (window->isMinimized()) {
+        first_ = window;
+        following_ = true;
+        // Not while the window is still being told of it.
+        QMetaObject::invokeMethod(this, &frmFAKE::minimise, Qt::QueuedConnection);
+    }
+    return false;
+}
+
 void frmFAKE::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange && isMinimized() != minimised_) {
-        minimised_ = isMinimized();
-        Form_Resize();
-        if (!minimised_)
-            QTimer::singleShot(0, this, [this] { move(outside_); });
+    if (event->type() == QEvent::WindowStateChange) {
+        if (isMinimized() && !minimised_)
+            awaitIcon();
+        else if (!isMinimized() && minimised_)
+            bringBack();
     }
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && !minimised_)
         bringToFront();
+}
+
+void frmFAKE::awaitIcon() {
+    if (icon_.isActive())
+        return;
+    looks_ = 0;
+    icon_.start();
+    lookForIcon();
+}
+
+void frmFAKE::lookForIcon() {
+    if (isIconic(*this)) {
+        icon_.stop();
+        putAway();
+    } else if (!isMinimized() || ++looks_ > mostLooks) {
+        icon_.stop();
+        showNormal();
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window != this && window->isVisible())
+                takeMinimisedOff(*window);
+    }
+}
+
+void frmFAKE::putAway() {
+    minimised_ = true;
+    // Some window managers give the keyboard to another window before they minimise one.
+    if (first_ && keyboard_ && !keyboard_->isMinimized())
+        keyboard_ = first_;
+    first_.clear();
+    putDialogsAway();
+    Form_Resize();
+}
+
+void frmFAKE::bringBack() {
+    minimised_ = false;
+    Form_Resize();
+    bringDialogsBack();
+    giveKeyboardBack();
+    QTimer::singleShot(keyboardAgainMs, this, &frmFAKE::giveKeyboardBack);
+    QTimer::singleShot(0, this, [this] { move(outside_); });
 }
 
 void frmFAKE::Form_Resize() {
     const WindowsShown now{group_.panel.isVisible(), group_.map.isVisible(), group_.legend.isVisible()};
     const WindowsShown next = afterTaskBarUse(now, !FirstResizeDone, group_.MenuLegendShown == 1);
     FirstResizeDone = true;
+    for (QWidget* window : {&group_.panel, &group_.map, &group_.legend})
+        if (next.map)
+            takeMinimisedOff(*window);
     group_.panel.setVisible(next.panel);
     group_.map.setVisible(next.map);
     group_.legend.setVisible(next.legend);
@@ -76,6 +163,46 @@ void frmFAKE::Form_Resize() {
 void frmFAKE::bringToFront() {
     group_.map.raise();
     group_.panel.raise();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() == Qt::Dialog && !isMainWindow(window))
+            window->raise();
+}
+
+void frmFAKE::putDialogsAway() {
+    dialogs_.clear();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != this && window->isVisible() && !isMainWindow(window)) {
+            if (window->windowType() == Qt::Popup)
+                window->close();
+            else if (window->windowType() == Qt::Dialog)
+                dialogs_.emplace_back(window);
+        }
+    for (QWidget* dialog : dialogs_)
+        takeOffScreen(*dialog);
+}
+
+void frmFAKE::bringDialogsBack() {
+    for (const QPointer<QWidget>& dialog : dialogs_)
+        if (dialog && dialog->isVisible()) {
+            bringToScreen(*dialog);
+            dialog->raise();
+        }
+    dialogs_.clear();
+}
+
+void frmFAKE::giveKeyboardBack() {
+    if (QWidget* window = keyboardWindow(); window && !minimised_)
+        window->activateWindow();
+}
+
+QWidget* frmFAKE::keyboardWindow() const {
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return keyboard_ && keyboard_->isVisible() ? keyboard_.data() : &group_.panel;
+}
+
+bool frmFAKE::isMainWindow(const QWidget* window) const {
+    return window == &group_.panel || window == &group_.map || window == &group_.legend;
 }
 
 void frmFAKE::closeEvent(QCloseEvent* event) {
@@ -84,12 +211,13 @@ void frmFAKE::closeEvent(QCloseEvent* event) {
 }
 
 void frmFAKE::keyPressEvent(QKeyEvent* event) {
-    // The button leaves the focus here, so that its next use minimises; whoever types means the panel.
+    // The button leaves the focus here, so that its next use minimises; whoever types means the program.
     if (!group_.panel.isVisible())
         return;
-    group_.panel.activateWindow();
-    QWidget* target = group_.panel.focusWidget();
-    QCoreApplication::sendEvent(target ? target : &group_.panel, event);
+    QWidget* window = keyboardWindow();
+    window->activateWindow();
+    QWidget* target = window->focusWidget();
+    QCoreApplication::sendEvent(target ? target : window, event);
 }
 
 } // namespace orvinel

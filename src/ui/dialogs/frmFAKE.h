@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QPointer>
+#include <QTimer>
 #include <QWidget>
+
+#include <vector>
 
 namespace orvinel {
 
@@ -25,7 +29,8 @@ struct TaskBarGroup {
 };
 
 // The window that gives the program its one task bar button. It lies outside all screens; minimising and
-// restoring it hides and shows panel, map and legend together.
+// restoring it hides and shows panel, map and legend together, and the dialogs with them. Whoever minimises
+// one of those windows minimises the program: they have no button of their own that could bring them back.
 class frmFAKE : public QWidget {
     Q_OBJECT
   public:
@@ -33,6 +38,8 @@ class frmFAKE : public QWidget {
 
     // `screens`: the size of all screens together, pixels.
     void showOutside(QSize screens);
+    // Minimises the program. Where the window manager knows no such thing its windows stay.
+    void minimise();
 
   signals:
     // The task bar's "close" was chosen.
@@ -41,19 +48,37 @@ class frmFAKE : public QWidget {
     void shownAgain();
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    // What is minimised is known for certain only when the window manager has done it.
+    void awaitIcon();
+    void lookForIcon();
+    void putAway();
+    void bringBack();
     void Form_Resize();
     void bringToFront();
+    void putDialogsAway();
+    void bringDialogsBack();
+    // To the window that had it, or to the modal dialog that keeps all others from getting it.
+    void giveKeyboardBack();
+    QWidget* keyboardWindow() const;
+    bool isMainWindow(const QWidget* window) const;
 
     TaskBarGroup group_;
     QPoint outside_;
     bool FirstResizeDone = false;
     bool minimised_ = false;
+    bool following_ = false; // another window was minimised, and this one is about to be
+    QTimer icon_;            // runs while the window manager is asked to minimise
+    int looks_ = 0;
+    QPointer<QWidget> first_;                // of the windows that the window manager minimised
+    QPointer<QWidget> keyboard_;             // the program's window that was active last
+    std::vector<QPointer<QWidget>> dialogs_; // put away while minimised, the lowest first
 };
 
 } // namespace orvinel

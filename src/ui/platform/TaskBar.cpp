@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 #include <xcb/xcb.h>
 #elif defined(Q_OS_WIN)
@@ -39,6 +40,19 @@ bool isMapped(xcb_connection_t* connection, xcb_window_t window) {
     return reply && reply->map_state != XCB_MAP_STATE_UNMAPPED;
 }
 
+xcb_window_t rootOf(xcb_connection_t* connection) {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
+template <typename Event>
+void sendToRoot(xcb_connection_t* connection, const Event& event) {
+    std::array<char, 32> bytes{};
+    static_assert(sizeof event <= sizeof bytes);
+    std::memcpy(bytes.data(), &event, sizeof event);
+    xcb_send_event(connection, 0, rootOf(connection),
+                   XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, bytes.data());
+}
+
 // The window manager owns the state of a window that is shown, so it is asked to add to it.
 void askWindowManager(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t state, xcb_atom_t added) {
     constexpr uint32_t add = 1;
@@ -51,22 +65,27 @@ void askWindowManager(xcb_connection_t* connection, xcb_window_t window, xcb_ato
     event.data.data32[0] = add;
     event.data.data32[1] = added;
     event.data.data32[3] = fromApplication;
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-    std::array<char, 32> bytes{};
-    static_assert(sizeof event <= sizeof bytes);
-    std::memcpy(bytes.data(), &event, sizeof event);
-    xcb_send_event(connection, 0, root,
-                   XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, bytes.data());
+    sendToRoot(connection, event);
+}
+
+// nullptr: not under X11.
+xcb_connection_t* x11Connection() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
 }
 
 void writeState(const QWindow& window) {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    xcb_connection_t* connection = x11Connection();
     if (!connection)
         return;
     const auto id = static_cast<xcb_window_t>(window.winId());
     const xcb_atom_t state = atom(connection, "_NET_WM_STATE");
-    for (const char* name : {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"}) {
+    std::vector<const char*> names = {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"};
+    if (window.flags() & Qt::WindowStaysOnTopHint)
+        names.push_back("_NET_WM_STATE_ABOVE");
+    if (window.modality() != Qt::NonModal)
+        names.push_back("_NET_WM_STATE_MODAL");
+    for (const char* name : names) {
         const xcb_atom_t added = atom(connection, name);
         if (isMapped(connection, id))
             askWindowManager(connection, id, state, added);
@@ -108,6 +127,51 @@ void keepOffTaskBar(QWidget& window) {
     writeState(*handle);
 }
 
+bool isIconic(const QWidget& window) {
+    xcb_connection_t* connection = x11Connection();
+    if (!connection || !window.windowHandle())
+        return window.isMinimized();
+    constexpr uint32_t iconic = 3; // of ICCCM's WM_STATE
+    const xcb_atom_t state = atom(connection, "WM_STATE");
+    const auto cookie = xcb_get_property(
+        connection, 0, static_cast<xcb_window_t>(window.windowHandle()->winId()), state, state, 0, 1);
+    const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
+        xcb_get_property_reply(connection, cookie, nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) < static_cast<int>(sizeof(uint32_t)))
+        return false;
+    uint32_t value = 0;
+    std::memcpy(&value, xcb_get_property_value(reply.get()), sizeof value);
+    return value == iconic;
+}
+
+// As the window system's own rules for windows have it: unmapped, and the window manager told so.
+void takeOffScreen(QWidget& window) {
+    xcb_connection_t* connection = x11Connection();
+    if (!connection) {
+        window.setWindowState(window.windowState() | Qt::WindowMinimized);
+        return;
+    }
+    xcb_unmap_notify_event_t event{};
+    event.response_type = XCB_UNMAP_NOTIFY;
+    event.event = rootOf(connection);
+    event.window = static_cast<xcb_window_t>(window.windowHandle()->winId());
+    xcb_unmap_window(connection, event.window);
+    sendToRoot(connection, event);
+    xcb_flush(connection);
+}
+
+void bringToScreen(QWidget& window) {
+    const QPoint place = window.pos();
+    if (window.isMinimized())
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    if (xcb_connection_t* connection = x11Connection()) {
+        writeState(*window.windowHandle()); // the window manager has forgotten it
+        xcb_map_window(connection, static_cast<xcb_window_t>(window.windowHandle()->winId()));
+        xcb_flush(connection);
+        window.move(place);
+    }
+}
+
 #elif defined(Q_OS_WIN)
 
 void keepOffTaskBar(QWidget& window) {
@@ -125,6 +189,20 @@ void keepOffTaskBar(QWidget& window) {
 void keepOffTaskBar(QWidget&) {
 }
 
+#endif
+
+#ifndef ORVINEL_X11
+bool isIconic(const QWidget& window) {
+    return window.isMinimized();
+}
+
+void takeOffScreen(QWidget& window) {
+    window.setWindowState(window.windowState() | Qt::WindowMinimized);
+}
+
+void bringToScreen(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+}
 #endif
 
 Qt::WindowFlags minimisable() {

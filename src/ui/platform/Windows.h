@@ -51,6 +51,14 @@ class WindowDrag {
 // Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
 void keepOffTaskBar(QWidget& window);
 
+// The window manager has made the window, which is minimised, an icon; True also where nobody can be asked.
+bool isIconic(const QWidget& window);
+
+// Takes a window off the screen and brings it back to its place without hiding it, which would count as an
+// answer to a dialog. Some window managers refuse to minimise dialogs.
+void takeOffScreen(QWidget& window);
+void bringToScreen(QWidget& window);
+
 // What makes a window one without a title bar.
 Qt::WindowFlags frameless();
 
