@@ -29,8 +29,8 @@ QString buttonText(const QString& caption, qsizetype mnemonic) {
 
 Dialog::Dialog(const QString& name, QSize client, DialogContext context, QWidget* owner)
     : QDialog(owner, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint), context_(context) {
-    setObjectName(name);
     setSpokenRole(*this, QAccessible::Dialog);
+    setObjectName(name);
     setFixedSize(client);
     setCursor(programCursor(Pointer::Usual));
 }

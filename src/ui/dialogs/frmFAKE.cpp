@@ -40,8 +40,8 @@ WindowsShown afterTaskBarUse(WindowsShown now, bool first, bool legendWanted) {
 
 frmFAKE::frmFAKE(TaskBarGroup group)
     : QWidget(nullptr, Qt::Window | frameless() | minimisable()), group_(group) {
-    setObjectName(u"frmFAKE"_s);
     setSpokenRole(*this, QAccessible::Window);
+    setObjectName(u"frmFAKE"_s);
     setWindowTitle(u"Orvinel (%1)"_s.arg(byLine()));
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFixedSize(1, 1);

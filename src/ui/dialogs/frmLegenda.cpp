@@ -116,9 +116,9 @@ QString spokenLegend(const ProgramState& state) {
 frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
     : QWidget(owner, Qt::Dialog | frameless()), state_(state), title_(state.text(legendCaption)),
       picLegenda_(new PictureBox(this)) {
+    setSpokenRole(*this, QAccessible::Dialog);
     setObjectName(u"frmLegenda"_s);
     setWindowTitle(title_);
-    setSpokenRole(*this, QAccessible::Dialog);
     setCursor(programCursor(Pointer::Usual));
     setFont(arial(points8_25));
     picLegenda_->setObjectName(u"picLegenda"_s);

@@ -32,9 +32,9 @@ constexpr qint64 cachedBytes = 96ll * 1024 * 1024;
 frmMap::frmMap(Surroundings with, QWidget* owner)
     : QWidget(owner, Qt::Dialog | frameless()), with_(with), cache_(cachedBytes),
       viewport_(new MapViewport(this)) {
+    setSpokenRole(*this, QAccessible::Window);
     setObjectName(u"frmMap"_s);
     setWindowTitle(programName());
-    setSpokenRole(*this, QAccessible::Window);
     setMinimumSize(smallest, smallest);
     setCursor(programCursor(Pointer::Usual));
     viewport_->setCursor(programCursor(Pointer::OpenHand));

@@ -41,9 +41,9 @@ auto notReady(bool& ready) {
 
 frmMenu::frmMenu(const ProgramState& state, Desktop& desktop)
     : QWidget(nullptr, Qt::Window | frameless()), state_(state), desktop_(desktop), drag_(*this) {
+    setSpokenRole(*this, QAccessible::Window);
     setObjectName(u"frmMenu"_s);
     setWindowTitle(programName());
-    setSpokenRole(*this, QAccessible::Window); // before its name: telling of that makes screen readers look
     setAccessibleName(titleText());
     setFont(arial(points8_25));
     setFixedWidth(designSize.width());
