@@ -101,7 +101,7 @@ void Program::act(MenuAction action) {
     case MenuAction::Update:
         return RunUpdater();
     case MenuAction::HomePage:
-        return OpenWithShell(homePage());
+        return ShowStartPage();
     case MenuAction::Credits:
         frmCredits(dialogContext(), panel_.get()).exec();
         return;

@@ -203,6 +203,11 @@ void Program::ShowGuide() {
     OpenWithShell(files_.disk().length(guide) > 0 ? files_.disk().resolve(guide) : helpPage());
 }
 
+void Program::ShowStartPage() {
+    const QString page = state_.AppPath + u"Data/Guide/start.html"_s;
+    OpenWithShell(files_.disk().length(page) > 0 ? files_.disk().resolve(page) : homePage());
+}
+
 void Program::RunUpdater() {
     OpenWithShell(files_.disk().resolve(state_.AppPath + u"Update.exe"_s));
     QuitProgram();

@@ -39,6 +39,8 @@ class Program : public QObject {
     void ShowHistory();
     // The guide that came with the program; where it is missing, the page about it.
     void ShowGuide();
+    // The page about what lies beside the program: guide, progress, atlas, backup. It comes with the guide.
+    void ShowStartPage();
     void RunUpdater();
 
     ProgramState& state() { return state_; }

@@ -146,5 +146,12 @@ TEST_F(ProgramTest, theGuideIsTheOneThatCameWithTheProgramOrElseAPageOfTheWeb) {
     EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
 }
 
+TEST_F(ProgramTest, theHomePageIsTheStartPageThatCameWithTheProgram) {
+    ASSERT_TRUE(start());
+    disk.put(u"/o/Data/Guide/start.html"_s, "<html>");
+    program->ShowStartPage();
+    EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
+}
+
 } // namespace
 } // namespace orvinel
