@@ -121,17 +121,16 @@ void Program::ToggleLegend() {
     Options& options = state_.AppOptions;
     if (panel_->MenuLegendShown != 0) {
         panel_->MenuLegendShown = 0;
-        options.LegendX = twipsOf(legend_->x());
-        options.LegendY = twipsOf(legend_->y());
+        rememberLegendPlace();
         legend_->hide();
         return;
     }
     panel_->MenuLegendShown = 1;
     if (options.LegendX == -1) {
-        options.LegendX = twipsOf(map_->x());
-        options.LegendY = twipsOf(map_->y() + map_->height() - legend_->height());
+        options.LegendX = twipsOf(legendCorner().x());
+        options.LegendY = twipsOf(legendCorner().y());
     }
-    legend_->move(pixelsOf(options.LegendX), pixelsOf(options.LegendY));
+    placeLegend();
     legend_->show();
 }
 

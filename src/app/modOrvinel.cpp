@@ -137,9 +137,9 @@ void Program::showWindows() {
         window->setAttribute(Qt::WA_ShowWithoutActivating);
     RestoreWindowPlacement();
     if (options.LegendX != -1 && !options.Legend)
-        legend_->move(pixelsOf(options.LegendX), pixelsOf(options.LegendY));
+        placeLegend();
     else
-        legend_->move(map_->x(), map_->y() + map_->height() - legend_->height());
+        legend_->move(legendCorner());
     panel_->show();
     panel_->activateWindow(); // before the first paint, which shows where the keyboard is
     map_->show();
@@ -223,11 +223,29 @@ void Program::copyPlaces() {
     options.DimY = MapMaximised_ ? -1 : twipsOf(map_->height());
 }
 
+QPoint Program::legendCorner() const {
+    return {map_->x(), map_->y() + map_->height() - legend_->height()};
+}
+
+void Program::placeLegend() {
+    const Options& options = state_.AppOptions;
+    const QPoint remembered(pixelsOf(options.LegendX), pixelsOf(options.LegendY));
+    const bool seen = desktop_.reachable(QRect(remembered, legend_->size()));
+    legend_->move(seen ? remembered : legendCorner());
+    legendInstead_ = seen ? std::nullopt : std::optional(legend_->pos());
+}
+
+void Program::rememberLegendPlace() {
+    if (legendInstead_ == legend_->pos())
+        return;
+    state_.AppOptions.LegendX = twipsOf(legend_->x());
+    state_.AppOptions.LegendY = twipsOf(legend_->y());
+}
+
 bool Program::saveOptions() {
     copyPlaces();
     state_.AppOptions.Legend = panel_->MenuLegendShown == 1;
-    state_.AppOptions.LegendX = twipsOf(legend_->x());
-    state_.AppOptions.LegendY = twipsOf(legend_->y());
+    rememberLegendPlace();
     panel_->readOptions(state_.AppOptions);
     const QString text = optionsFile(state_.AppOptions);
     SaveResult result = files_.save(optionsPath(state_), text);

@@ -59,6 +59,11 @@ class Program : public QObject {
     void place(const WindowPair& pair);
     void attachMap();
     void attachShownMap();
+    // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
+    // corner.
+    QPoint legendCorner() const;
+    void placeLegend();
+    void rememberLegendPlace();
     bool saveOptions();
     void copyPlaces();
 
@@ -95,6 +100,9 @@ class Program : public QObject {
     // Where the windows were put at start instead of a remembered place that no screen shows; while they
     // stand there, that place is written back unchanged.
     std::optional<WindowPair> restored_;
+
+    // Where the legend stands instead of such a place, which is written back while it stands there.
+    std::optional<QPoint> legendInstead_;
 
     std::unique_ptr<frmMenu> panel_; // owns the map window, which owns the legend
     frmMap* map_ = nullptr;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <set>
 
 namespace orvinel {
 
@@ -51,9 +52,11 @@ QString capturedFile(const Progress& state, int character) {
     for (int id = 1; id <= std::min(state.EliteSkills.highest(), highestMarkableSkill); ++id)
         if (state.EliteSkills[id].capturedBy(character))
             text += captureLine(id);
-    if (state.CapturesBeyondTable.has(character))
-        for (const int id : state.CapturesBeyondTable[character])
+    if (state.CapturesBeyondTable.has(character)) {
+        const std::vector<int>& beyond = state.CapturesBeyondTable[character];
+        for (const int id : std::set<int>(beyond.begin(), beyond.end()))
             text += captureLine(id);
+    }
     return text;
 }
 

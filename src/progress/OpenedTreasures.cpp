@@ -187,7 +187,7 @@ QString stepDate(DatePart part, const QString& text, int direction) {
     int stepped = *value + direction;
     if (direction > 0 && *value == limits.highest)
         stepped = limits.lowest;
-    else if (direction < 0 && *value == limits.lowest)
+    else if (direction < 0 && (*value == limits.lowest || *value == 0))
         stepped = limits.highest;
     return padded(std::max(0, stepped), limits.digits);
 }

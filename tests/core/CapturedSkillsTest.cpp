@@ -32,11 +32,11 @@ TEST_F(Captures, aSaveThatFailsMarksNothing) {
     EXPECT_EQ("0003\r\n", disk.content(adasFile));
 }
 
-TEST_F(Captures, ofSkillsThatAreNotHereTodayAreWrittenBack) {
-    disk.put(adasFile, "0500\r\n0120\r\n12345\r\n0400\r\n");
+TEST_F(Captures, ofSkillsThatAreNotHereTodayAreWrittenBackInOrderAndOnce) {
+    disk.put(adasFile, "0500\r\n0120\r\n12345\r\n0400\r\n0500\r\n");
     load();
     ASSERT_TRUE(captureSkill(state, files, 3, 1).saved());
-    EXPECT_EQ("0003\r\n0120\r\n0500\r\n12345\r\n0400\r\n", disk.content(adasFile));
+    EXPECT_EQ("0003\r\n0120\r\n0400\r\n0500\r\n12345\r\n", disk.content(adasFile));
     EXPECT_FALSE(disk.exists(adasFile + u".bak"_s));
 }
 

@@ -179,6 +179,8 @@ TEST(DateBoxes, stepAroundTheirExactLimitsOnly) {
     EXPECT_EQ(u"2004"_s, stepDate(DatePart::Year, u"2005"_s, -1));
     EXPECT_EQ(u"2006"_s, stepDate(DatePart::Year, u"2005"_s, 1));
     EXPECT_EQ(u"01"_s, stepDate(DatePart::Day, u""_s, 1));
+    EXPECT_EQ(u"31"_s, stepDate(DatePart::Day, u""_s, -1)) << "below the limits";
+    EXPECT_EQ(u"12"_s, stepDate(DatePart::Month, u"00"_s, -1));
     EXPECT_EQ(u"100"_s, stepDate(DatePart::Day, u"99"_s, 1));
 }
 

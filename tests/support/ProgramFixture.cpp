@@ -90,9 +90,12 @@ void ProgramFixture::send(QEvent::Type type, QPoint at, Qt::MouseButton button, 
     const MapView& view = viewport.view();
     const QPointF place =
         QPointF(at.x() + view.scrollX(), at.y() + view.scrollY()) / viewport.devicePixelRatioF();
-    const bool held = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (type == QEvent::MouseButtonRelease)
+        pressedButtons &= ~Qt::MouseButtons(button);
+    else
+        pressedButtons |= button;
     QMouseEvent event(type, place, viewport.mapTo(map.get(), place), viewport.mapToGlobal(place), button,
-                      held ? Qt::MouseButtons(button) : Qt::MouseButtons(), keys);
+                      pressedButtons, keys);
     QCoreApplication::sendEvent(&viewport, &event);
 }
 void ProgramFixture::hover(QPoint at) {

@@ -32,8 +32,9 @@ struct ProgramFixture : testing::Test {
     EliteView* elites = nullptr; // of the layers
     // What asked for the capture dialog: "7 map", "7 panel".
     QStringList captures;
-    int openedChest = 0; // the last for which the dialog was asked
-    int regionMenus = 0; // how often the region menu was asked for
+    int openedChest = 0;             // the last for which the dialog was asked
+    Qt::MouseButtons pressedButtons; // of the mouse, between the calls below
+    int regionMenus = 0;             // how often the region menu was asked for
 
     ProgramFixture();
     ~ProgramFixture() override;

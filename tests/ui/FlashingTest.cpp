@@ -92,6 +92,20 @@ TEST_F(FlashingTest, chestsAndPetsShareOneMarker) {
     EXPECT_FALSE(marked({300, 300}));
 }
 
+TEST_F(FlashingTest, aPlaceOfThePetBeforeAChestSelectsThatPetAgain) {
+    startOnFjord();
+    panel->tabs().activate(Tab::Various);
+    panel->selection().cmbRegion->select(0); // all
+    various().lstPets->select(0);
+    ASSERT_EQ(2, various().lstPetLocations->count());
+    various().lstKesraTreasures->select(0);
+    various().lstPetLocations->select(1);
+    EXPECT_EQ(7, various().lstPets->selectedEntry().data);
+    EXPECT_EQ(2, various().lstPetLocations->selectedEntry().data);
+    EXPECT_EQ(2, map->MapRegion());
+    EXPECT_FALSE(various().lstKesraTreasures->hasSelection());
+}
+
 TEST_F(FlashingTest, aMarkerAtTheEdgeEndsWithThePicture) {
     disk.put(u"/o/Personal/Notes.txt"_s, "Edge\tx\t299\t100\t3\t2\r\n");
     startOnFjord();

@@ -62,6 +62,18 @@ TEST_F(MapTest, theLeftButtonDragsThePictureAsFarAsItGoes) {
     EXPECT_EQ(before, scroll());
 }
 
+// Its release may have gone to a menu that the right button opened.
+TEST_F(MapTest, aMoveWithoutTheLeftButtonEndsADrag) {
+    startOnFjord();
+    press(boss);
+    hover({60, 80});
+    const QPoint before = scroll();
+    pressedButtons = Qt::NoButton;
+    hover({20, 20});
+    EXPECT_FALSE(map->dragging());
+    EXPECT_EQ(before, scroll());
+}
+
 TEST_F(MapTest, aPictureSmallerThanTheViewIsNotDragged) {
     start();
     showOnMap(*map, state, {3, 2, 10, 10});

@@ -19,7 +19,7 @@ namespace {
 constexpr int lookEveryMs = 20;
 constexpr int mostLooks = 15;
 // Some window managers give the keyboard away once more when a window appears.
-constexpr int keyboardAgainMs = 100;
+constexpr int keyboardAgainMs[] = {100, 300};
 
 void takeMinimisedOff(QWidget& window) {
     if (window.windowState() & Qt::WindowMinimized)
@@ -140,7 +140,8 @@ void frmFAKE::bringBack() {
     Form_Resize();
     bringDialogsBack();
     giveKeyboardBack();
-    QTimer::singleShot(keyboardAgainMs, this, &frmFAKE::giveKeyboardBack);
+    for (const int later : keyboardAgainMs)
+        QTimer::singleShot(later, this, &frmFAKE::giveKeyboardBack);
     QTimer::singleShot(0, this, [this] { move(outside_); });
 }
 

@@ -64,6 +64,7 @@ void PetsView::ShowPetLocations() {
     if (!page.lstPets->hasSelection())
         return;
     const int id = page.lstPets->selectedEntry().data;
+    listedPet_ = id;
     const std::vector<ListEntry> entries = petLocationEntries(state(), id, panel().petChoice());
     const QFontMetrics metrics(panel().font());
     int widest = 0;
@@ -82,6 +83,12 @@ void PetsView::locationPicked() {
     if (!page.lstPetLocations->hasSelection())
         return;
     page.lstKesraTreasures->select(-1);
+    if (!page.lstPets->hasSelection()) {
+        // A chest was chosen meanwhile: the places are those of the pet before it.
+        const int place = page.lstPetLocations->selectedEntry().data;
+        page.lstPets->selectData(listedPet_);
+        page.lstPetLocations->selectData(place);
+    }
     ShowSelectedPetLocation();
 }
 

@@ -31,6 +31,7 @@ class PetsView : public ListedLayerView {
     void ShowPetTooltip(const HitArea& item);
     void showPicture(const Pet& pet);
 
+    int listedPet_ = 0; // whose places lstPetLocations holds
     const Disk& disk_;
     Label* lblPetName_;
     Label* imgPetImage_;

@@ -129,7 +129,7 @@ void MapViewport::mousePressEvent(QMouseEvent* event) {
 }
 
 void MapViewport::mouseMoveEvent(QMouseEvent* event) {
-    emit moved(toView(*event));
+    emit moved(toView(*event), event->buttons() & Qt::LeftButton);
 }
 
 void MapViewport::mouseReleaseEvent(QMouseEvent* event) {

@@ -44,7 +44,7 @@ class MapViewport : public QWidget {
 
   signals:
     void pressed(Qt::MouseButton button, Qt::KeyboardModifiers keys, orvinel::ViewPoint at);
-    void moved(orvinel::ViewPoint at);
+    void moved(orvinel::ViewPoint at, bool leftHeld);
     void released(Qt::MouseButton button);
     void doubleClicked();
     // Pixels by which the picture is to be scrolled: positive shows what lies further right or down.

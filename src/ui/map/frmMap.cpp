@@ -191,7 +191,10 @@ void frmMap::press(Qt::MouseButton button, Qt::KeyboardModifiers keys, ViewPoint
         emit regionMenuWanted(QCursor::pos());
 }
 
-void frmMap::moveTo(ViewPoint at) {
+void frmMap::moveTo(ViewPoint at, bool leftHeld) {
+    // The release may have gone elsewhere: to a menu that another button opened meanwhile.
+    if (dragging_ && !leftHeld)
+        endDrag();
     if (dragging_) {
         viewport_->view().dragTo(static_cast<int>(std::lrint(at.x - drag_.x)),
                                  static_cast<int>(std::lrint(at.y - drag_.y)));
@@ -201,12 +204,16 @@ void frmMap::moveTo(ViewPoint at) {
     }
 }
 
+void frmMap::endDrag() {
+    viewport_->setCursor(programCursor(Pointer::OpenHand));
+    with_.desktop.processPendingEvents();
+    dragging_ = false;
+}
+
 void frmMap::release(Qt::MouseButton button) {
-    if (dragging_) {
-        viewport_->setCursor(programCursor(Pointer::OpenHand));
-        with_.desktop.processPendingEvents();
-        dragging_ = false;
-    } else if (button == Qt::RightButton && with_.informationMode == 0) {
+    if (dragging_)
+        endDrag();
+    else if (button == Qt::RightButton && with_.informationMode == 0) {
         HideInformationWindows();
         UpdateMap();
     }

@@ -100,7 +100,8 @@ class frmMap : public QWidget {
     void buildButtons();
     void connectViewport();
     void press(Qt::MouseButton button, Qt::KeyboardModifiers keys, ViewPoint at);
-    void moveTo(ViewPoint at);
+    void moveTo(ViewPoint at, bool leftHeld);
+    void endDrag();
     void release(Qt::MouseButton button);
     void doubleClick();
     void scrollBy(int dx, int dy);

@@ -14,7 +14,9 @@ WindowKeys::WindowKeys(std::vector<QWidget*> windows) : windows_(std::move(windo
 }
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::WindowDeactivate)
+    // A window manager that takes Alt with a mouse button to move a window keeps the button to itself.
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::WindowDeactivate ||
+        event->type() == QEvent::Leave || event->type() == QEvent::Move || event->type() == QEvent::Wheel)
         altAlone_ = false;
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;

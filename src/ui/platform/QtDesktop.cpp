@@ -32,7 +32,13 @@ int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
     if (owner && owner->windowHandle())
         box.setWindowFlag(Qt::WindowStaysOnTopHint,
                           owner->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
+    // The hourglass of a start stays behind the box.
+    const bool waiting = QApplication::overrideCursor() != nullptr;
+    if (waiting)
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
     const int answer = box.exec();
+    if (waiting)
+        QApplication::restoreOverrideCursor();
     if (owner)
         owner->activateWindow();
     return answer;
