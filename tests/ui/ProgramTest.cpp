@@ -146,6 +146,18 @@ TEST_F(ProgramTest, theGuideIsTheOneThatCameWithTheProgramOrElseAPageOfTheWeb) {
     EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
 }
 
+TEST_F(ProgramTest, aLegendThatNoScreenShowsStandsAtTheMapsCornerAndItsPlaceIsKept) {
+    desktop.work = {0, 0, 1280, 1000};
+    disk.put(u"/o/Data/Options.txt"_s, "[OLD SELECTION]\r\nLegendX=75000\r\nLegendY=1500\r\n");
+    ASSERT_TRUE(start());
+    const auto* legend = program->map().findChild<QWidget*>(u"frmLegenda"_s);
+    ASSERT_TRUE(legend);
+    EXPECT_EQ(QPoint(217, 1000 - legend->height()), legend->pos());
+    program->QuitProgram();
+    EXPECT_EQ(u"75000"_s, option("LegendX"));
+    EXPECT_EQ(u"1500"_s, option("LegendY"));
+}
+
 TEST_F(ProgramTest, theHomePageIsTheStartPageThatCameWithTheProgram) {
     ASSERT_TRUE(start());
     disk.put(u"/o/Data/Guide/start.html"_s, "<html>");

@@ -18,8 +18,9 @@ namespace {
 // A window manager answers within a few; one that has not by then minimises nothing.
 constexpr int lookEveryMs = 20;
 constexpr int mostLooks = 15;
-// Some window managers give the keyboard away once more when a window appears.
-constexpr int keyboardAgainMs[] = {100, 300};
+// Some window managers give the keyboard to each window that appears, one after the other.
+constexpr int settleEveryMs = 100;
+constexpr int mostSettles = 3;
 
 void takeMinimisedOff(QWidget& window) {
     if (window.windowState() & Qt::WindowMinimized)
@@ -49,6 +50,8 @@ frmFAKE::frmFAKE(TaskBarGroup group)
     setMask(QRegion(-1, -1, 1, 1));
     icon_.setInterval(lookEveryMs);
     connect(&icon_, &QTimer::timeout, this, &frmFAKE::lookForIcon);
+    settling_.setInterval(settleEveryMs);
+    connect(&settling_, &QTimer::timeout, this, &frmFAKE::settle);
     qApp->installEventFilter(this); // for the state of windows that come and go
 }
 
@@ -73,6 +76,8 @@ void frmFAKE::minimise() {
 }
 
 bool frmFAKE::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress)
+        settling_.stop(); // from here on the player says where the keyboard goes
     if (event->type() != QEvent::WindowStateChange && event->type() != QEvent::WindowActivate)
         return false;
     auto* window = qobject_cast<QWidget*>(watched);
@@ -82,7 +87,8 @@ bool frmFAKE::eventFilter(QObject* watched, QEvent* event) {
     if (following_ || icon_.isActive())
         return false;
     if (event->type() == QEvent::WindowActivate) {
-        keyboard_ = window;
+        if (!settling_.isActive())
+            keyboard_ = window;
     } else if (window->isMinimized()) {
         first_ = window;
         following_ = true;
@@ -101,7 +107,21 @@ void frmFAKE::changeEvent(QEvent* event) {
             bringBack();
     }
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && !minimised_)
-        bringToFront();
+        QTimer::singleShot(lookEveryMs, this, &frmFAKE::becomeActive);
+}
+
+void frmFAKE::becomeActive() {
+    if (minimised_ || icon_.isActive())
+        return;
+    // A window manager that is minimising one of the windows may make this one active first; raising that
+    // window would bring it back.
+    for (QWidget* window : {&group_.panel, &group_.map})
+        if (window->isVisible() && isIconic(*window)) {
+            first_ = window;
+            minimise();
+            return;
+        }
+    bringToFront();
 }
 
 void frmFAKE::awaitIcon() {
@@ -113,35 +133,42 @@ void frmFAKE::awaitIcon() {
 }
 
 void frmFAKE::lookForIcon() {
-    if (isIconic(*this)) {
-        icon_.stop();
+    if (isIconic(*this))
         putAway();
-    } else if (!isMinimized() || ++looks_ > mostLooks) {
-        icon_.stop();
-        showNormal();
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (window != this && window->isVisible())
-                takeMinimisedOff(*window);
-    }
+    else if (!isMinimized() || ++looks_ > mostLooks) // brought back already, or never to be minimised
+        stay();
 }
 
-void frmFAKE::putAway() {
-    minimised_ = true;
+void frmFAKE::endLooking() {
+    icon_.stop();
     // Some window managers give the keyboard to another window before they minimise one.
     if (first_ && keyboard_ && !keyboard_->isMinimized())
         keyboard_ = first_;
     first_.clear();
+}
+
+void frmFAKE::putAway() {
+    endLooking();
+    minimised_ = true;
+    settling_.stop();
     putDialogsAway();
     Form_Resize();
+}
+
+void frmFAKE::stay() {
+    endLooking();
+    showNormal();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window != this && window->isVisible())
+            takeMinimisedOff(*window);
+    settleKeyboard();
 }
 
 void frmFAKE::bringBack() {
     minimised_ = false;
     Form_Resize();
     bringDialogsBack();
-    giveKeyboardBack();
-    for (const int later : keyboardAgainMs)
-        QTimer::singleShot(later, this, &frmFAKE::giveKeyboardBack);
+    settleKeyboard();
     QTimer::singleShot(0, this, [this] { move(outside_); });
 }
 
@@ -191,9 +218,22 @@ void frmFAKE::bringDialogsBack() {
     dialogs_.clear();
 }
 
+void frmFAKE::settleKeyboard() {
+    giveKeyboardBack();
+    settles_ = 0;
+    settling_.start();
+}
+
+void frmFAKE::settle() {
+    giveKeyboardBack();
+    if (++settles_ == mostSettles)
+        settling_.stop();
+}
+
 void frmFAKE::giveKeyboardBack() {
-    if (QWidget* window = keyboardWindow(); window && !minimised_)
-        window->activateWindow();
+    // Also to a window that has it already as far as is known here: the window manager may have moved on.
+    if (!minimised_)
+        keyboardWindow()->activateWindow();
 }
 
 QWidget* frmFAKE::keyboardWindow() const {

@@ -58,14 +58,21 @@ class frmFAKE : public QWidget {
     // What is minimised is known for certain only when the window manager has done it.
     void awaitIcon();
     void lookForIcon();
+    void endLooking();
     void putAway();
+    void stay();
     void bringBack();
     void Form_Resize();
+    // The task bar's button was used while the program is on the screen.
+    void becomeActive();
     void bringToFront();
     void putDialogsAway();
     void bringDialogsBack();
     // To the window that had it, or to the modal dialog that keeps all others from getting it.
     void giveKeyboardBack();
+    // Now and again until the windows that came back have had their turn.
+    void settleKeyboard();
+    void settle();
     QWidget* keyboardWindow() const;
     bool isMainWindow(const QWidget* window) const;
 
@@ -76,6 +83,8 @@ class frmFAKE : public QWidget {
     bool following_ = false; // another window was minimised, and this one is about to be
     QTimer icon_;            // runs while the window manager is asked to minimise
     int looks_ = 0;
+    QTimer settling_; // runs while the windows that came back may still get the keyboard
+    int settles_ = 0;
     QPointer<QWidget> first_;                // of the windows that the window manager minimised
     QPointer<QWidget> keyboard_;             // the program's window that was active last
     std::vector<QPointer<QWidget>> dialogs_; // put away while minimised, the lowest first

@@ -323,7 +323,7 @@ void frmMenu::professionPicked() {
 void frmMenu::collectorTypePicked(int index) {
     const bool handMatters = index != 2;
     if (!handMatters) {
-        // Ready afterwards whatever it was: the choice of armour ends a load as any other.
+        // On afterwards in any case; the other handlers restore what they found.
         MenuReady = false;
         collectorsPage_->cmbCollHand->select(0);
         MenuReady = true;
