@@ -199,13 +199,16 @@ void Program::ShowHistory() {
 }
 
 void Program::ShowGuide() {
-    const QString guide = state_.AppPath + u"Data/Guide/guide.html"_s;
-    OpenWithShell(files_.disk().length(guide) > 0 ? files_.disk().resolve(guide) : helpPage());
+    openPage(u"guide.html"_s, helpPage());
 }
 
 void Program::ShowStartPage() {
-    const QString page = state_.AppPath + u"Data/Guide/start.html"_s;
-    OpenWithShell(files_.disk().length(page) > 0 ? files_.disk().resolve(page) : homePage());
+    openPage(u"start.html"_s, homePage());
+}
+
+void Program::openPage(const QString& name, const QString& otherwise) {
+    const QString page = state_.AppPath + u"Data/Guide/"_s + name;
+    OpenWithShell(files_.disk().length(page) > 0 ? files_.disk().resolve(page) : otherwise);
 }
 
 void Program::RunUpdater() {

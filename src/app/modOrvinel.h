@@ -59,6 +59,8 @@ class Program : public QObject {
     void place(const WindowPair& pair);
     void attachMap();
     void attachShownMap();
+    // A page of Data/Guide; where it is missing, the address `otherwise`.
+    void openPage(const QString& name, const QString& otherwise);
     // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
     // corner.
     QPoint legendCorner() const;
