@@ -31,8 +31,7 @@ SaveResult failed(const QString& path, const QString& reason) {
 } // namespace
 
 void PlayerFiles::loaded(const QString& path, const TextFile& file) {
-    const bool unreadable = file.source().outcome == ReadResult::Outcome::Failed;
-    known_[path] = {hashOf(file.source().bytes), unreadable || file.skippedLines() > 0};
+    known_[path] = {hashOf(file.source().bytes), !file.readCompletely()};
 }
 
 SaveResult PlayerFiles::save(const QString& path, const QString& text, bool evenIfChanged) {

@@ -26,9 +26,9 @@ struct SaveResult {
 // The only writer of the player's files (characters, captures, chests, notes, options).
 //
 // A file is replaced whole or not at all. Before the first rewrite of a file that could not be read, or that
-// held lines the program did not take in, its old bytes are kept beside it as NAME.bak (.bak2, ...); when
-// that fails nothing is saved. Text that the code page cannot hold makes the file UTF-8 with a byte order
-// mark.
+// held something the program would not write again, its old bytes are kept beside it as NAME.bak (.bak2,
+// ...); when that fails nothing is saved. Text that the code page cannot hold makes the file UTF-8 with a
+// byte order mark.
 class PlayerFiles {
   public:
     explicit PlayerFiles(Disk& disk) : disk_(disk) {}

@@ -6,15 +6,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A field takes far more memory than its TAB: no line of the program needs half of these.
-constexpr size_t mostFields = 40;
+// A field takes far more memory than its TAB: no line of the program needs a tenth of these.
+constexpr size_t mostFields = 255;
 
 } // namespace
 
 TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
-    : path_(std::move(path)), complaints_(complaints), source_(disk.read(path_)) {
+    : path_(std::move(path)), complaints_(complaints), source_(disk.read(path_)),
+      wholeText_(isWholeText(source_.bytes)) {
     if (source_.outcome == ReadResult::Outcome::Failed && complaints_)
         complaints_->add({path_, 0, {}, source_.reason});
+    if (!wholeText_ && complaints_)
+        complaints_->add({path_, 0, u"text"_s, u"marked as UTF-8, but not all of its bytes are"_s});
     text_ = decodeText(source_.bytes);
 }
 
@@ -59,10 +62,7 @@ bool TextFile::nextRecord() {
 }
 
 bool TextFile::split(size_t fewest) {
-    if (!splitFields(line_, fields_, mostFields)) {
-        skip({}, u"more than %1 fields"_s.arg(mostFields));
-        return false;
-    }
+    splitFields(line_, fields_, mostFields);
     if (fields_.size() >= fewest)
         return true;
     if (!line_.trimmed().isEmpty())
@@ -82,6 +82,14 @@ std::optional<int> TextFile::accept(std::optional<int> value, size_t position, c
     if (!value)
         skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
     return value;
+}
+
+void TextFile::keepsOnly(size_t fields, std::initializer_list<size_t> numbers) {
+    if (fields_.size() > fields)
+        skip({}, u"%1 fields instead of %2"_s.arg(fields_.size()).arg(fields));
+    for (const size_t position : numbers)
+        if (!isBareNumber(field(position)))
+            skip({}, u"\"%1\" is more than a number"_s.arg(field(position)));
 }
 
 void TextFile::skip(const QString& field, const QString& reason) {

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <initializer_list>
 #include <limits>
 
 namespace orvinel {
@@ -24,8 +25,12 @@ class TextFile {
 
     const ReadResult& source() const { return source_; }
     bool exists() const { return !source_.bytes.isEmpty(); }
-    // Lines that were given up with skip(), comments aside.
+    // Lines of which skip() gave up all or some, comments aside.
     int skippedLines() const { return skipped_; }
+    // Writing back what was taken in loses nothing.
+    bool readCompletely() const {
+        return source_.outcome != ReadResult::Outcome::Failed && wholeText_ && skipped_ == 0;
+    }
 
     // Goes to the next line; False at the end.
     bool nextLine();
@@ -51,7 +56,10 @@ class TextFile {
     // As integer, but the whole field must be a number.
     std::optional<int> whole(size_t position, const char* name, int lowest, int highest);
 
-    // Gives the current line up.
+    // For files that are written again: of the current line only the first `fields` are, and those at
+    // `numbers` as bare numbers. Complains of what is more, as skip does.
+    void keepsOnly(size_t fields, std::initializer_list<size_t> numbers);
+    // Gives the current line up, or some of it that a rewrite would not write again.
     void skip(const QString& field, const QString& reason);
 
   private:
@@ -62,6 +70,7 @@ class TextFile {
     QString path_;
     Complaints* complaints_;
     ReadResult source_;
+    bool wholeText_;
     QString text_;
     qsizetype next_ = 0;
     qsizetype lineFeed_ = -1; // the first at or behind next_, or the end; before next_: not looked for yet

@@ -168,19 +168,29 @@ std::optional<int> wholeNumber(QStringView text, int lowest, int highest) {
     return inRange(valueOf(prefix.ascii), lowest, highest);
 }
 
-bool splitFields(QStringView line, std::vector<QStringView>& fields, size_t most) {
+void splitFields(QStringView line, std::vector<QStringView>& fields, size_t most) {
     fields.clear();
     // Fields are short: looking at each character beats a call of the search for each.
     const QChar* from = line.begin();
     for (const QChar* c = from; c != line.end(); ++c)
         if (*c == u'\t') {
             fields.emplace_back(from, c);
+            if (fields.size() == most)
+                return;
             from = c + 1;
         }
     fields.emplace_back(from, line.end());
-    if (fields.size() > most)
-        fields.clear();
-    return !fields.empty();
+}
+
+bool isBareNumber(QStringView text) {
+    text = text.trimmed();
+    if (text.startsWith(u'-') || text.startsWith(u'+'))
+        text = text.sliced(1);
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), isDigit);
+}
+
+bool isWholeText(const QByteArray& bytes) {
+    return !bytes.startsWith(utf8Mark) || QUtf8StringView(bytes.data(), bytes.size()).isValidUtf8();
 }
 
 namespace {

@@ -30,9 +30,17 @@ std::optional<int> leadingInteger(QStringView text, int lowest, int highest);
 // hexadecimal.
 std::optional<int> wholeNumber(QStringView text, int lowest, int highest);
 
-// One more field than there are TABs; empty fields stay in place. The views point into `line` and replace
-// what `fields` held. False, without any field: there are more than `most`.
-bool splitFields(QStringView line, std::vector<QStringView>& fields, size_t most);
+// One more field than there are TABs, but not more than `most`: what is behind those is left out. Empty
+// fields stay in place. The views point into `line` and replace what `fields` held.
+void splitFields(QStringView line, std::vector<QStringView>& fields, size_t most);
+
+// Nothing but digits, with a sign before them or blanks around them: what is written again for the number
+// says the same.
+bool isBareNumber(QStringView text);
+
+// False: the bytes begin with UTF-8's mark, and there are some among them that are none. decodeText gives
+// U+FFFD in their place.
+bool isWholeText(const QByteArray& bytes);
 
 // Lower-cased UTF-8 of a text: one substring search in it is a case-insensitive search in the text.
 std::string folded(QStringView text);

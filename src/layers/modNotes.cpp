@@ -39,8 +39,10 @@ void readLine(Content& state, TextFile& file) {
         file.skip(u"title"_s, u"a note without a title"_s); // its body shall not vanish with the next save
     else if (state.Notes.count() == largestIdentifier)
         file.skip({}, u"more than %1 notes"_s.arg(largestIdentifier));
-    else if (auto note = readNote(file))
+    else if (auto note = readNote(file)) {
+        file.keepsOnly(fieldsOfNote, {2, 3, 4, 5});
         state.Notes.append(std::move(*note));
+    }
 }
 
 void sortNotes(Content& state) {

@@ -23,6 +23,7 @@ void loadCaptures(Progress& state, PlayerFiles& files, int character, Complaints
         const auto id = file.integer(0, "skill", 1, std::numeric_limits<int>::max());
         if (!id)
             continue;
+        file.keepsOnly(1, {0});
         if (state.EliteSkills.has(*id))
             state.EliteSkills[*id].Captured[static_cast<size_t>(character)] = true;
         if (!state.EliteSkills.has(*id) || !isMarkable(*id))

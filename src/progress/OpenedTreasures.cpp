@@ -5,6 +5,7 @@
 #include "progress/modCharacters.h"
 
 #include <algorithm>
+#include <map>
 
 namespace orvinel {
 
@@ -69,7 +70,8 @@ QString writtenLine(int treasure, const QDate& date) {
     return padded(treasure, 4) + u'\t' + writtenDate(date) + u"\r\n"_s;
 }
 
-void readLine(Progress& state, int character, TextFile& file) {
+// `seen`: what earlier lines of the file said.
+void readLine(Progress& state, int character, TextFile& file, std::map<int, QDate>& seen) {
     if (!file.split(1) || file.line().trimmed().isEmpty())
         return;
     const auto treasure = file.integer(0, "chest", 1, largestIdentifier);
@@ -78,6 +80,11 @@ void readLine(Progress& state, int character, TextFile& file) {
     const auto date = readDate(file.field(1));
     if (!date)
         file.skip(u"date"_s, u"\"%1\" is not a date (ddmmyyyy)"_s.arg(file.field(1)));
+    else if (writtenDate(*date) != file.field(1))
+        file.skip(u"date"_s, u"\"%1\" is taken for %2"_s.arg(file.field(1), writtenDate(*date)));
+    else if (!seen.emplace(*treasure, *date).second && seen[*treasure] != *date)
+        file.skip(u"chest"_s, u"a second line of this chest"_s);
+    file.keepsOnly(2, {0});
     if (state.Treasures.has(*treasure))
         state.Treasures[*treasure].OpenedOn[static_cast<size_t>(character)] = date.value_or(QDate());
     else if (date)
@@ -102,8 +109,9 @@ void LoadOpenedTreasures(Progress& state, PlayerFiles& files, Complaints* compla
     for (int c = 1; c <= state.Characters.highest(); ++c) {
         const QString path = openedTreasuresPath(state, c);
         TextFile file(files.source(), path, complaints);
+        std::map<int, QDate> seen;
         while (file.nextLine())
-            readLine(state, c, file);
+            readLine(state, c, file, seen);
         files.loaded(path, file);
     }
 }

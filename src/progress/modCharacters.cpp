@@ -7,6 +7,17 @@ namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+void take(QString& name, TextFile& file) {
+    file.keepsOnly(2, {0});
+    if (!name.isEmpty() && name != file.field(1))
+        file.skip(u"number"_s, u"a second line of this number, after \"%1\""_s.arg(name));
+    name = file.text(1);
+}
+
+} // namespace
+
 void LoadCharacters(Progress& state, PlayerFiles& files, Complaints* complaints) {
     state.Characters.reset();
     TextFile file(files.source(), charactersPath(state), complaints);
@@ -14,7 +25,7 @@ void LoadCharacters(Progress& state, PlayerFiles& files, Complaints* complaints)
         if (!file.split(2))
             continue;
         if (const auto number = file.integer(0, "number", 1, mostCharacters))
-            state.Characters.grow(*number) = file.text(1);
+            take(state.Characters.grow(*number), file);
     }
     files.loaded(charactersPath(state), file);
 }

@@ -48,6 +48,22 @@ TEST_F(Captures, aFileWithLinesThatNameNoSkillIsKeptBeforeItIsRewritten) {
     EXPECT_EQ("3\r\n\r\nwhat\r\n-7\r\n1e99\r\n", disk.content(adasFile + u".bak"_s));
 }
 
+TEST_F(Captures, whatStandsBesideANumberIsKeptBeforeItIsRewritten) {
+    for (const char* content : {"0003 my first one\r\n", "0003\tat the ford\r\n", "3.4\r\n"}) {
+        disk.put(adasFile, content);
+        load();
+        EXPECT_TRUE(state.EliteSkills[3].capturedBy(1));
+        ASSERT_TRUE(captureSkill(state, files, 7, 1).saved());
+        EXPECT_EQ("0003\r\n0007\r\n", disk.content(adasFile));
+        EXPECT_EQ(content, disk.content(adasFile + u".bak"_s).toStdString());
+        disk.remove(adasFile + u".bak"_s);
+    }
+    disk.put(adasFile, " 3 \r\n3\r\n");
+    load();
+    ASSERT_TRUE(captureSkill(state, files, 7, 1).saved());
+    EXPECT_FALSE(disk.exists(adasFile + u".bak"_s)); // said otherwise, but nothing of it is lost
+}
+
 TEST_F(Captures, aSkillWithFiveDigitsIsRefusedForItWouldNameAnother) {
     file(1, "EliteList.txt", "10003\t1\tD\r\n");
     disk.put(adasFile, "10003\r\n");

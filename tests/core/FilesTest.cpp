@@ -62,6 +62,33 @@ TEST(PlayerFiles, keepsWhatARewriteWouldLose) {
     EXPECT_FALSE(disk.exists(u"/o/Personal/Characters.txt.bak2"_s));
 }
 
+TEST(PlayerFiles, keepsTheOldTableOfCharactersWhenALineOfItWouldNotBeWrittenAgain) {
+    const QString path = u"/o/Personal/Characters.txt"_s;
+    const std::pair<QByteArray, QByteArray> cases[] = {{"01\tAda\r\n01\tBert\r\n", "01\tBert\r\n"},
+                                                       {"01\tAda\tof Ash\r\n", "01\tAda\r\n"},
+                                                       {"01 once Ida\tAda\r\n", "01\tAda\r\n"},
+                                                       {"\xEF\xBB\xBF"
+                                                        "01\tAd\xE9\r\n",
+                                                        "\xEF\xBB\xBF"
+                                                        "01\tAd\xEF\xBF\xBD\r\n"},
+                                                       {"1\tAda\r\n\r\n2\tBert", "01\tAda\r\n02\tBert\r\n"},
+                                                       {"\xEF\xBB\xBF"
+                                                        "01\tAd\xC3\xA9\r\n",
+                                                        "01\tAd\xE9\r\n"}};
+    for (size_t i = 0; i < std::size(cases); ++i) {
+        const auto& [before, after] = cases[i];
+        MemoryDisk disk;
+        disk.put(path, before);
+        PlayerFiles files(disk);
+        ProgramState state;
+        state.AppPath = u"/o/"_s;
+        LoadCharacters(state, files);
+        ASSERT_TRUE(SaveCharacters(state, files).saved());
+        EXPECT_EQ(after, disk.content(path));
+        EXPECT_EQ(i < 4 ? before : QByteArray(), disk.content(path + u".bak"_s)) << before.toStdString();
+    }
+}
+
 TEST(PlayerFiles, refusesToSaveWhenTheOldFileCannotBeKept) {
     MemoryDisk disk;
     disk.put(u"/o/Personal/Characters.txt"_s, "broken\r\n").failAt = 1;

@@ -49,6 +49,14 @@ TEST_F(NoteBook, linesThatAreNoNotesLeaveABackup) {
     EXPECT_TRUE(disk.content(path + u".bak"_s).startsWith(broken));
 }
 
+TEST_F(NoteBook, textBehindAPlacesNumberLeavesABackup) {
+    const QByteArray pointed = "Gate\tb\t12 or so\t-2\t3\t4\r\n";
+    put(pointed);
+    ASSERT_TRUE(SaveNotes(state, files).saved());
+    EXPECT_EQ("Gate\tb\t12\t-2\t3\t4\r\n", disk.content(path));
+    EXPECT_EQ(pointed, disk.content(path + u".bak"_s));
+}
+
 TEST_F(NoteBook, commentsAndEmptyLinesLeaveNoBackup) {
     put(";x\ty\r\n\r\n  \r\n  ; z\r\nTitle\t\t1\t2\t3\t4");
     ASSERT_TRUE(SaveNotes(state, files).saved());

@@ -109,5 +109,21 @@ TEST(TextFile, tellsWhatItSkips) {
     EXPECT_EQ(u"number"_s, complaints.all[1].field);
 }
 
+TEST(TextFile, passesOverFieldsBehindTheBoundAndKeepsTheLine) {
+    MemoryDisk disk;
+    QByteArray line = "first";
+    for (int i = 1; i < 300; ++i)
+        line += "\t" + QByteArray::number(i);
+    disk.put(u"/o/x.txt"_s, line + "\r\nnext\tb\r\n");
+    TextFile file(disk, u"/o/x.txt"_s);
+    ASSERT_TRUE(file.nextLine());
+    ASSERT_TRUE(file.split(2));
+    EXPECT_EQ(u"first"_s, file.text(0));
+    EXPECT_EQ(u"254"_s, file.text(254));
+    EXPECT_EQ(255u, file.fieldCount());
+    EXPECT_EQ(0, file.skippedLines());
+    EXPECT_TRUE(file.nextLine() && file.split(2));
+}
+
 } // namespace
 } // namespace orvinel

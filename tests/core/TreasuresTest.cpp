@@ -112,6 +112,20 @@ TEST_F(Chests, linesThatMarkNothingSurviveInABackup) {
     EXPECT_FALSE(disk.exists(u"/o/Personal/Char01OpenedTreasures.txt.bak"_s));
 }
 
+TEST_F(Chests, whatARewriteWouldNotWriteAgainSurvivesInABackup) {
+    for (const QByteArray content :
+         {"0001\t16102011\tby the mill\r\n", "0001 urn\t16102011\r\n", "0001\t32102011\r\n",
+          "0001\t16102011\r\n0001\t17102011\r\n", "0300\t16102011\r\n0300\t17102011\r\n"}) {
+        putOpened(content);
+        ASSERT_TRUE(openTreasure(state, files, {2, 3, {2011, 10, 16}}).saved());
+        EXPECT_EQ(content, disk.content(u"/o/Personal/Char03OpenedTreasures.txt.bak"_s));
+        disk.remove(u"/o/Personal/Char03OpenedTreasures.txt.bak"_s);
+    }
+    putOpened("1\t16102011\r\n0001\t16102011\r\n");
+    ASSERT_TRUE(openTreasure(state, files, {2, 3, {2011, 10, 16}}).saved());
+    EXPECT_FALSE(disk.exists(u"/o/Personal/Char03OpenedTreasures.txt.bak"_s));
+}
+
 TEST_F(Chests, aNewCharacterHasOpenedNothing) {
     state.Characters.grow(5) = u"Eva"_s;
     EXPECT_FALSE(state.Treasures[1].openedBy(5).isValid());
