@@ -17,6 +17,9 @@
 #include "world/modZones.h"
 
 #include <QScopeGuard>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace orvinel {
 
@@ -25,17 +28,36 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int updaterPauseMs = 1000;
+constexpr size_t mostNamed = 12; // lines that a message has room for on a small screen
+
+QString namesOf(const std::vector<QString>& paths, const QString& folder) {
+    QStringList names;
+    for (size_t i = 0; i < std::min(paths.size(), mostNamed); ++i)
+        names.push_back(paths[i].startsWith(folder) ? paths[i].sliced(folder.size()) : paths[i]);
+    if (paths.size() > mostNamed)
+        names.push_back(u"... (+ %1)"_s.arg(paths.size() - mostNamed));
+    return names.join(u'\n');
+}
+
+// What Personal has already stays in both places.
+void takeOverGathered(const QString& gathering, const QString& personal, Disk& disk) {
+    for (const QString& name : disk.list(gathering))
+        disk.rename(gathering + u'/' + name, personal + u'/' + name);
+    disk.removeFolder(gathering);
+}
 
 } // namespace
 
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
     MoveToPersonalFolder(state, files.disk());
     InstallPendingUpdater(state, files.disk(), desktop);
-    if (!loadTables(state, files))
-        desktop.message(MessageIcon::Critical, programName(), state.text(Caption::TooMuchData));
+    const std::vector<QString> leftOut = loadTables(state, files);
+    if (!leftOut.empty())
+        desktop.message(MessageIcon::Critical, programName(),
+                        state.text(Caption::TooMuchData) + u"\n\n"_s + namesOf(leftOut, state.AppPath));
 }
 
-bool loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
+std::vector<QString> loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
     const RationedDisk disk(files.disk(), largestDataSum);
     files.readThrough(&disk);
     const auto unlimited = qScopeGuard([&files] { files.readThrough(nullptr); });
@@ -56,15 +78,21 @@ bool loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints)
     LoadPets(state, disk, complaints);
     LoadPetLocations(state, disk, complaints);
     LoadOptions(state, files);
-    return !disk.exhausted();
+    return disk.refused();
 }
 
 void MoveToPersonalFolder(const ProgramState& state, Disk& disk) {
     const QString personal = state.AppPath + u"Personal"_s;
-    if (disk.folderExists(personal))
-        return;
     // The files gather in a folder of another name, so that Personal exists only when all have arrived.
     const QString gathering = personal + u".new"_s;
+    if (disk.folderExists(personal)) {
+        if (disk.folderExists(gathering))
+            takeOverGathered(gathering, personal, disk);
+        return;
+    }
+    const bool taken = disk.read(personal).outcome != ReadResult::Outcome::NotThere;
+    if (taken && !PlayerFiles(disk).putAside(personal).saved())
+        return;
     const QString data = state.AppPath + u"Data"_s;
     disk.createFolder(gathering);
     for (int n = 1; n <= mostCharacters; ++n) {
@@ -83,6 +111,7 @@ void InstallPendingUpdater(const ProgramState& state, Disk& disk, Desktop& deskt
     if (disk.remove(state.AppPath + u"update.exe"_s))
         return;
     desktop.wait(updaterPauseMs);
+    disk.makeRunnable(state.AppPath + u"update.dat"_s);
     disk.rename(state.AppPath + u"update.dat"_s, state.AppPath + u"update.exe"_s);
 }
 

@@ -43,6 +43,8 @@ class Disk {
     // Fails when `to` exists.
     virtual DiskError rename(const QString& from, const QString& to) = 0;
     virtual DiskError remove(const QString& path) = 0;
+    // Whoever may read the file may run it. Nothing to be done where names decide what is a program.
+    virtual DiskError makeRunnable(const QString& path) = 0;
     virtual DiskError createFolder(const QString& path) = 0;
     // An empty folder only.
     virtual DiskError removeFolder(const QString& path) = 0;

@@ -239,6 +239,19 @@ DiskError FileDisk::remove(const QString& path) {
     return std::nullopt;
 }
 
+DiskError FileDisk::makeRunnable(const QString& path) {
+    QFile file(resolve(path));
+    QFile::Permissions permissions = file.permissions();
+    const std::pair<QFile::Permission, QFile::Permission> classes[] = {{QFile::ReadOwner, QFile::ExeOwner},
+                                                                       {QFile::ReadUser, QFile::ExeUser},
+                                                                       {QFile::ReadGroup, QFile::ExeGroup},
+                                                                       {QFile::ReadOther, QFile::ExeOther}};
+    for (const auto& [read, run] : classes)
+        if (permissions.testFlag(read))
+            permissions |= run;
+    return file.setPermissions(permissions) ? std::nullopt : DiskError(file.errorString());
+}
+
 DiskError FileDisk::createFolder(const QString& path) {
     return makeFolder(resolve(path));
 }

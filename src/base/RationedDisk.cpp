@@ -1,5 +1,7 @@
 #include "base/RationedDisk.h"
 
+#include <algorithm>
+
 namespace orvinel {
 
 ReadResult RationedDisk::read(const QString& path) const {
@@ -9,7 +11,8 @@ ReadResult RationedDisk::read(const QString& path) const {
         left_ -= result.bytes.size();
         return result;
     }
-    exhausted_ = true;
+    if (std::find(refused_.begin(), refused_.end(), path) == refused_.end())
+        refused_.push_back(path);
     return {ReadResult::Outcome::Failed, {}, QStringLiteral("all data files together are too large")};
 }
 

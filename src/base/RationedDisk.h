@@ -12,8 +12,8 @@ class RationedDisk : public Disk {
     // `disk` outlives this object.
     RationedDisk(const Disk& disk, qint64 bytes) : disk_(disk), left_(bytes) {}
 
-    // A file was refused.
-    bool exhausted() const { return exhausted_; }
+    // The files that were refused, in the order in which they were asked for first.
+    const std::vector<QString>& refused() const { return refused_; }
 
     qint64 length(const QString& path) const override { return disk_.length(path); }
     bool folderExists(const QString& path) const override { return disk_.folderExists(path); }
@@ -24,6 +24,7 @@ class RationedDisk : public Disk {
     DiskError replace(const QString&, const QByteArray&) override { return readOnly(); }
     DiskError rename(const QString&, const QString&) override { return readOnly(); }
     DiskError remove(const QString&) override { return readOnly(); }
+    DiskError makeRunnable(const QString&) override { return readOnly(); }
     DiskError createFolder(const QString&) override { return readOnly(); }
     DiskError removeFolder(const QString&) override { return readOnly(); }
 
@@ -32,7 +33,7 @@ class RationedDisk : public Disk {
 
     const Disk& disk_;
     mutable qint64 left_;
-    mutable bool exhausted_ = false;
+    mutable std::vector<QString> refused_;
 };
 
 } // namespace orvinel

@@ -15,7 +15,7 @@ OpenedFolder::OpenedFolder(const QString& word) : path(programFolder(word)), dis
         problem = u"no folder %1"_s.arg(word);
     } else if (!LoadLanguage(state, disk)) {
         problem = u"%1 is no program folder"_s.arg(word);
-    } else if (!loadTables(state, files, &complaints)) {
+    } else if (!loadTables(state, files, &complaints).empty()) {
         problem = u"%1: the data files are too large"_s.arg(word);
     } else {
         for (const Complaint& complaint : complaints.all())

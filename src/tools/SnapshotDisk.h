@@ -25,6 +25,7 @@ class SnapshotDisk : public Disk {
     DiskError replace(const QString&, const QByteArray&) override { return refusal(); }
     DiskError rename(const QString&, const QString&) override { return refusal(); }
     DiskError remove(const QString&) override { return refusal(); }
+    DiskError makeRunnable(const QString&) override { return refusal(); }
     DiskError createFolder(const QString&) override { return refusal(); }
     DiskError removeFolder(const QString&) override { return refusal(); }
 

@@ -6,7 +6,9 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <array>
+#include <functional>
+#include <map>
+#include <utility>
 
 namespace orvinel {
 
@@ -16,28 +18,68 @@ namespace {
 
 constexpr int highestRegionNumber = 255;
 
-void discover(World& state, const Disk& disk, Complaints* complaints) {
-    state.Campaigns.reset();
-    const auto complain = [&](const QString& entry, const QString& reason) {
-        if (complaints)
-            complaints->add({state.AppPath + entry, 0, u"folder"_s, reason});
-    };
-    for (const QString& entry : disk.list(state.AppPath)) {
+// Among entries with one number the highest counts: a folder of which something can be read, then any other
+// folder, then what is none. `folder`: the one that the program would read, which an entry with another
+// spelling of the number or with more behind the name is not.
+int usefulness(const Disk& disk, const QString& folder) {
+    if (!disk.folderExists(folder))
+        return 0;
+    const std::vector<QString> names = disk.list(folder);
+    const bool readable = std::any_of(names.begin(), names.end(), [&](const QString& name) {
+        return name.endsWith(u".txt"_s, Qt::CaseInsensitive) &&
+               disk.read(folder + u'/' + name).outcome == ReadResult::Outcome::Read;
+    });
+    return readable ? 2 : 1;
+}
+
+// Tells of an entry of the program's folder what is wrong with it.
+using Complain = std::function<void(const QString& entry, const QString& reason)>;
+
+// The entries that name a campaign, in sorted order, by its number.
+std::map<int, std::vector<QString>> namedEntries(const QString& appPath, const Disk& disk,
+                                                 const Complain& complain) {
+    std::map<int, std::vector<QString>> entries;
+    for (const QString& entry : disk.list(appPath)) {
         if (!entry.startsWith(u"Campaign."_s))
             continue;
         const QStringList parts = entry.split(u'.');
         const auto number = parts.size() < 3 ? std::nullopt : leadingInteger(parts[1], 0, 255);
-        if (!number || parts[2].isEmpty() || parts[1].isEmpty() || !parts[1][0].isDigit()) {
+        if (!number || parts[2].isEmpty() || parts[1].isEmpty() || !parts[1][0].isDigit())
             complain(entry, u"not the name of a campaign folder"_s);
-            continue;
-        }
-        // Beyond the campaigns that the program knows it ends anyway: one entry is enough to tell.
-        Campaign& campaign = state.Campaigns.grow(std::min(*number, firstUnknownCampaign));
-        if (campaign.CampaignName.isEmpty())
-            campaign.CampaignName = parts[2];
-        else
-            complain(entry, u"a second folder of campaign %1"_s.arg(*number));
+        else // beyond the campaigns that the program knows it ends anyway: one number is enough to tell
+            entries[std::min(*number, firstUnknownCampaign)].push_back(entry);
     }
+    return entries;
+}
+
+// Names the campaign as its most useful entry does.
+void choose(World& state, int number, const std::vector<QString>& entries, const Disk& disk,
+            const Complain& complain) {
+    Campaign& campaign = state.Campaigns.grow(number);
+    QString chosen;
+    int best = -1;
+    for (const QString& entry : entries) {
+        const QString before = std::exchange(campaign.CampaignName, entry.section(u'.', 2, 2));
+        const int useful = entries.size() == 1 ? 0 : usefulness(disk, campaignFolder(state, number));
+        if (best >= 0)
+            complain(useful > best ? chosen : entry, u"a second folder of campaign %1"_s.arg(number));
+        if (useful > best) {
+            best = useful;
+            chosen = entry;
+        } else {
+            campaign.CampaignName = before;
+        }
+    }
+}
+
+void discover(World& state, const Disk& disk, Complaints* complaints) {
+    state.Campaigns.reset();
+    const Complain complain = [&](const QString& entry, const QString& reason) {
+        if (complaints)
+            complaints->add({state.AppPath + entry, 0, u"folder"_s, reason});
+    };
+    for (const auto& [number, entries] : namedEntries(state.AppPath, disk, complain))
+        choose(state, number, entries, disk, complain);
 }
 
 void loadRegions(Campaign& campaign, const QString& folder, const Disk& disk, Complaints* complaints) {

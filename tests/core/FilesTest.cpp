@@ -125,6 +125,54 @@ TEST(FirstStart, bringsTheOldFilesIntoPersonal) {
     EXPECT_TRUE(disk.exists(u"/o/Data/Char08CapElite.txt"_s));
 }
 
+// Where the move was cut off, refused, or found a file of the folder's name.
+TEST(FirstStart, whatAnEarlierOneGatheredIsNotStranded) {
+    ProgramState state;
+    state.AppPath = u"/o/"_s;
+    MemoryDisk blocked;
+    blocked.put(u"/o/Personal"_s, "a shopping list").put(u"/o/Data/Characters.txt"_s, "01\tAda\r\n");
+    MoveToPersonalFolder(state, blocked);
+    EXPECT_EQ("01\tAda\r\n", blocked.content(u"/o/Personal/Characters.txt"_s));
+    EXPECT_EQ("a shopping list", blocked.content(u"/o/Personal.bak"_s));
+
+    MemoryDisk refused;
+    refused.put(u"/o/Personal"_s, "a shopping list").put(u"/o/Data/Characters.txt"_s, "01\tAda\r\n");
+    refused.failAt = 1;
+    MoveToPersonalFolder(state, refused);
+    EXPECT_EQ("01\tAda\r\n", refused.content(u"/o/Data/Characters.txt"_s));
+
+    MemoryDisk saved; // by a session after the last rename had failed
+    saved.put(u"/o/Personal.new/Characters.txt"_s, "01\tAda\r\n")
+        .put(u"/o/Personal.new/Char01CapElite.txt"_s, "0001\r\n");
+    saved.put(u"/o/Personal/characters.txt"_s, "01\tBert\r\n");
+    MoveToPersonalFolder(state, saved);
+    EXPECT_EQ("01\tBert\r\n", saved.content(u"/o/Personal/Characters.txt"_s));
+    EXPECT_EQ("0001\r\n", saved.content(u"/o/Personal/Char01CapElite.txt"_s));
+    EXPECT_EQ("01\tAda\r\n", saved.content(u"/o/Personal.new/Characters.txt"_s));
+    saved.remove(u"/o/Personal/Characters.txt"_s);
+    MoveToPersonalFolder(state, saved);
+    EXPECT_EQ("01\tAda\r\n", saved.content(u"/o/Personal/Characters.txt"_s));
+    EXPECT_FALSE(saved.folderExists(u"/o/Personal.new"_s));
+}
+
+TEST(LoadAll, namesTheFilesThatAreTooMuch) {
+    MemoryDisk disk;
+    const QByteArray remarks = ";" + QByteArray(50'000, 'x') + "\r\n";
+    const QByteArray half = remarks.repeated(largestDataSum / 2 / remarks.size() + 1);
+    disk.put(u"/o/Campaign.01.Ash/Regions.txt"_s, "1\tCoast\r\n");
+    disk.put(u"/o/Campaign.01.Ash/Zones.txt"_s, half).put(u"/o/Campaign.01.Ash/EliteLocations.txt"_s, half);
+    disk.put(u"/o/Personal/Notes.txt"_s, "Gate\tb\t1\t2\t1\t1\r\n");
+    PlayerFiles files(disk);
+    ProgramState state;
+    state.AppPath = u"/o/"_s;
+    RecordingDesktop desktop;
+    LoadAll(state, files, desktop);
+    ASSERT_EQ(1, desktop.log.size());
+    EXPECT_TRUE(desktop.log[0].endsWith(u"\n\nCampaign.01.Ash/EliteLocations.txt"_s))
+        << desktop.log[0].toStdString();
+    EXPECT_EQ(1, state.Notes.count());
+}
+
 TEST(FirstStart, aPendingUpdaterReplacesTheOldOne) {
     MemoryDisk disk;
     disk.put(u"/o/update.dat"_s, "new").put(u"/o/Update.exe"_s, "old");
@@ -159,6 +207,22 @@ TEST(FileDisk, matchesNamesWithoutRegardToCase) {
     EXPECT_EQ(0, disk.length(base + u"/Data"_s));
     EXPECT_EQ(ReadResult::Outcome::Failed, disk.read(base + u"/Data"_s).outcome);
     EXPECT_TRUE(disk.rename(base + u"/Data/a[1].txt"_s, base + u"/data/a[1].TXT"_s));
+}
+
+TEST(FileDisk, letsASwappedInUpdaterRun) {
+    QTemporaryDir folder;
+    const QString base = folder.path() + u'/';
+    FileDisk disk(base);
+    ASSERT_FALSE(disk.replace(base + u"update.dat"_s, "#!/bin/sh\n"));
+    QFile::setPermissions(base + u"update.dat"_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    ProgramState state;
+    state.AppPath = base;
+    RecordingDesktop desktop;
+    disk.replace(base + u"update.exe"_s, "old");
+    InstallPendingUpdater(state, disk, desktop);
+    EXPECT_TRUE(QFileInfo(base + u"update.exe"_s).isExecutable());
+    EXPECT_TRUE(QFile::permissions(base + u"update.exe"_s).testFlag(QFile::ExeGroup));
+    EXPECT_FALSE(QFile::permissions(base + u"update.exe"_s).testFlag(QFile::ExeOther));
 }
 
 TEST(FileDisk, aFailingWriteLeavesTheOldFile) {

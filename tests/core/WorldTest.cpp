@@ -56,6 +56,22 @@ TEST_F(World, campaignFoldersAreFoundByTheirExactPrefix) {
         campaignEntries(state));
 }
 
+TEST_F(World, ofSeveralEntriesOfOneNumberTheOneThatCanBeUsedCounts) {
+    disk.put(u"/o/Campaign.01.Backup.zip"_s, "x")
+        .put(u"/o/Campaign.01.Eldermere/Regions.txt"_s, "1\tSea\r\n");
+    disk.put(u"/o/Campaign.02.Aside.old/Regions.txt"_s, "1\tx\r\n");
+    disk.put(u"/o/Campaign.02.Bay/EliteList.txt"_s, "1\t1\tA\r\n").putFolder(u"/o/Campaign.02.Zest"_s);
+    disk.put(u"/o/Campaign.03.Ash/Regions.txt"_s, "1\tx\r\n")
+        .put(u"/o/Campaign.03.Elm/Pets.txt"_s, "1\tElk\r\n");
+    disk.unreadable[u"/o/Campaign.03.Ash/Regions.txt"_s] = u"permission denied"_s;
+    disk.put(u"/o/Campaign.04.File"_s, "x").putFolder(u"/o/Campaign.04.Folder"_s);
+    LoadCampaigns(state, disk);
+    EXPECT_EQ(u"Sea"_s, regionName(state, 1, 1));
+    EXPECT_EQ(u"Bay"_s, campaignName(state, 2));
+    EXPECT_EQ(u"Elm"_s, campaignName(state, 3));
+    EXPECT_EQ(u"Folder"_s, campaignName(state, 4));
+}
+
 TEST_F(World, anUnknownCampaignGrowsNoTable) {
     LoadCampaigns(state, disk.putFolder(u"/o/Campaign.99.Z"_s));
     EXPECT_EQ(firstUnknownCampaign, state.Campaigns.highest());

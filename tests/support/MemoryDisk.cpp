@@ -103,6 +103,10 @@ DiskError MemoryDisk::remove(const QString& path) {
     return entries_.erase(path.toLower()) ? std::nullopt : DiskError(QStringLiteral("no such file"));
 }
 
+DiskError MemoryDisk::makeRunnable(const QString& path) {
+    return change(QStringLiteral("runnable ") + path);
+}
+
 DiskError MemoryDisk::createFolder(const QString& path) {
     if (const DiskError error = change(QStringLiteral("folder ") + path))
         return error;
@@ -113,6 +117,8 @@ DiskError MemoryDisk::createFolder(const QString& path) {
 DiskError MemoryDisk::removeFolder(const QString& path) {
     if (const DiskError error = change(QStringLiteral("remove folder ") + path))
         return error;
+    if (!list(path).empty())
+        return QStringLiteral("the folder is not empty");
     return entries_.erase(path.toLower()) ? std::nullopt : DiskError(QStringLiteral("no such folder"));
 }
 

@@ -39,6 +39,7 @@ class MemoryDisk : public Disk {
     DiskError replace(const QString& path, const QByteArray& content) override;
     DiskError rename(const QString& from, const QString& to) override;
     DiskError remove(const QString& path) override;
+    DiskError makeRunnable(const QString& path) override;
     DiskError createFolder(const QString& path) override;
     DiskError removeFolder(const QString& path) override;
 
