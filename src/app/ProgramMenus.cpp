@@ -1,6 +1,5 @@
 #include "app/modOrvinel.h"
 
-#include "base/About.h"
 #include "ui/dialogs/frmCharacterList.h"
 #include "ui/dialogs/frmCredits.h"
 #include "ui/dialogs/frmInformation.h"

@@ -1,11 +1,13 @@
 #include "app/modOrvinel.h"
 #include "base/FileDisk.h"
 #include "base/SingleInstance.h"
+#include "ui/platform/EndSignals.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/QtDesktop.h"
 #include "ui/platform/Windows.h"
 
 #include <QApplication>
+#include <QSessionManager>
 
 int main(int, char** argv) {
     // The program takes no options; Qt would take its own from them.
@@ -25,5 +27,11 @@ int main(int, char** argv) {
     orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
     if (!program.Main())
         return 1;
+    const orvinel::EndSignals ending;
+    QObject::connect(&ending, &orvinel::EndSignals::endWanted, &program, &orvinel::Program::EndUnasked);
+    // A desktop that logs out asks first, and may go on after all.
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &program,
+        [&program](QSessionManager&) { program.SaveUnasked(); }, Qt::DirectConnection);
     return QApplication::exec();
 }

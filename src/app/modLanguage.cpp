@@ -1,5 +1,6 @@
 #include "app/modLanguage.h"
 
+#include "base/About.h"
 #include "base/TextFile.h"
 #include "world/World.h"
 
@@ -22,8 +23,9 @@ bool LoadLanguage(World& state, const Disk& disk, Complaints* complaints) {
 }
 
 QString missingLanguageMessage() {
+    const QString where = mailAddress().isEmpty() ? QString() : u" at "_s + mailAddress();
     return u"Can't load language file. It should be in your 'Data' folder.\n"
-           "Please download Orvinel again; if the problem persists, contact its author at orvinel@example.org."_s;
+           "Please download Orvinel again; if the problem persists, contact its author%1."_s.arg(where);
 }
 
 } // namespace orvinel

@@ -1,9 +1,9 @@
 #include "app/modOrvinel.h"
 
+#include "app/Opening.h"
 #include "app/Saving.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
-#include "base/About.h"
 #include "world/modCampaigns.h"
 
 #include <QScopeGuard>
@@ -190,8 +190,7 @@ void Program::ToggleMapMaximised() {
 }
 
 void Program::OpenWithShell(const QString& target) {
-    if (!desktop_.openWithShell(target))
-        desktop_.message(MessageIcon::Critical, programName(), state_.text(Caption::NotOpened).arg(target));
+    openAndTell(state_, desktop_, target);
 }
 
 void Program::ShowHistory() {
@@ -199,16 +198,11 @@ void Program::ShowHistory() {
 }
 
 void Program::ShowGuide() {
-    openPage(u"guide.html"_s, helpPage());
+    OpenWithShell(addressOf(Page::Guide, state_, files_.disk()));
 }
 
 void Program::ShowStartPage() {
-    openPage(u"start.html"_s, homePage());
-}
-
-void Program::openPage(const QString& name, const QString& otherwise) {
-    const QString page = state_.AppPath + u"Data/Guide/"_s + name;
-    OpenWithShell(files_.disk().length(page) > 0 ? files_.disk().resolve(page) : otherwise);
+    OpenWithShell(addressOf(Page::Start, state_, files_.disk()));
 }
 
 void Program::RunUpdater() {
@@ -245,11 +239,15 @@ void Program::rememberLegendPlace() {
     state_.AppOptions.LegendY = twipsOf(legend_->y());
 }
 
-bool Program::saveOptions() {
+void Program::gatherOptions() {
     copyPlaces();
     state_.AppOptions.Legend = panel_->MenuLegendShown == 1;
     rememberLegendPlace();
     panel_->readOptions(state_.AppOptions);
+}
+
+bool Program::saveOptions() {
+    gatherOptions();
     const QString text = optionsFile(state_.AppOptions);
     SaveResult result = files_.save(optionsPath(state_), text);
     if (result.outcome == SaveResult::Outcome::ChangedOutside) {
@@ -266,6 +264,21 @@ bool Program::saveOptions() {
 void Program::QuitProgram() {
     if (ended_ || !saveOptions())
         return;
+    ended_ = true;
+    endProcess_(0);
+}
+
+void Program::SaveUnasked() {
+    if (ended_ || !taskBar_) // before the windows stand there is nothing new to remember
+        return;
+    gatherOptions();
+    files_.save(optionsPath(state_), optionsFile(state_.AppOptions));
+}
+
+void Program::EndUnasked() {
+    if (ended_)
+        return;
+    SaveUnasked();
     ended_ = true;
     endProcess_(0);
 }

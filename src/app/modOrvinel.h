@@ -34,12 +34,16 @@ class Program : public QObject {
     bool Main();
 
     void QuitProgram();
+    // Writes the options when nobody is there to be asked: what cannot be written stays as it was.
+    void SaveUnasked();
+    // Ends as QuitProgram does, but asks nothing: the system wants it.
+    void EndUnasked();
     void ToggleMapMaximised();
     void OpenWithShell(const QString& target);
     void ShowHistory();
-    // The guide that came with the program; where it is missing, the page about it.
+    // The guide, and the page about what lies beside the program (guide, progress, atlas, backup): both come
+    // with it (Opening.h).
     void ShowGuide();
-    // The page about what lies beside the program: guide, progress, atlas, backup. It comes with the guide.
     void ShowStartPage();
     void RunUpdater();
 
@@ -59,13 +63,12 @@ class Program : public QObject {
     void place(const WindowPair& pair);
     void attachMap();
     void attachShownMap();
-    // A page of Data/Guide; where it is missing, the address `otherwise`.
-    void openPage(const QString& name, const QString& otherwise);
     // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
     // corner.
     QPoint legendCorner() const;
     void placeLegend();
     void rememberLegendPlace();
+    void gatherOptions();
     bool saveOptions();
     void copyPlaces();
 

@@ -4,7 +4,7 @@
 
 namespace orvinel {
 
-// Who made the program and where it lives on the web: the same in every language.
+// Who made the program and where the project is found: the same in every language.
 inline QString authorName() {
     return QStringLiteral("Orrel Tarn");
 }
@@ -14,17 +14,9 @@ inline QString guildName() {
 inline QString byLine() {
     return QStringLiteral("by ") + authorName();
 }
-inline QString homePage() {
-    return QStringLiteral("https://orvinel.example.org/");
-}
-inline QString helpPage() {
-    return QStringLiteral("https://orvinel.example.org/help/");
-}
-inline QString guildPage() {
-    return QStringLiteral("https://lanternwardens.example.org/");
-}
-inline QString mailAddress() {
-    return QStringLiteral("mailto:orvinel@example.org");
-}
+
+// Set when the program is built (ORVINEL_HOME_PAGE, ORVINEL_MAIL); empty when the project has none.
+QString homePage();
+QString mailAddress();
 
 } // namespace orvinel

@@ -294,6 +294,28 @@ def cannot_write(folder):
     holds(folder / "Data/Options.txt", before)
 
 
+def ends_by_signal(folder):
+    """A logout: what was chosen is remembered, also over an open dialog, and nothing is asked."""
+    make_world(folder)
+    written = {}
+    for name, ending in ("quit", None), ("terminated", signal.SIGTERM), ("dialog", signal.SIGTERM), ("hung up", signal.SIGHUP):
+        (folder / "Data/Options.txt").unlink(missing_ok=True)
+        with Player(folder) as player:
+            player.choose(CAMPAIGN, 2)
+            player.choose(REGION, 1)
+            player.ready()
+            if name == "dialog":
+                player.popup(lambda: player.panel.click(*OPTIONS_MENU)).click(*CHARACTERS_ROW)
+                player.dialog("Characters")
+            if ending:
+                player.process.send_signal(ending)
+                assert player.end() == 0, name
+            else:
+                player.quit()
+        written[name] = content(folder / "Data/Options.txt")
+    assert written["quit"] and all(options == written["quit"] for options in written.values()), written
+
+
 def bad_pictures(folder):
     campaign = make_world(folder)
     in_marsh(folder)
@@ -309,7 +331,7 @@ def bad_pictures(folder):
 
 
 ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unknown_campaign, shell,
-           cannot_write, bad_pictures]
+           cannot_write, ends_by_signal, bad_pictures]
 
 
 def main(script, errands):

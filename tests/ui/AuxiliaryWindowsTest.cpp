@@ -33,7 +33,7 @@ struct DialogFixture : testing::Test {
 };
 
 struct InformationTest : DialogFixture {
-    frmInformation window{context(), nullptr};
+    frmInformation window{context(), nullptr, {u"https://home.test/"_s, u"tarn@home.test"_s}};
     QWidget* container = window.findChild<QWidget*>(u"picOntainer"_s);
 
     InformationTest() { window.show(); }
@@ -85,13 +85,34 @@ TEST_F(InformationTest, theMouseFindsTheLinksUpToTheirCorners) {
 TEST_F(InformationTest, aClickOpensALinkOrClosesTheWindow) {
     clickAt({60, 365});
     clickAt({60, 415});
-    EXPECT_EQ((QStringList{u"open "_s + guildPage(), u"open "_s + mailAddress()}), opened());
+    EXPECT_EQ((QStringList{u"open https://home.test/"_s, u"open mailto:tarn@home.test"_s}), opened());
     EXPECT_TRUE(window.isVisible());
     for (const QPoint place : {QPoint(60, 200), QPoint(300, 60), QPoint(30, 20), QPoint(270, 200)}) {
         window.show();
         clickAt(place);
         EXPECT_FALSE(window.isVisible()) << place.x() << ", " << place.y();
     }
+}
+
+TEST_F(InformationTest, aLinkThatCannotBeOpenedIsTold) {
+    desktop.shellWorks = false;
+    clickAt({60, 365});
+    EXPECT_EQ(u"message Critical Orvinel|https://home.test/ could not be opened."_s, desktop.log.last());
+}
+
+TEST_F(DialogFixture, withoutAddressesTheInformationWindowHasTheStartPageAndNoMail) {
+    state.AppPath = u"/o/"_s;
+    disk.put(u"/o/Data/Guide/start.html"_s, "<html>");
+    frmInformation window(context(), nullptr, {});
+    window.show();
+    EXPECT_EQ(nullptr, window.findChild<QPushButton*>(u"lnkMail"_s));
+    window.findChild<QPushButton*>(u"lnkWebPage"_s)->click();
+    EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
+    auto* container = window.findChild<QWidget*>(u"picOntainer"_s);
+    QTest::mouseMove(container, {60, 415});
+    EXPECT_EQ(frmInformation::NoLink, window.linkHot());
+    QTest::mouseClick(container, Qt::LeftButton, {}, {60, 415});
+    EXPECT_FALSE(window.isVisible()) << "a click beside the links";
 }
 
 TEST_F(InformationTest, showsTheCaptionOfTheFigureUnderTheMouseOnly) {
@@ -116,7 +137,7 @@ TEST_F(InformationTest, isUsableByKeysAlone) {
     auto* mail = window.findChild<QPushButton*>(u"lnkMail"_s);
     mail->setFocus();
     QTest::keyClick(mail, Qt::Key_Return);
-    EXPECT_EQ(QStringList(u"open "_s + mailAddress()), opened());
+    EXPECT_EQ(QStringList(u"open mailto:tarn@home.test"_s), opened());
     window.findChild<QWidget*>(u"lblCharPos(2)"_s)->setFocus();
     EXPECT_EQ(2, window.shownCaption());
     QTest::keyClick(&window, Qt::Key_Escape);

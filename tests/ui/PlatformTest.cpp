@@ -1,5 +1,6 @@
 #include "support/Printing.h"
 #include "ui/platform/Drawing.h"
+#include "ui/platform/EndSignals.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/ItemCombo.h"
 #include "ui/platform/Label.h"
@@ -12,10 +13,12 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
 
 #include <array>
+#include <csignal>
 
 #include <gmock/gmock.h>
 
@@ -254,6 +257,14 @@ TEST(Drawing, boxesCoverTheirCornersInclusive) {
     EXPECT_EQ(0xFFFF0000u, image.pixel(3, 4));
     EXPECT_EQ(0xFFFF0000u, image.pixel(13, 14));
     EXPECT_EQ(0xFFFFFFFFu, image.pixel(15, 15));
+}
+
+TEST(EndSignals, areToldFromTheEventLoop) {
+    EndSignals ending;
+    QSignalSpy told(&ending, &EndSignals::endWanted);
+    std::raise(SIGTERM);
+    EXPECT_EQ(0, told.count());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "app/modOrvinel.h"
-#include "base/About.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
 
@@ -129,21 +128,26 @@ TEST_F(ProgramTest, failingToSaveTheOptionsIsToldAndTheProgramStaysIfThePlayerWa
     EXPECT_EQ(0, exitCode);
 }
 
+TEST_F(ProgramTest, whenTheSystemEndsItTheOptionsAreWrittenAndNothingIsAsked) {
+    ASSERT_TRUE(start());
+    program->ToggleMapMaximised();
+    program->SaveUnasked();
+    EXPECT_NE(u"-1"_s, option("PosX"));
+    EXPECT_FALSE(exitCode);
+    disk.put(u"/o/Data/Options.txt"_s, "PosX=77\r\n");
+    desktop.log.clear();
+    program->EndUnasked();
+    EXPECT_EQ(0, exitCode);
+    EXPECT_EQ(u"77"_s, option("PosX")) << "somebody else's";
+    EXPECT_TRUE(desktop.log.isEmpty());
+}
+
 TEST_F(ProgramTest, theUpdaterIsFoundWhateverItsCaseAndEndsTheProgram) {
     disk.put(u"/o/update.exe"_s, "x");
     ASSERT_TRUE(start());
     program->RunUpdater();
     EXPECT_TRUE(desktop.log.contains(u"open /o/update.exe"_s));
     EXPECT_EQ(0, exitCode);
-}
-
-TEST_F(ProgramTest, theGuideIsTheOneThatCameWithTheProgramOrElseAPageOfTheWeb) {
-    ASSERT_TRUE(start());
-    program->ShowGuide();
-    EXPECT_EQ(u"open "_s + helpPage(), desktop.log.last());
-    disk.put(u"/o/Data/Guide/guide.html"_s, "<html>");
-    program->ShowGuide();
-    EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
 }
 
 TEST_F(ProgramTest, aLegendThatNoScreenShowsStandsAtTheMapsCornerAndItsPlaceIsKept) {
@@ -158,9 +162,19 @@ TEST_F(ProgramTest, aLegendThatNoScreenShowsStandsAtTheMapsCornerAndItsPlaceIsKe
     EXPECT_EQ(u"1500"_s, option("LegendY"));
 }
 
-TEST_F(ProgramTest, theHomePageIsTheStartPageThatCameWithTheProgram) {
+TEST_F(ProgramTest, helpAndHomeOpenThePagesThatCameWithTheProgramAndSayWhereOneIsMissing) {
     ASSERT_TRUE(start());
+    desktop.shellWorks = false;
+    program->ShowGuide();
+    EXPECT_EQ(u"message Critical Orvinel|/o/Data/Guide/guide.html could not be opened."_s,
+              desktop.log.last());
     disk.put(u"/o/Data/Guide/start.html"_s, "<html>");
+    desktop.shellWorks = true;
+    program->ShowGuide();
+    EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
+    disk.put(u"/o/Data/Guide/guide.html"_s, "<html>");
+    program->ShowGuide();
+    EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
     program->ShowStartPage();
     EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
 }

@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmInformation.h"
 
+#include "app/Opening.h"
 #include "base/About.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/SpokenRole.h"
@@ -64,15 +65,6 @@ QString linkText(frmInformation::Link link) {
     return link == frmInformation::WebPage ? guildName() : u"Mail to "_s + authorName();
 }
 
-// The corners belong to the link.
-frmInformation::Link linkAt(QPoint p) {
-    if (webPlace.adjusted(0, 0, 1, 1).contains(p))
-        return frmInformation::WebPage;
-    if (mailPlace.adjusted(0, 0, 1, 1).contains(p))
-        return frmInformation::Mail;
-    return frmInformation::NoLink;
-}
-
 QFont FontCrea(int height, bool underline, bool bold) {
     QFont font = arial(height, bold);
     font.setUnderline(underline);
@@ -109,7 +101,11 @@ class LinkSpot : public QPushButton {
 } // namespace
 
 frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner)
-    : Dialog(u"frmInformation"_s, outerSize, dialogContext, owner) {
+    : frmInformation(dialogContext, owner, {homePage(), mailAddress()}) {
+}
+
+frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner, Addresses addresses)
+    : Dialog(u"frmInformation"_s, outerSize, dialogContext, owner), addresses_(std::move(addresses)) {
     setWindowFlags(Qt::Dialog | frameless());
     setWindowTitle(u"Orvinel - Informations"_s);
     ArrangeInformation(new QWidget(this));
@@ -118,7 +114,8 @@ frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner)
     for (int i = 0; i < figures; ++i)
         addCaption(i);
     addLink(u"lnkWebPage"_s, WebPage);
-    addLink(u"lnkMail"_s, Mail);
+    if (!addresses_.mail.isEmpty())
+        addLink(u"lnkMail"_s, Mail);
     picOntainer->setFocus();
 }
 
@@ -208,7 +205,8 @@ void frmInformation::DrawInformationText() {
     drawCentred(drawing, dedicationPlace, grey, dedication());
     drawing.setFont(FontCrea(points8_25, true, true));
     drawCentred(drawing, webPlace, lightOrange, linkText(WebPage));
-    drawCentred(drawing, mailPlace, lightOrange, linkText(Mail));
+    if (!addresses_.mail.isEmpty())
+        drawCentred(drawing, mailPlace, lightOrange, linkText(Mail));
     drawing.filledBox(14, 58, 139, 73, darkBrown);
     drawing.setFont(FontCrea(points8_25, false, true));
     drawCentred(drawing, headingPlace, lightGrey, u"Informations"_s);
@@ -258,8 +256,20 @@ void frmInformation::click(QPoint inContainer) {
         openLink(link);
 }
 
+// The corners belong to the link.
+frmInformation::Link frmInformation::linkAt(QPoint inContainer) const {
+    if (webPlace.adjusted(0, 0, 1, 1).contains(inContainer))
+        return WebPage;
+    return !addresses_.mail.isEmpty() && mailPlace.adjusted(0, 0, 1, 1).contains(inContainer) ? Mail : NoLink;
+}
+
 void frmInformation::openLink(Link link) {
-    desktop().openWithShell(link == WebPage ? guildPage() : mailAddress());
+    if (link == Mail)
+        openAndTell(state(), desktop(), u"mailto:"_s + addresses_.mail);
+    else if (addresses_.homePage.isEmpty())
+        openAndTell(state(), desktop(), addressOf(Page::Start, state(), files().disk()));
+    else
+        openAndTell(state(), desktop(), addresses_.homePage);
 }
 
 bool frmInformation::eventFilter(QObject* watched, QEvent* event) {

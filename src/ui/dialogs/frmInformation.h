@@ -10,13 +10,22 @@ namespace orvinel {
 
 // The picture window about the program: a text column with two links beside a scene of four figures, whose
 // captions show while the mouse is over them or the focus is on them. A click anywhere else closes it.
+// Without a home page the first link opens the page that came with the program; without a mail address there
+// is no second.
 class frmInformation : public Dialog {
     Q_OBJECT
   public:
     static constexpr int figures = 4;
     enum Link { NoLink = 0, WebPage = 1, Mail = 2 };
 
+    // The project's addresses; empty ones are none.
+    struct Addresses {
+        QString homePage;
+        QString mail;
+    };
+
     frmInformation(DialogContext context, QWidget* owner);
+    frmInformation(DialogContext context, QWidget* owner, Addresses addresses);
 
     // The link under the mouse.
     Link linkHot() const { return LinkHot; }
@@ -46,9 +55,11 @@ class frmInformation : public Dialog {
     void showOnly(int index);
     void hover(QPoint inContainer);
     void click(QPoint inContainer);
+    Link linkAt(QPoint inContainer) const;
     void openLink(Link link);
     bool figureEvent(int figure, QEvent* event);
 
+    Addresses addresses_;
     Link LinkHot = NoLink;
     int ShownCaption = -1;
     PictureBox* picOntainer = nullptr;

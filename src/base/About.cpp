@@ -1,0 +1,13 @@
+#include "base/About.h"
+
+namespace orvinel {
+
+QString homePage() {
+    return QStringLiteral(ORVINEL_HOME_PAGE);
+}
+
+QString mailAddress() {
+    return QStringLiteral(ORVINEL_MAIL);
+}
+
+} // namespace orvinel
