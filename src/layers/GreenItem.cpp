@@ -4,13 +4,16 @@
 
 namespace orvinel {
 
-void GreenItem::setTexts(const QString& name, const QString& boss, std::vector<QString> stats) {
+void GreenItem::setTexts(const QString& name, const QString& boss, const std::vector<QString>& stats) {
     Name = name;
     Boss = boss;
-    Stats = name.isEmpty() ? std::vector<QString>() : std::move(stats);
+    Stats = {};
     FoldedName = folded(Name);
     FoldedStats.clear();
-    for (const QString& line : Stats)
+    if (name.isEmpty())
+        return;
+    Stats = stats;
+    for (const QString& line : stats)
         if (!line.trimmed().isEmpty())
             FoldedStats += folded(line) + '\n';
 }

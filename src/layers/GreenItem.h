@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/TextLines.h"
+
 #include <QString>
 
 #include <string>
@@ -14,12 +16,12 @@ struct GreenItem {
     QString Boss;
     int EliteID = -1;       // of the skill whose boss location carries the item; -1: not linked
     int LocationIndex = -1; // of that location; -1: not linked
-    std::vector<QString> Stats;
+    TextLines Stats;
     std::string FoldedName;
     std::string FoldedStats; // the lines that are not blank, each ended by '\n'
 
     // An item without a name has no stat lines.
-    void setTexts(const QString& name, const QString& boss, std::vector<QString> stats);
+    void setTexts(const QString& name, const QString& boss, const std::vector<QString>& stats);
 
     bool operator==(const GreenItem&) const = default;
 };

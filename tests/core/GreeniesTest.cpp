@@ -29,7 +29,7 @@ TEST_F(Greens, areReadTrimmedAndLinkedToTheLastBossOfTheirName) {
     ASSERT_EQ(5, state.GreenItems.count());
     const GreenItem& bow = state.GreenItems[1];
     EXPECT_EQ(u"Tusk Bow|Old TUSK"_s, bow.Name + u'|' + bow.Boss);
-    EXPECT_EQ((std::vector<QString>{u"Damage 10"_s, u""_s, u"Wind +1"_s}), bow.Stats);
+    EXPECT_EQ((std::vector<QString>{u"Damage 10"_s, u""_s, u"Wind +1"_s}), std::vector<QString>(bow.Stats));
     EXPECT_EQ(&state.EliteSkills[1].Locations[3], greenLocation(state, 1));
     EXPECT_EQ((std::vector<int>{1}), state.EliteSkills[1].Locations[1].Greens);
     EXPECT_EQ((std::vector<int>{1}), state.EliteSkills[1].Locations[3].Greens);

@@ -149,6 +149,7 @@ def numbered(line, count):
 
 MANY = 65535
 STATS = "\ty" * 37
+WIDE, FEW = "\ty" * 252, 9_000  # with the others as many fields as count
 FILLS = {  # what to put where, in each campaign: the shortest lines that take the most memory
     "zones": {"Zones.txt": lambda: repeated("5\t1\t1\t0\t7\t7\tx", MANY)},
     "skills": {"EliteList.txt": lambda: numbered("#\t1\tx\ty\tz\t0\t0\t5\t1\t10\tq", MANY)},
@@ -157,6 +158,8 @@ FILLS = {  # what to put where, in each campaign: the shortest lines that take t
     "collectors": {"Collectors.txt": lambda: b"1\tx\t0\r\ny\r\nz q\r\n" + repeated("o\t1" + STATS, MANY)},
     "headers": {"Collectors.txt": lambda: numbered("#\tx\t0\r\ny\r\n1 z#\r\n", MANY)},
     "greens": {"Greens.txt": lambda: numbered("R\t#" + STATS, MANY)},
+    "wide": {"Collectors.txt": lambda: b"1\tx\t0\r\ny\r\nz q\r\n" + repeated("o\t1" + WIDE, FEW)},
+    "wide greens": {"Greens.txt": lambda: numbered("R\t#" + WIDE, FEW)},
     "chests": {"Treasures.txt": lambda: repeated("x\t9\t9\t1\t5", MANY)},
     "pets": {"PetsList.txt": lambda: numbered("#\tx\ty", MANY),
              "PetsLocations.txt": lambda: repeated("1\t1\t5\t9\t9", MANY)},
@@ -220,7 +223,7 @@ def each_table_full(folder):
 
 def all_tables_full(folder):
     """More than is read altogether, a player's files first; and the largest pictures that are shown."""
-    fill(folder, [kind for kind in FILLS if kind not in ("headers", "texts")])
+    fill(folder, [kind for kind in FILLS if kind not in ("headers", "texts", "wide", "wide greens")])
     for campaign in CAMPAIGNS:
         run("convert", "-size", "5700x5700", "xc:red", "-quality", "50", str(folder / campaign / "01.jpg"))
     measured(folder, "everything")
