@@ -14,12 +14,12 @@ void Collector::setRequest(const QString& text) {
     FoldedRequest = folded(text);
 }
 
-void Collector::addObject(const QString& name, int handMask, std::vector<QString> stats) {
-    CollectorObject object{name, handMask, std::move(stats), 0, 0, 0};
+void Collector::addObject(const QString& name, int handMask, const std::vector<QString>& stats) {
+    CollectorObject object{name, handMask, stats, 0, 0, 0};
     object.FoldedName = static_cast<int>(FoldedObjects.size());
     FoldedObjects += folded(name) + textEnd;
     object.FoldedStats = static_cast<int>(FoldedObjects.size());
-    for (const QString& line : object.Stats)
+    for (const QString& line : stats)
         if (!line.trimmed().isEmpty())
             FoldedObjects += folded(line) + textEnd;
     object.FoldedEnd = static_cast<int>(FoldedObjects.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/TextLines.h"
 #include "world/MapLocation.h"
 
 #include <QString>
@@ -13,7 +14,7 @@ namespace orvinel {
 struct CollectorObject {
     QString Name;
     int HandMask = 0; // bits 1, 2, 4, 8
-    std::vector<QString> Stats;
+    TextLines Stats;
     int FoldedName = 0;  // where the folded name begins
     int FoldedStats = 0; // where the folded stat lines begin; equal to FoldedEnd: none that is not blank
     int FoldedEnd = 0;
@@ -34,7 +35,7 @@ struct Collector {
     std::string FoldedObjects; // names and stat lines that are not blank, each ended by 0xFF
 
     void setRequest(const QString& text);
-    void addObject(const QString& name, int handMask, std::vector<QString> stats);
+    void addObject(const QString& name, int handMask, const std::vector<QString>& stats);
 
     bool operator==(const Collector&) const = default;
 };

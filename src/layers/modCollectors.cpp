@@ -83,7 +83,7 @@ class CollectorReader {
                 stats.push_back(file_.text(i));
             // Without a name there would be nothing to choose in a list; without rewards it is in none.
             if (!collector.Name.isEmpty())
-                collector.addObject(file_.text(0), *mask, std::move(stats));
+                collector.addObject(file_.text(0), *mask, stats);
         }
     }
 

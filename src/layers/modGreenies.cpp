@@ -36,7 +36,7 @@ void readGreens(Content& state, TextFile& file) {
         for (size_t i = 2; i < file.fieldCount(); ++i)
             stats.push_back(file.text(i).trimmed());
         GreenItem item;
-        item.setTexts(file.text(0).trimmed(), file.text(1).trimmed(), std::move(stats));
+        item.setTexts(file.text(0).trimmed(), file.text(1).trimmed(), stats);
         ofBoss.push_back(state.GreenItems.append(std::move(item)));
     }
 }

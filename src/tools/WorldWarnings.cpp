@@ -2,6 +2,7 @@
 
 #include "app/ProgramState.h"
 #include "tools/PictureSize.h"
+#include "world/PictureBounds.h"
 #include "world/modCampaigns.h"
 
 #include <map>
@@ -20,8 +21,6 @@ constexpr int textLine = 13;                 // pixels of a line in an informati
 constexpr int lineCharacters = 48;           // of one
 constexpr int windowFrame = 60;              // pixels: heading, name and edges of one
 constexpr int smallestScreen = 768;          // pixels of height
-constexpr qint64 mostMapPixels = 128ll * 1024 * 1024 / 4;
-constexpr qint64 mostSmallPixels = 16ll * 1024 * 1024 / 4;
 
 class Warnings {
   public:
@@ -134,22 +133,22 @@ class Warnings {
     void checkPictures() {
         for (const Campaign& campaign : state_.Campaigns)
             for (const Region& region : campaign.Regions)
-                checkPicture(region.RegionPicture, mostMapPixels);
+                checkPicture(region.RegionPicture, largestRegion);
         for (const EliteSkill& skill : state_.EliteSkills)
             if (skill.Exists)
-                checkPicture(skill.Picture, mostSmallPixels);
+                checkPicture(skill.Picture, largestIcon);
         for (const Pet& pet : state_.Pets)
-            checkPicture(pet.Picture, mostSmallPixels);
+            checkPicture(pet.Picture, largestIcon);
     }
 
     static constexpr qint64 smallestSuspect = 32 * 1024; // bytes
 
     // Only what is large enough as a file to be too large as a picture is read.
-    void checkPicture(const QString& path, qint64 mostPixels) {
+    void checkPicture(const QString& path, qint64 mostBytes) {
         if (path.isEmpty() || disk_.length(path) < smallestSuspect)
             return;
         const QSize size = jpegSize(disk_.read(path).bytes);
-        if (qint64(size.width()) * size.height() > mostPixels)
+        if (qint64(size.width()) * size.height() * 4 > mostBytes)
             warn({path}, u"picture"_s,
                  u"%1 x %2 pixels are more than is shown"_s.arg(size.width()).arg(size.height()));
     }

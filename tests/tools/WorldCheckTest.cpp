@@ -61,13 +61,18 @@ TEST_F(WorldCheckTest, warnsOfWhatWorksButLooksBad) {
     for (int line = 0; line < 70; ++line)
         note += "line\\n";
     add("EliteLocations.txt", "7\t1\t9000\t3000\tTall\t\t5\t" + note + "\r\n");
-    disk.put(u"/o/Campaign.03.Sunhollow/1.jpg"_s,
-             QByteArray::fromHex("ffd8ffe0000400ffffc0000b08ffffffff") + QByteArray(40000, '\0'));
+    const auto putPicture = [&](const QByteArray& size) {
+        disk.put(u"/o/Campaign.03.Sunhollow/1.jpg"_s,
+                 QByteArray::fromHex("ffd8ffe0000400ffffc0000b08" + size) + QByteArray(40000, '\0'));
+    };
+    putPicture("20002000"); // 8192 x 8192, the largest that is shown
+    EXPECT_EQ(4u, findings().size());
+    putPicture("20002001");
     const WorldFindings result = checkWorld(disk, u"/o/"_s);
     EXPECT_EQ(0, result.counts.errors);
     const std::vector<std::string> lines = findings();
     ASSERT_EQ(5u, lines.size()) << testing::PrintToString(lines);
-    EXPECT_THAT(lines[0], testing::HasSubstr("1.jpg:0: warning: picture: 65535 x 65535"));
+    EXPECT_THAT(lines[0], testing::HasSubstr("1.jpg:0: warning: picture: 8193 x 8192"));
     EXPECT_THAT(lines[1], testing::HasSubstr("warning: marker: Alone is one of several places"));
     EXPECT_THAT(lines[2], testing::HasSubstr("warning: marker: \"PPP\""));
     EXPECT_THAT(lines[3], testing::HasSubstr("warning: place: Twice stands there a second time"));

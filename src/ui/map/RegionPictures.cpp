@@ -77,8 +77,12 @@ GrowingPicture decodedInSteps(const QByteArray& bytes, int firstRows) {
 
 } // namespace
 
-QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes) {
-    return JpegReader(disk.read(path).bytes, mostBytes).readAll();
+QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes,
+                   const std::function<void(qint64 bytes)>& announce) {
+    JpegReader reader(disk.read(path).bytes, mostBytes);
+    if (const QSize size = reader.size(); announce && !size.isEmpty())
+        announce(qint64(size.width()) * size.height() * 4);
+    return reader.readAll();
 }
 
 void GrowingPicture::beginRest() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Disk.h"
+#include "world/PictureBounds.h"
 
 #include <QImage>
 #include <QString>
@@ -11,13 +12,11 @@
 
 namespace orvinel {
 
-// Bytes decoded, four for each pixel.
-inline constexpr qint64 largestRegion = 128ll * 1024 * 1024;
-inline constexpr qint64 largestIcon = 16ll * 1024 * 1024;
-
 // Decodes a JPEG picture of the world; null when it is missing, broken or takes more than `mostBytes`
-// decoded. Pictures of other formats count as broken. The result is RGB32.
-QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes = largestRegion);
+// decoded. Pictures of other formats count as broken. The result is RGB32. `announce` is told the bytes that
+// it is going to take before it takes them.
+QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes = largestRegion,
+                   const std::function<void(qint64 bytes)>& announce = {});
 
 // A picture whose lower rows may be missing yet; another thread decodes them into the image's own memory.
 // Until finish() only rows above `rows` may be read or written, and the image may not be copied to another

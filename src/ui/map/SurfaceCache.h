@@ -18,6 +18,7 @@ class SurfaceCache {
     void put(const QString& key, std::unique_ptr<MapSurface> surface);
     // Gives the surface away; nullptr when it is not there (any more).
     std::unique_ptr<MapSurface> take(const QString& key);
+    void clear() { entries_.clear(); }
 
   private:
     struct Entry {

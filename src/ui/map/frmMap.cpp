@@ -26,6 +26,9 @@ constexpr int margin = 2;    // pixels around picMap
 constexpr int smallest = 80; // 1200 twips, both ways
 constexpr QSize designSize(624 + 2 * margin, 491 + 2 * margin);
 constexpr qint64 cachedBytes = 96ll * 1024 * 1024;
+// From here on a region gets the room of those left before: decoding a progressive picture takes two and a
+// half times what the picture does.
+constexpr qint64 largeRegion = 96ll * 1024 * 1024;
 
 } // namespace
 
@@ -122,7 +125,12 @@ std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campa
     if (auto cached = cache_.take(picture))
         return cached;
     std::optional<GrowingPicture> expected = expected_.take(picture);
-    GrowingPicture ground = expected ? std::move(*expected) : loadPicture(with_.disk, picture);
+    const auto makeRoom = [this](qint64 bytes) {
+        if (bytes > largeRegion)
+            cache_.clear();
+    };
+    GrowingPicture ground =
+        expected ? std::move(*expected) : loadPicture(with_.disk, picture, largestRegion, makeRoom);
     if (ground.image.isNull())
         return nullptr;
     const auto drawGround = [this, shown = MapShown{campaign, region, 0}](QImage& image, const QRect& part) {
