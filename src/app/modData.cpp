@@ -46,6 +46,18 @@ void takeOverGathered(const QString& gathering, const QString& personal, Disk& d
     disk.removeFolder(gathering);
 }
 
+// Told at the start, not when the first note is lost.
+void tellOfReadOnlyFolder(const ProgramState& state, const Disk& disk, Desktop& desktop) {
+    for (const QString& name : {u"Personal"_s, u"Data"_s}) {
+        const QString folder = state.AppPath + name;
+        const QString asked = disk.folderExists(folder) ? folder : state.AppPath;
+        if (disk.mayWrite(asked))
+            continue;
+        desktop.message(MessageIcon::Critical, programName(), state.text(Caption::ReadOnlyFolder).arg(asked));
+        return;
+    }
+}
+
 } // namespace
 
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
@@ -55,6 +67,7 @@ void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
     if (!leftOut.empty())
         desktop.message(MessageIcon::Critical, programName(),
                         state.text(Caption::TooMuchData) + u"\n\n"_s + namesOf(leftOut, state.AppPath));
+    tellOfReadOnlyFolder(state, files.disk(), desktop);
 }
 
 std::vector<QString> loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {

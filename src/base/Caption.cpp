@@ -38,6 +38,10 @@ QString builtInText(Caption caption) {
         return u"Casting time"_s;
     case Caption::TooMuchData:
         return u"The data files are larger than the program can hold. Some of them were left out."_s;
+    case Caption::ReadOnlyFolder:
+        return u"Nothing can be saved: you may not write to the folder %1.\n\nMove Orvinel to a folder of "
+               u"your own, "
+               "or install it there."_s;
     default:
         return {};
     }

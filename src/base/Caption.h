@@ -140,6 +140,7 @@ enum class Caption : int {
     Recharge = 216,            // "Recharge"
     CastTime = 217,            // "Casting time"
     TooMuchData = 218, // "The data files are larger than the program can hold. Some of them were left out."
+    ReadOnlyFolder = 219, // "Nothing can be saved: you may not write to the folder %1. Move Orvinel ..."
 };
 
 // Every language file has the texts from 1 to this number.

@@ -34,6 +34,9 @@ class Disk {
     // Names of files and folders in `folder`, sorted by code point, without "." and ".."; empty on any error.
     virtual std::vector<QString> list(const QString& folder) const = 0;
     virtual ReadResult read(const QString& path) const = 0;
+    // Whether the system lets files be made in `folder`. Asks only: nothing is written. True where the answer
+    // is not known, false for a folder that is not there.
+    virtual bool mayWrite(const QString& folder) const = 0;
     // The file or folder that `path` means, spelled as it is on the disk; `path` itself when there is none.
     virtual QString resolve(const QString& path) const = 0;
 

@@ -44,6 +44,17 @@ std::wstring nativePath(const QString& path) {
     return ((network ? u"\\\\?\\UNC"_s : u"\\\\?\\"_s) + native.sliced(network ? 1 : 0)).toStdWString();
 }
 
+// Rights are asked for, but nothing is made: the system answers with a handle or without.
+bool newFilesAllowed(const QString& folder) {
+    const HANDLE handle = CreateFileW(nativePath(folder).c_str(), FILE_ADD_FILE | FILE_ADD_SUBDIRECTORY,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return GetLastError() != ERROR_ACCESS_DENIED && GetLastError() != ERROR_WRITE_PROTECT;
+    CloseHandle(handle);
+    return true;
+}
+
 DiskError takePlace(const QString& from, const QString& to) {
     // Virus scanners and the search index open what has just been written, for an instant.
     constexpr int tries = 20;
@@ -76,6 +87,11 @@ bool syncFolder(const QString& folder) {
     const bool synced = ::fsync(handle) == 0 || errno == EINVAL;
     ::close(handle);
     return synced;
+}
+
+bool newFilesAllowed(const QString& folder) {
+    return ::access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0 ||
+           (errno != EACCES && errno != EROFS && errno != EPERM);
 }
 
 DiskError takePlace(const QString& from, const QString& to) {
@@ -173,6 +189,11 @@ qint64 FileDisk::length(const QString& path) const {
 
 bool FileDisk::folderExists(const QString& path) const {
     return !path.isEmpty() && QFileInfo(resolve(path)).isDir();
+}
+
+bool FileDisk::mayWrite(const QString& folder) const {
+    const QString resolved = resolve(folder);
+    return QFileInfo(resolved).isDir() && newFilesAllowed(resolved);
 }
 
 std::vector<QString> FileDisk::list(const QString& folder) const {

@@ -19,6 +19,7 @@ class FileDisk : public Disk {
     qint64 length(const QString& path) const override;
     bool folderExists(const QString& path) const override;
     std::vector<QString> list(const QString& folder) const override;
+    bool mayWrite(const QString& folder) const override;
     ReadResult read(const QString& path) const override;
     QString resolve(const QString& path) const override;
     DiskError replace(const QString& path, const QByteArray& bytes) override;

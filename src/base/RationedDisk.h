@@ -20,6 +20,7 @@ class RationedDisk : public Disk {
     std::vector<QString> list(const QString& folder) const override { return disk_.list(folder); }
     QString resolve(const QString& path) const override { return disk_.resolve(path); }
     ReadResult read(const QString& path) const override;
+    bool mayWrite(const QString&) const override { return false; }
 
     DiskError replace(const QString&, const QByteArray&) override { return readOnly(); }
     DiskError rename(const QString&, const QString&) override { return readOnly(); }

@@ -22,6 +22,7 @@ class SnapshotDisk : public Disk {
     std::vector<QString> list(const QString& folder) const override { return disk_.list(folder); }
     ReadResult read(const QString& path) const override;
     QString resolve(const QString& path) const override { return disk_.resolve(path); }
+    bool mayWrite(const QString&) const override { return false; }
     DiskError replace(const QString&, const QByteArray&) override { return refusal(); }
     DiskError rename(const QString&, const QString&) override { return refusal(); }
     DiskError remove(const QString&) override { return refusal(); }

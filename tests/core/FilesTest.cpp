@@ -1,5 +1,6 @@
 #include "app/ProgramState.h"
 #include "app/modData.h"
+#include "app/modLanguage.h"
 #include "app/modUtility.h"
 #include "base/FileDisk.h"
 #include "progress/modCharacters.h"
@@ -171,6 +172,31 @@ TEST(LoadAll, namesTheFilesThatAreTooMuch) {
     EXPECT_TRUE(desktop.log[0].endsWith(u"\n\nCampaign.01.Ash/EliteLocations.txt"_s))
         << desktop.log[0].toStdString();
     EXPECT_EQ(1, state.Notes.count());
+}
+
+TEST(LoadAll, tellsOnceWhereNothingCanBeSaved) {
+    const auto told = [](std::set<QString> closed, bool started) {
+        MemoryDisk disk;
+        disk.put(u"/o/Data/Language.txt"_s, "219\tClosed: %1\r\n");
+        if (started)
+            disk.put(u"/o/Personal/Characters.txt"_s, "01\tAda\r\n");
+        else
+            disk.failAt = 1;
+        disk.closed = std::move(closed);
+        PlayerFiles files(disk);
+        ProgramState state;
+        state.AppPath = u"/o/"_s;
+        LoadLanguage(state, disk);
+        RecordingDesktop desktop;
+        LoadAll(state, files, desktop);
+        return desktop.log.join(u'|');
+    };
+    const QString closed = u"Closed: "_s;
+    EXPECT_EQ(QString(), told({}, true));
+    EXPECT_EQ(QString(), told({u"/o/"_s}, true)); // where both folders are the player's
+    EXPECT_TRUE(told({u"/o/"_s, u"/o/Personal"_s, u"/o/Data"_s}, true).endsWith(closed + u"/o/Personal"_s));
+    EXPECT_TRUE(told({u"/o/Data"_s}, true).endsWith(closed + u"/o/Data"_s));
+    EXPECT_TRUE(told({u"/o/"_s}, false).endsWith(closed + u"/o/"_s));
 }
 
 TEST(FirstStart, aPendingUpdaterReplacesTheOldOne) {

@@ -59,10 +59,23 @@ def everything_below(folder):
     return {path: content(path) for path in sorted(folder.rglob("*")) if path.is_file()}
 
 
-def says_what_it_cannot_save(folder, **how):
-    """A note that cannot be saved is told once and stays on the screen; quitting asks; nothing on the disk changes."""
+class Warned(Player):
+    """The program that says at its start that nothing can be saved."""
+
+    def __enter__(self):
+        warning = self.dialog("Orvinel")
+        keys("Return")
+        self.gone(warning)
+        return super().__enter__()
+
+
+def says_what_it_cannot_save(folder, at_start=True, **how):
+    """A note that cannot be saved is told once and stays on the screen; quitting asks; nothing on the disk changes.
+
+    at_start: the program knows it from the beginning, and says so.
+    """
     before = everything_below(folder)
-    with Player(folder, **how) as player:
+    with (Warned if at_start else Player)(folder, **how) as player:
         player.ready()
         note_menu(player, 0)
         dialog = player.dialog("Note")
@@ -132,7 +145,7 @@ def full_medium(folder):
                             filler.write(bytes(size))
                     except OSError:
                         pass
-            says_what_it_cannot_save(folder)
+            says_what_it_cannot_save(folder, at_start=False)
 
 
 # Memory

@@ -4,6 +4,7 @@
 #include "support/Printing.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,10 +31,13 @@ class MemoryDisk : public Disk {
     // Set: the changing call with this number (from 1) and, unless `failOnce`, all later ones fail.
     int failAt = 0;
     bool failOnce = false;
+    // The folders in which nothing may be made, spelled as they are asked for.
+    std::set<QString> closed;
 
     qint64 length(const QString& path) const override;
     bool folderExists(const QString& path) const override;
     std::vector<QString> list(const QString& folder) const override;
+    bool mayWrite(const QString& folder) const override { return !closed.contains(folder); }
     ReadResult read(const QString& path) const override;
     QString resolve(const QString& path) const override;
     DiskError replace(const QString& path, const QByteArray& content) override;
