@@ -1,5 +1,6 @@
-// fuzz_readers --reader=NAME [libFuzzer's options]: mutated bytes in place of one file of a small world, or
-// of a backup archive ("archive").
+// fuzz_readers --reader=NAME [--deep] [libFuzzer's options]: mutated bytes for the reader of one file, or of
+// a backup ("tar", "zip"). With --deep the whole program starts on them, fills its lists and writes the
+// player's files back.
 
 #include "fuzz/HostileWorld.h"
 
@@ -10,17 +11,25 @@
 
 namespace {
 
-const orvinel::HostileFile*& chosen() {
-    static const orvinel::HostileFile* file = nullptr;
-    return file;
+struct Task {
+    const orvinel::HostileFile* file = nullptr; // none: an archive
+    bool zip = false;
+    bool deep = false;
+};
+
+Task& task() {
+    static Task chosen;
+    return chosen;
 }
 
-// Loading finds most, and fast; the same inputs are always looked at more closely.
 QString start(const QByteArray& bytes) {
-    constexpr unsigned oneIn = 8;
-    if (qChecksum(bytes) % oneIn == 0)
-        return orvinel::startWith(*chosen(), bytes);
-    orvinel::loadWith(*chosen(), bytes);
+    const auto [file, zip, deep] = task();
+    if (!file)
+        return (deep ? orvinel::restoreArchive : orvinel::readArchive)(zip ? orvinel::sealedZip(bytes)
+                                                                           : bytes);
+    if (deep)
+        return orvinel::startWith(*file, bytes);
+    orvinel::readAlone(*file, bytes);
     return {};
 }
 
@@ -29,13 +38,17 @@ QString start(const QByteArray& bytes) {
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     const std::string option = "--reader=";
     std::string name;
-    for (int i = 1; i < *argc; ++i)
-        if (const std::string word = (*argv)[i]; word.starts_with(option))
+    for (int i = 1; i < *argc; ++i) {
+        const std::string word = (*argv)[i];
+        task().deep = task().deep || word == "--deep";
+        if (word.starts_with(option))
             name = word.substr(option.size());
+    }
     for (const orvinel::HostileFile& file : orvinel::hostileFiles())
         if (name == file.reader)
-            chosen() = &file;
-    if (!chosen() && name != "archive") {
+            task().file = &file;
+    task().zip = name == "zip";
+    if (!task().file && !task().zip && name != "tar") {
         std::fprintf(stderr, "no reader \"%s\"\n", name.c_str());
         std::exit(2);
     }
@@ -43,8 +56,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const QString broken = chosen() ? start(bytes) : orvinel::readArchive(bytes);
+    const QString broken =
+        start(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
     if (!broken.isEmpty()) {
         std::fprintf(stderr, "%s\n", broken.toUtf8().constData());
         std::abort();

@@ -3,6 +3,7 @@
 #include "app/ProgramState.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/EliteFiles.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
 #include "layers/modGreenies.h"
@@ -16,8 +17,12 @@
 #include "tools/Backup.h"
 #include "tools/TarArchive.h"
 #include "tools/WorldCheck.h"
+#include "tools/ZipArchive.h"
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
+#include "world/modZones.h"
+
+#include <QCryptographicHash>
 
 namespace orvinel {
 
@@ -25,37 +30,58 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// The readers in one form.
+template <auto load>
+void worlds(ProgramState& state, PlayerFiles& files) {
+    load(state, files.disk(), nullptr);
+}
+template <auto load>
+void players(ProgramState& state, PlayerFiles& files) {
+    load(state, files, nullptr);
+}
+
 #define SUNHOLLOW "Campaign.03.Sunhollow/"
+// In the order in which a start reads them: each reader finds what the ones before it have filled.
 constexpr HostileFile files[] = {
-    {"language", "Data/Language.txt", "9\tAll\r\n45\tNo attribute\r\n4\tAll\\ncharacters\r\n"},
-    {"options", "Data/Options.txt", "[OLD SELECTION]\r\nCampaign=1\r\nPosX=-20\r\nAllElite=-1\r\nZone=3\r\n"},
-    {"characters", "Personal/Characters.txt", "01\tAda\r\n03\tBert\r\n"},
-    {"captured", "Personal/Char01CapElite.txt", "0001\r\n0002\r\n12345\r\n"},
-    {"opened", "Personal/Char01OpenedTreasures.txt", "0001\t16102011\r\n0002\t\r\n0900\t01012026\r\n"},
-    {"notes", "Personal/Notes.txt",
-     "; mine\r\nHut\tdry{#ENTER#}warm\t120\t80\t3\t1\r\nCave\t\t9\t9\t3\t1\r\n"},
-    {"regions", SUNHOLLOW "Regions.txt", "1\tFjord\r\n02\tGlacier\r\n"},
+    {"language", "Data/Language.txt", "9\tAll\r\n45\tNo attribute\r\n4\tAll\\ncharacters\r\n",
+     worlds<LoadLanguage>},
+    {"characters", "Personal/Characters.txt", "01\tAda\r\n03\tBert\r\n", players<LoadCharacters>},
+    {"regions", SUNHOLLOW "Regions.txt", "1\tFjord\r\n02\tGlacier\r\n", worlds<LoadCampaigns>},
     {"zones", SUNHOLLOW "Zones.txt",
-     "; zones\r\n5\t1\t2\t1\t300\t300\tHarbour\r\n6\t2\t1\t0\t90\t90\tIce\r\n"},
+     "; zones\r\n5\t1\t2\t1\t300\t300\tHarbour\r\n6\t2\t1\t0\t90\t90\tIce\r\n", worlds<LoadZones>},
     {"professions", "Campaign.00.Core/Professions.txt",
-     "1\tMage\t&HFF8000\tM\tFire\tIce\r\n2\tBard\t255\tB\r\n"},
+     "1\tMage\t&HFF8000\tM\tFire\tIce\r\n2\tBard\t255\tB\r\n", worlds<LoadProfessions>},
     {"collectors", SUNHOLLOW "Collectors.txt",
      "; c\r\n4\tSmith\t0\t1\r\nHarbour\r\n3 Claws\r\nAxe\t3\tFire +1\tSharp\r\nBow\t4\r\n\r\n"
-     "5\tTailor\t1\r\nIce\r\n1 Hide\r\n"},
-    {"collector_locations", SUNHOLLOW "CollectorsLocations.txt", "4\t1\t80\t50\t5\r\n5\t2\t80\t50\t6\r\n"},
+     "5\tTailor\t1\r\nIce\r\n1 Hide\r\n",
+     worlds<LoadCollectors>},
     {"elite_list", SUNHOLLOW "EliteList.txt",
-     "1\t1\tSpark\tFire\tSpell\t-1\t0\t5\t1/4\t10\tBurns.\r\n2\t2\tHum\r\n"},
+     "1\t1\tSpark\tFire\tSpell\t-1\t0\t5\t1/4\t10\tBurns.\r\n2\t2\tHum\r\n", worlds<LoadEliteSkills>},
+    {"greens", SUNHOLLOW "Greens.txt", "; g\r\nUlf's Ring\tULF\tFire +2\tShiny\r\nEir's Bow\tEir\r\n",
+     worlds<LoadGreens>},
+    {"notes", "Personal/Notes.txt",
+     "; mine\r\nHut\tdry{#ENTER#}warm\t120\t80\t3\t1\r\nCave\t\t9\t9\t3\t1\r\n", players<LoadNotes>},
     {"elite_locations", SUNHOLLOW "EliteLocations.txt",
      ";[Version]1.0\r\n1\t1\t750\t750\tBorg\tA\t5\tOnly during\\nwinter\r\n;[Version]1.1\r\n"
-     "2\t1\t90\t90\tUlf\tD\t5\r\n0\t2\t9\t9\tEir\t\t6\r\n"},
-    {"greens", SUNHOLLOW "Greens.txt", "; g\r\nUlf's Ring\tULF\tFire +2\tShiny\r\nEir's Bow\tEir\r\n"},
-    {"treasures", SUNHOLLOW "Treasures.txt", "Urn\t110\t50\t1\t5\r\nBox\t110\t90\t2\t6\r\n"},
-    {"pets", "Campaign.00.Core/PetsList.txt", "1\tWolf\tPine\r\n2\tBear\tHoney\r\n"},
-    {"pet_locations", SUNHOLLOW "PetsLocations.txt", "1\t1\t5\t140\t50\r\n2\t2\t6\t140\t50\r\n"},
+     "2\t1\t90\t90\tUlf\tD\t5\r\n0\t2\t9\t9\tEir\t\t6\r\n",
+     worlds<LoadEliteLocations>},
+    {"captured", "Personal/Char01CapElite.txt", "0001\r\n0002\r\n12345\r\n", players<LoadCapturedSkills>},
+    {"collector_locations", SUNHOLLOW "CollectorsLocations.txt", "4\t1\t80\t50\t5\r\n5\t2\t80\t50\t6\r\n",
+     worlds<LoadCollectorLocations>},
+    {"treasures", SUNHOLLOW "Treasures.txt", "Urn\t110\t50\t1\t5\r\nBox\t110\t90\t2\t6\r\n",
+     worlds<LoadTreasures>},
+    {"opened", "Personal/Char01OpenedTreasures.txt", "0001\t16102011\r\n0002\t\r\n0900\t01012026\r\n",
+     players<LoadOpenedTreasures>},
+    {"pets", "Campaign.00.Core/PetsList.txt", "1\tWolf\tPine\r\n2\tBear\tHoney\r\n", worlds<LoadPets>},
+    {"pet_locations", SUNHOLLOW "PetsLocations.txt", "1\t1\t5\t140\t50\r\n2\t2\t6\t140\t50\r\n",
+     worlds<LoadPetLocations>},
+    {"options", "Data/Options.txt", "[OLD SELECTION]\r\nCampaign=1\r\nPosX=-20\r\nAllElite=-1\r\nZone=3\r\n",
+     LoadOptions},
 };
 #undef SUNHOLLOW
 
 const QString folder = QStringLiteral("/o/");
+const QDateTime archiveTime(QDate(2026, 3, 7), QTime(12, 0));
 
 QString pathOf(const HostileFile& file) {
     return folder + QLatin1String(file.path);
@@ -69,6 +95,23 @@ const MemoryDisk& smallWorld() {
         return disk;
     }();
     return world;
+}
+
+// The tables as the readers of the files before `file` fill them.
+const ProgramState& tablesBefore(const HostileFile& file) {
+    static const std::vector<ProgramState> tables = [] {
+        std::vector<ProgramState> before;
+        MemoryDisk disk = smallWorld();
+        PlayerFiles opened(disk);
+        ProgramState state;
+        state.AppPath = folder;
+        for (const HostileFile& next : files) {
+            before.push_back(state);
+            next.load(state, opened);
+        }
+        return before;
+    }();
+    return tables[static_cast<size_t>(&file - files)];
 }
 
 MemoryDisk worldWith(const HostileFile& file, const QByteArray& bytes) {
@@ -157,9 +200,12 @@ std::span<const HostileFile> hostileFiles() {
     return files;
 }
 
-void loadWith(const HostileFile& file, const QByteArray& bytes) {
-    MemoryDisk disk = worldWith(file, bytes);
-    const Start start(disk);
+void readAlone(const HostileFile& file, const QByteArray& bytes) {
+    MemoryDisk disk;
+    disk.put(pathOf(file), bytes);
+    PlayerFiles opened(disk);
+    ProgramState state = tablesBefore(file);
+    file.load(state, opened);
 }
 
 QString startWith(const HostileFile& file, const QByteArray& bytes) {
@@ -175,16 +221,38 @@ QString startWith(const HostileFile& file, const QByteArray& bytes) {
     return rewrite(disk, start);
 }
 
+namespace {
+
+QString rewrittenZip(const ArchiveContent& content) {
+    if (!content.problem.isEmpty() || readZip(writeZip(content.files, archiveTime)).files == content.files)
+        return {};
+    return u"an archive changes when it is written again"_s;
+}
+
+} // namespace
+
+QByteArray sealedZip(const QByteArray& entries) {
+    const QByteArray seal =
+        "Orvinel SHA-256 " + QCryptographicHash::hash(entries, QCryptographicHash::Sha256).toHex();
+    return entries + static_cast<char>(seal.size()) + '\0' + seal;
+}
+
 QString readArchive(const QByteArray& bytes) {
-    const QDateTime then(QDate(2026, 3, 7), QTime(12, 0));
+    if (bytes.startsWith("PK"))
+        return rewrittenZip(readZip(bytes));
     const ArchiveContent content = readTar(bytes);
     if (content.problem.isEmpty())
-        if (const auto written = writeTar(content.files, then))
+        if (const auto written = writeTar(content.files, archiveTime))
             if (readTar(*written).files != content.files)
                 return u"an archive changes when it is written again"_s;
+    return {};
+}
+
+QString restoreArchive(const QByteArray& bytes) {
     MemoryDisk disk = smallWorld();
-    disk.put(u"/o/Backups/a.tar"_s, bytes);
-    Backup backup(disk, folder, [then] { return then; });
+    const bool zip = bytes.startsWith("PK");
+    disk.put(zip ? u"/o/Backups/a.zip"_s : u"/o/Backups/a.tar"_s, bytes);
+    Backup backup(disk, folder, [] { return archiveTime; });
     backup.verify(u"a"_s);
     backup.restore(u"a"_s, true);
     return disk.content(folder + u"Data/Language.txt"_s) == files[0].good ? QString()
