@@ -25,7 +25,7 @@ QString builtInText(Caption caption) {
     case Caption::Minimise:
         return u"Minimise"_s;
     case Caption::Maximise:
-        return u"Fill the screen or make smaller"_s;
+        return u"Fill the screen or leave a margin"_s;
     case Caption::Upkeep:
         return u"Upkeep"_s;
     case Caption::Adrenaline:
@@ -37,7 +37,7 @@ QString builtInText(Caption caption) {
     case Caption::CastTime:
         return u"Casting time"_s;
     case Caption::TooMuchData:
-        return u"The data files are larger than the program can hold. Some of them were left out."_s;
+        return u"The data is larger than the program can hold. These files were left out:"_s;
     case Caption::ReadOnlyFolder:
         return u"Nothing can be saved: you may not write to the folder %1.\n\nMove Orvinel to a folder of "
                u"your own, "
