@@ -9,6 +9,7 @@
 #include <thread>
 
 using namespace worldgen;
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -95,19 +96,20 @@ TEST(Painter, PlacesEvenMoreSitesThanThereIsRoomFor) {
 }
 
 TEST(Painter, TellsSkillsAndAnimalsApart) {
-    const auto icon = [](quint32 seed, QRgb colour, const char* kind) {
-        return paintSkillIcon(seed, colour, QString::fromLatin1(kind));
+    const PlacedSign disc{{{u"steel"_s, u"E0 0 20 20"_s}}, {}};
+    const auto icon = [&](const PlacedSign& sign, int attribute = 0, QRgb colour = qRgb(200, 80, 40)) {
+        return fingerprint(paintSkillIcon({4, colour, attribute, {sign}}));
     };
-    const QRgb red = qRgb(200, 80, 40);
-    std::set<QByteArray> seen;
-    for (const char* kind : {"Hex", "Stance", "Sword attack", "Signet", "never heard of"}) {
-        EXPECT_EQ(icon(4, red, kind).size(), QSize(64, 64));
-        EXPECT_EQ(fingerprint(icon(4, red, kind)), fingerprint(icon(4, red, kind)));
-        seen.insert(fingerprint(icon(4, red, kind)));
-    }
-    seen.insert(fingerprint(icon(5, red, "Hex")));
-    seen.insert(fingerprint(icon(4, qRgb(40, 80, 200), "Hex")));
-    EXPECT_EQ(seen.size(), 7U);
+    PlacedSign small = disc;
+    small.manner = QStringList{u"small"_s};
+    PlacedSign cloth = disc;
+    cloth.parts[0].material = u"cloth"_s;
+    EXPECT_EQ(icon(disc), icon(disc));
+    const std::set<QByteArray> seen{icon(disc),    icon(small),
+                                    icon(cloth),   icon(cloth, 0, qRgb(40, 80, 200)),
+                                    icon(disc, 1), icon(disc, 99)};
+    EXPECT_EQ(6U, seen.size());
+    EXPECT_EQ(QSize(64, 64), paintSkillIcon({4, 0, 0, {disc}}).size());
 
     const QByteArray bear = fingerprint(paintPet(3, QStringLiteral("Moss Bear")));
     EXPECT_EQ(paintPet(3, {}).size(), QSize(160, 120));

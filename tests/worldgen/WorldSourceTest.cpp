@@ -22,7 +22,9 @@ struct SourceTables : testing::Test {
     SourceTables() {
         write("campaigns.txt", "0\tCommon\t-\n1\tAsh\t-\n2\tElm\t2.0\n");
         write("professions.txt", "# remark\n0\t1\tTinker\tFF8001\tTi\tTongs\tGlue\n");
-        write("skills/tinker.txt", "[Tinker]\n7\t0\tBend\tTongs\tSpell\t-1\t0\t5\t1/4\t20\tBends it.\n");
+        write("skills/tinker.txt",
+              "[Tinker]\n7\t0\tBend\tTongs\tSpell\t-1\t0\t5\t1/4\t20\tBends it.\ttwo rod, small rod\n");
+        write("signs.txt", "rod\tsteel\tM0 0 L9 9 W3\n");
         write("01/regions.txt", "01\tMoor\tfrost\t800\t600\t5\n");
         write("01/zones.txt", "[Moor]\ntown\triver\tHythe\narea\t-\tHeath\n");
         write("01/bosses.txt", "Nán\tBend\tP\tHeath\nLump\t-\t-\tHythe\tonly during rain\\nand snow\n");
@@ -100,8 +102,19 @@ TEST_F(SourceTables, tellWhichLineNamesWhatDoesNotExist) {
     EXPECT_EQ("01/bosses.txt:1: needs 4 fields", firstProblem());
     write("01/zones.txt", "[Moor]\nchallenge\t-\tHythe\n");
     EXPECT_NE(std::string::npos, firstProblem().find("01/zones.txt:2: unknown kind"));
-    write("skills/tinker.txt", "[Tinker]\n7\t0\tBend\tSpoons\tSpell\t0\t0\t5\t1\t20\tx\n");
+    write("skills/tinker.txt", "[Tinker]\n7\t0\tBend\tSpoons\tSpell\t0\t0\t5\t1\t20\tx\trod\n");
     EXPECT_EQ("skills/tinker.txt:2: no attribute of the profession: Spoons", firstProblem());
+}
+
+TEST_F(SourceTables, composePicturesOfKnownSigns) {
+    const WorldSource world = read();
+    ASSERT_EQ(2U, world.skills[0].signs.size());
+    EXPECT_EQ(QStringList(u"two"_s), world.skills[0].signs[0].manner);
+    EXPECT_EQ(u"steel"_s, world.skills[0].signs[1].parts[0].material);
+    write("skills/tinker.txt", "[Tinker]\n7\t0\tBend\tTongs\tSpell\t0\t0\t5\t1\t20\tx\tsmall rod, wand\n");
+    EXPECT_EQ("skills/tinker.txt:2: no such sign: wand", firstProblem());
+    write("signs.txt", "rod\tcheese\tE0 0 9 9\n");
+    EXPECT_NE(std::string::npos, firstProblem().find("no such material: cheese"));
 }
 
 TEST_F(SourceTables, wantGreensOnlyOfBossesThatDropThem) {

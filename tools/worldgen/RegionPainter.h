@@ -64,9 +64,32 @@ struct PaintedRegion {
 
 PaintedRegion paintRegion(const RegionRecipe& recipe);
 
-/// 64 x 64, RGB32: a framed emblem. \a kind is the skill's type ("Hex", "Shout", "Attack", ...); an unknown
-/// one gets an emblem of its own chosen from the seed.
-QImage paintSkillIcon(quint32 seed, QRgb professionColour, const QString& kind);
+/// A piece of a sign: what it is made of ("steel", "fire", "cloth" for the profession's colour), and its
+/// shape.
+struct SignPart {
+    QString material;
+    QString shape; ///< a text for pathFromText, 25 units to each side
+};
+
+/// A sign, and the words that say how it stands: alone, `small` beside the one before it, `behind` it,
+/// `two` crossed, a `ring` of six, `left`, `low` ...
+struct PlacedSign {
+    std::vector<SignPart> parts;
+    QStringList manner;
+};
+
+struct SkillPicture {
+    quint32 seed = 1;
+    QRgb professionColour = 0;
+    int attribute = 0;             ///< 0..4: place among those of the profession; 5: none
+    std::vector<PlacedSign> signs; ///< back to front
+};
+
+bool isSignMaterial(QStringView name);
+bool isSignManner(QStringView word);
+
+/// 64 x 64, RGB32: the signs in a frame, on a ground of the profession's colour that tells the attribute.
+QImage paintSkillIcon(const SkillPicture& skill);
 
 /// 160 x 120, RGB32: an animal on open ground. \a species is a word such as "Wolf" or "Moss Bear"; the body
 /// plan is taken from the last known animal word in it, else from the seed.

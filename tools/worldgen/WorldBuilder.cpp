@@ -23,6 +23,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int JpegQuality = 90;
+constexpr int WithoutAttribute = 5; ///< for the painter of skills
 
 /// Runs `work(0)` .. `work(count - 1)` on all processors and returns when all are done.
 void inParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
@@ -51,6 +52,7 @@ class Builder {
         : source_(source), worldFolder_(worldFolder), outFolder_(outFolder + u'/'), places_(source) {}
 
     QStringList build();
+    QStringList paint(const QString& part);
 
   private:
     void makeFolders();
@@ -64,10 +66,12 @@ class Builder {
     void reuse(const QString& name, const QString& original);
     void problem(const QString& what);
     QString folderOf(int campaign) const;
+    bool isWanted(const QString& picture) const { return picture.contains(part_, Qt::CaseInsensitive); }
 
     const WorldSource& source_;
     QString worldFolder_;
     QString outFolder_;
+    QString part_; ///< of the names of the pictures to paint; empty: all
     WorldPlaces places_;
     std::mutex problemsLock_;
     QStringList problems_;
@@ -145,10 +149,14 @@ void Builder::copyData() {
 void Builder::paintRegions() {
     inParallel(source_.regions.size(), [this](std::size_t i) {
         const SourceRegion& region = source_.regions[i];
+        const QString name = folderOf(region.campaign) + region.fileNumber + u".jpg"_s;
+        if (!isWanted(name)) {
+            return;
+        }
         const PaintedRegion painted = paintRegion(recipeFor(source_, region));
         const Ground ground{painted.sites, [&](QPoint place) { return isDry(painted, place); }};
         placeRegion(source_, region, ground, places_);
-        savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_s, painted.picture);
+        savePicture(name, painted.picture);
     });
 }
 
@@ -158,9 +166,12 @@ void Builder::paintSkills() {
         const auto profession =
             std::find_if(source_.professions.begin(), source_.professions.end(),
                          [&](const SourceProfession& known) { return known.number == skill.profession; });
-        if (skill.pictureOf == 0) {
-            savePicture(folderOf(skill.campaign) + u"imgElite/"_s + skillPicture(skill.id),
-                        paintSkillIcon(quint32(skill.id), profession->colour, skill.type));
+        const QString name = folderOf(skill.campaign) + u"imgElite/"_s + skillPicture(skill.id);
+        if (skill.pictureOf == 0 && isWanted(name)) {
+            const qsizetype attribute = profession->attributes.indexOf(skill.attribute);
+            savePicture(name,
+                        paintSkillIcon({quint32(skill.id), profession->colour,
+                                        attribute < 0 ? WithoutAttribute : int(attribute), skill.signs}));
         }
     });
     for (const SourceSkill& skill : source_.skills) {
@@ -175,6 +186,9 @@ void Builder::paintPets() {
     const QString folder = folderOf(0) + u"imgPets/"_s;
     for (const SourcePet& pet : source_.pets) {
         const QString name = folder + pet.idText + u".jpg"_s;
+        if (!isWanted(name)) {
+            continue;
+        }
         if (pet.pictureOf.isEmpty()) {
             savePicture(name, paintPet(pet.idText.toUInt(), pet.species));
         } else {
@@ -189,6 +203,15 @@ void Builder::writeTables() {
             save(campaignFolder(campaign) + u'/' + name, bytes);
         }
     }
+}
+
+QStringList Builder::paint(const QString& part) {
+    part_ = part;
+    makeFolders();
+    paintRegions();
+    paintSkills();
+    paintPets();
+    return problems_;
 }
 
 QStringList Builder::build() {
@@ -207,6 +230,10 @@ QStringList Builder::build() {
 
 QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder) {
     return Builder(source, worldFolder, outFolder).build();
+}
+
+QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part) {
+    return Builder(source, {}, outFolder).paint(part);
 }
 
 QString noAttributeCaption(const QString& worldFolder) {

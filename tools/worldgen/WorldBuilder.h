@@ -10,6 +10,10 @@ namespace worldgen {
 /// processors. Returns what went wrong, empty when the whole world was written.
 QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder);
 
+/// Paints those pictures alone whose name in the world's folder contains `part`, and writes no tables: for
+/// looking at them.
+QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part);
+
 /// Caption of the attribute-less choice in `worldFolder`/Data/Language.txt, or an English one when there is
 /// none.
 QString noAttributeCaption(const QString& worldFolder);

@@ -1,5 +1,6 @@
 #include "WorldSource.h"
 
+#include "SkillSigns.h"
 #include "SourceTable.h"
 
 #include <QDir>
@@ -83,7 +84,7 @@ class SourceReader {
     void readCampaigns();
     void readProfessions();
     void readSkills();
-    void readSkill(const SourceRow& row);
+    void readSkill(const SourceRow& row, const SignBook& signs);
     void readRegions(int campaign);
     void readZones(int campaign);
     void readBosses(int campaign);
@@ -170,15 +171,16 @@ void SourceReader::readProfessions() {
 }
 
 void SourceReader::readSkills() {
+    const SignBook signs = readSigns(rows(u"signs.txt"_s, 3), problems_);
     const QDir folder(folder_ + u"skills"_s);
     for (const QString& name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
-        for (const SourceRow& row : rows(u"skills/"_s + name, 11)) {
-            readSkill(row);
+        for (const SourceRow& row : rows(u"skills/"_s + name, 12)) {
+            readSkill(row, signs);
         }
     }
 }
 
-void SourceReader::readSkill(const SourceRow& row) {
+void SourceReader::readSkill(const SourceRow& row, const SignBook& signs) {
     SourceSkill skill;
     skill.id = numberIn(row, 0, 1, HighestNumber, problems_);
     skill.campaign = numberIn(row, 1, 0, 4, problems_);
@@ -191,6 +193,7 @@ void SourceReader::readSkill(const SourceRow& row) {
     skill.castTime = row.fields[8];
     skill.recharge = numberIn(row, 9, 0, 999, problems_);
     skill.description = row.fields[10];
+    skill.signs = placedSigns(row.fields[11], signs, row.place, problems_);
     for (const SourceProfession& profession : world_.professions) {
         if (profession.name == row.section) {
             skill.profession = profession.number;

@@ -70,7 +70,8 @@ struct SourceSkill {
     QString castTime;
     int recharge = 0;
     QString description;
-    int pictureOf = 0; ///< skill whose picture is used again; 0 paints one
+    std::vector<PlacedSign> signs; ///< what its picture shows
+    int pictureOf = 0;             ///< skill whose picture is used again; 0 paints one
 };
 
 struct SourceBoss {

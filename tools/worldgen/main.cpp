@@ -12,6 +12,7 @@ constexpr int HighestScale = 100;
 struct Order {
     QString outFolder;
     int scale = 1;
+    QString only;
 };
 
 std::optional<Order> readOrder(const QStringList& arguments) {
@@ -19,6 +20,8 @@ std::optional<Order> readOrder(const QStringList& arguments) {
     for (int i = 1; i < arguments.size(); ++i) {
         if (arguments[i] == u"--scale" && i + 1 < arguments.size()) {
             order.scale = arguments[++i].toInt();
+        } else if (arguments[i] == u"--only" && i + 1 < arguments.size()) {
+            order.only = arguments[++i];
         } else if (order.outFolder.isEmpty() && !arguments[i].startsWith(u'-')) {
             order.outFolder = arguments[i];
         } else {
@@ -46,6 +49,9 @@ int run(const Order& order) {
     if (!problems.isEmpty()) {
         return tell(problems);
     }
+    if (!order.only.isEmpty()) {
+        return tell(worldgen::paintPictures(source, order.outFolder, order.only));
+    }
     return tell(
         worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder));
 }
@@ -58,7 +64,9 @@ int main(int argc, char* argv[]) {
     const QGuiApplication application(argc, argv);
     const std::optional<Order> order = readOrder(QCoreApplication::arguments());
     if (!order) {
-        std::fputs("usage: worldgen OUTFOLDER [--scale N]   (N from 1 to 100)\n", stderr);
+        std::fputs("usage: worldgen OUTFOLDER [--scale N | --only NAME]\n"
+                   "N from 1 to 100; NAME is a part of the names of the pictures to paint, as \"imgPets\"\n",
+                   stderr);
         return 2;
     }
     return run(*order);

@@ -1,6 +1,7 @@
 #include "PathText.h"
 
 #include <QList>
+#include <QPainterPathStroker>
 #include <QString>
 #include <QTransform>
 
@@ -24,6 +25,7 @@ class PathReader {
     }
     void command(QChar letter);
     void finishPiece();
+    static QPainterPath stroked(const QPainterPath& line, double width);
 
     QStringList words_;
     qsizetype at_ = 0;
@@ -40,6 +42,14 @@ QString PathReader::spaced(QLatin1String text) {
             result += QLatin1Char(' ');
     }
     return result;
+}
+
+QPainterPath PathReader::stroked(const QPainterPath& line, double width) {
+    QPainterPathStroker pen;
+    pen.setWidth(width);
+    pen.setCapStyle(Qt::RoundCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    return pen.createStroke(line).simplified();
 }
 
 void PathReader::finishPiece() {
@@ -74,6 +84,12 @@ void PathReader::command(QChar letter) {
             piece_ = piece_.united(QTransform().rotate(360.0 * k / copies).map(one));
         return;
     }
+    case 'F':
+        piece_ = piece_.united(QTransform::fromScale(-1, 1).map(piece_));
+        return;
+    case 'W':
+        piece_ = stroked(piece_, number());
+        return;
     case 'Z':
         return piece_.closeSubpath();
     default:

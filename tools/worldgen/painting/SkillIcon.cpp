@@ -2,7 +2,8 @@
 
 #include "Colour.h"
 #include "Maths.h"
-#include "Motifs.h"
+#include "Noise.h"
+#include "Signs.h"
 #include "Sprites.h"
 
 #include <QLinearGradient>
@@ -16,76 +17,89 @@ namespace {
 constexpr int kSide = 64;
 constexpr int kFineSide = kSide * 3;
 
-/// Another hue of about the same strength.
-Colour neighbouring(Colour colour, double turn) {
-    const QColor c(rgbOf(colour));
+/// The profession's colour, turned, faded and darkened.
+struct Shade {
+    double turn;
+    double saturation;
+    double value;
+};
+
+/// One for each attribute, the last for skills without: the attributes of a profession are told apart by
+/// shade and pattern, and yet belong together.
+constexpr std::array<Shade, 6> Shades{
+    Shade{0, 1, 0.92},      Shade{0.07, 1.05, 0.52}, Shade{-0.08, 0.75, 0.82},
+    Shade{0.02, 0.55, 0.5}, Shade{-0.03, 1.2, 0.68}, Shade{0.5, 0.45, 0.55},
+};
+
+Colour shaded(Colour colour, const Shade& shade) {
     float h = 0, s = 0, v = 0;
-    c.getHsvF(&h, &s, &v);
-    const double hue = h < 0 ? 0.1 : double(h) + turn;
-    return colourOf(QColor::fromHsvF(float(hue - std::floor(hue)), s, v).rgb());
+    QColor(rgbOf(colour)).getHsvF(&h, &s, &v);
+    const double hue = (h < 0 ? 0.1 : double(h)) + shade.turn + 1;
+    return colourOf(QColor::fromHsvF(float(hue - std::floor(hue)),
+                                     float(clamp01(double(s) * shade.saturation)),
+                                     float(clamp01(double(v) * shade.value)))
+                        .rgb());
 }
 
-/// The cloth behind the emblem: the profession's colour, brightest in the middle, in one of four patterns.
-void paintCloth(QImage& image, Colour colour, Rng& rng) {
-    const Noise noise(rng.next());
-    const int pattern = rng.whole(0, 3);
-    const double turn = rng.range(0, 2);
-    const double freedom = rng.range(0.7, 1.3);
-    const Colour other = neighbouring(colour, rng.range(-0.09, 0.09));
+/// Brightness of the ground at a point, -1..1 to each side.
+class Pattern {
+  public:
+    Pattern(int number, Rng& rng) : noise_(rng.next()), number_(number), turn_(rng.range(0, 6)) {}
+
+    double at(double u, double v) const {
+        const double warp = noise_.fbm(u * 1.6 + turn_, v * 1.6, 4);
+        switch (number_) {
+        case 0: // rays
+            return rays(u, v) + 0.5 * warp;
+        case 1: // dusk over a dark land
+            return smoothStep(0.36, 0.26, v - 0.14 * noise_.fbm(u * 2 + turn_, 3.5, 4)) * (0.9 + 0.6 * v) -
+                   0.7;
+        case 2: // ripples
+            return 0.8 * sineOf(15 * lengthOf(u, v + 0.25) + 3 * warp);
+        case 3: // woven bands
+            return (sineOf(13 * (u + v)) > 0 ? 0.45 : -0.35) + (sineOf(13 * (u - v)) > 0 ? 0.2 : -0.2) +
+                   0.4 * warp;
+        case 4: // smoke
+            return 2.0 * noise_.fbm(u * 2 + warp, v * 2 - warp + turn_, 4);
+        default: // night with stars
+            return noise_.at(u * 19 + turn_, v * 19) > 0.52 ? 1.6 : -0.35 + 0.5 * warp;
+        }
+    }
+
+  private:
+    /// Sixteen beams from the middle: the octants are folded upon each other, so that no angle is needed.
+    static double rays(double u, double v) {
+        const double x = std::abs(u);
+        const double y = std::abs(v);
+        const double slope = std::min(x, y) / std::max({x, y, 0.001});
+        return slope < 0.2 || slope > 0.67 ? 0.5 : -0.4;
+    }
+
+    Noise noise_;
+    int number_;
+    double turn_;
+};
+
+void paintGround(QImage& image, Colour colour, const Pattern& pattern) {
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             const double u = x * 2.0 / kFineSide - 1;
             const double v = y * 2.0 / kFineSide - 1;
-            const double r = lengthOf(u, v);
-            const double warp = noise.fbm(u * 1.6 + turn, v * 1.6, 4) * freedom;
-            double wave = 0;
-            if (pattern == 0)
-                wave = sineOf(14 * (r + 0.35 * warp));
-            else if (pattern == 1)
-                wave = sineOf(9 * (u * cosineOf(turn) + v * sineOf(turn) + 0.5 * warp));
-            else if (pattern == 2)
-                wave = noise.ridged(u * 1.4 + 3, v * 1.4 + turn, 4) * 2 - 1;
-            else
-                wave = 2.2 * noise.fbm(u * 2 + warp, v * 2 - warp, 4);
-            const double light = (0.78 - 0.50 * smoothStep(0.25, 1.3, r)) * (0.72 + 0.22 * wave);
-            line[x] = rgbOf(mixed(colour, other, 0.5 + 0.5 * warp).times(std::max(0.08, light)));
+            const double light =
+                (0.80 - 0.46 * smoothStep(0.3, 1.35, lengthOf(u, v))) * (0.80 + 0.30 * pattern.at(u, v));
+            line[x] = rgbOf(colour.times(std::max(0.10, light)));
         }
     }
 }
 
 void paintGlow(QPainter& painter, Colour colour) {
-    QRadialGradient glow(QPointF(), 30);
-    glow.setColorAt(0, inked(mixed(colour, Colour{255, 250, 230}, 0.65), 150));
+    QRadialGradient glow(QPointF(), 28);
+    glow.setColorAt(0, inked(mixed(colour, Colour{255, 250, 230}, 0.6), 120));
     glow.setColorAt(1, inked(colour, 0));
     painter.setPen(Qt::NoPen);
     painter.setBrush(glow);
-    painter.drawEllipse(QPointF(), 30, 30);
-}
-
-void paintEmblem(QPainter& painter, const QPainterPath& motif, Colour colour) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(12, 8, 6, 110), 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(motif.translated(1, 1.6));
-    painter.setPen(QPen(QColor(18, 12, 8, 235), 3.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(motif);
-    const Colour bright = mixed(Colour{255, 246, 218}, colour, 0.10);
-    const Colour deep = mixed(Colour{196, 150, 84}, colour, 0.35);
-    QLinearGradient fill(-16, -22, 16, 24);
-    fill.setColorAt(0, inked(bright));
-    fill.setColorAt(0.5, inked(mixed(bright, deep, 0.4)));
-    fill.setColorAt(1, inked(deep));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    painter.drawPath(motif);
-    painter.save(); // light along the upper left edges
-    painter.setClipPath(motif);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(255, 255, 250, 130), 1.6));
-    painter.drawPath(motif.translated(0.9, 0.9));
-    painter.setPen(QPen(QColor(70, 40, 16, 120), 1.6));
-    painter.drawPath(motif.translated(-0.9, -0.9));
-    painter.restore();
+    painter.drawEllipse(QPointF(), 28, 28);
 }
 
 void paintRim(QPainter& painter, Colour colour) {
@@ -110,21 +124,21 @@ void paintRim(QPainter& painter, Colour colour) {
 
 } // namespace
 
-QImage paintSkillIcon(quint32 seed, QRgb professionColour, const QString& kind) {
-    Rng rng(seed * 3ULL + 1);
-    const Colour colour = colourOf(professionColour);
+QImage paintSkillIcon(const SkillPicture& skill) {
+    Rng rng(skill.seed * 3ULL + 1);
+    const Colour colour = colourOf(skill.professionColour);
+    const int kind = std::clamp(skill.attribute, 0, int(Shades.size()) - 1);
+    const Colour ground = shaded(colour, Shades[std::size_t(kind)]);
     QImage fine(kFineSide, kFineSide, QImage::Format_RGB32);
-    paintCloth(fine, colour, rng);
+    paintGround(fine, ground, Pattern(kind, rng));
     QPainter painter(&fine);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(double(kFineSide) / kSide, double(kFineSide) / kSide);
     painter.translate(kSide / 2, kSide / 2);
-    paintGlow(painter, colour);
+    paintGlow(painter, ground);
     painter.save();
-    painter.rotate(rng.range(-7, 7));
-    const double size = rng.range(0.84, 0.92);
-    painter.scale(rng.chance(0.5) ? size : -size, size);
-    paintEmblem(painter, motifFor(kind, rng), colour);
+    painter.scale(0.94, 0.94);
+    paintSigns(painter, skill.signs, skill.professionColour);
     painter.restore();
     paintRim(painter, colour);
     painter.end();
