@@ -111,8 +111,12 @@ TEST(Painter, TellsSkillsAndAnimalsApart) {
     EXPECT_EQ(6U, seen.size());
     EXPECT_EQ(QSize(64, 64), paintSkillIcon({4, 0, 0, {disc}}).size());
 
-    const QByteArray bear = fingerprint(paintPet(3, QStringLiteral("Moss Bear")));
-    EXPECT_EQ(paintPet(3, {}).size(), QSize(160, 120));
-    EXPECT_EQ(bear, fingerprint(paintPet(3, QStringLiteral("bear"))));
-    EXPECT_NE(bear, fingerprint(paintPet(3, QStringLiteral("wolf"))));
+    const AnimalPicture bear{u"ice"_s, {{u"coat"_s, qRgb(90, 60, 40), u"E80 70 40 24"_s}}};
+    const auto pet = [](quint32 seed, AnimalPicture animal, const QString& ground) {
+        animal.ground = ground;
+        return fingerprint(paintPet(seed, animal));
+    };
+    EXPECT_EQ(pet(3, bear, u"ice"_s), fingerprint(paintPet(3, bear)));
+    EXPECT_EQ(3U, std::set({pet(3, bear, u"ice"_s), pet(4, bear, u"ice"_s), pet(3, bear, u"fen"_s)}).size());
+    EXPECT_EQ(QSize(160, 120), paintPet(3, {}).size());
 }

@@ -91,8 +91,23 @@ bool isSignManner(QStringView word);
 /// 64 x 64, RGB32: the signs in a frame, on a ground of the profession's colour that tells the attribute.
 QImage paintSkillIcon(const SkillPicture& skill);
 
-/// 160 x 120, RGB32: an animal on open ground. \a species is a word such as "Wolf" or "Moss Bear"; the body
-/// plan is taken from the last known animal word in it, else from the seed.
-QImage paintPet(quint32 seed, const QString& species);
+/// A piece of an animal: `coat` is combed, `skin` smooth, `far` in the shade behind, `mark` a stain on the
+/// last of them, `line` flat; an `eye` has a pupil.
+struct AnimalPart {
+    QString kind;
+    QRgb colour = 0;
+    QString shape; ///< a text for pathFromText, on 160 x 120 with the ground at 98
+};
+
+struct AnimalPicture {
+    QString ground;
+    std::vector<AnimalPart> parts; ///< back to front
+};
+
+bool isAnimalPartKind(QStringView kind);
+bool isPetGround(QStringView name);
+
+/// 160 x 120, RGB32: the animal on its ground. The seed says which way it looks, and how the clouds lie.
+QImage paintPet(quint32 seed, const AnimalPicture& animal);
 
 } // namespace worldgen

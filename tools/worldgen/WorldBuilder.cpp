@@ -190,7 +190,7 @@ void Builder::paintPets() {
             continue;
         }
         if (pet.pictureOf.isEmpty()) {
-            savePicture(name, paintPet(pet.idText.toUInt(), pet.species));
+            savePicture(name, paintPet(pet.idText.toUInt(), pet.animal));
         } else {
             reuse(name, folder + pet.pictureOf + u".jpg"_s);
         }

@@ -1,5 +1,6 @@
 #include "WorldSource.h"
 
+#include "Animals.h"
 #include "SkillSigns.h"
 #include "SourceTable.h"
 
@@ -327,9 +328,14 @@ void SourceReader::readChests() {
 }
 
 void SourceReader::readPets() {
+    const QHash<QString, AnimalPicture> animals = readAnimals(rows(u"animals.txt"_s, 2), problems_);
     for (const SourceRow& row : rows(0, u"pets.txt", 4)) {
         numberIn(row, 0, 1, HighestNumber, problems_);
-        world_.pets.push_back({row.fields[0], row.fields[1], row.fields[2], row.fields[3], {}});
+        world_.pets.push_back(
+            {row.fields[0], row.fields[1], animals.value(row.fields[2]), row.fields[3], {}});
+        if (!animals.contains(row.fields[2])) {
+            problem(row, u"no such animal: "_s + row.fields[2]);
+        }
     }
 }
 

@@ -116,7 +116,7 @@ struct SourceChest {
 struct SourcePet {
     QString idText; ///< as written, names the picture file
     QString name;
-    QString species;
+    AnimalPicture animal; ///< what its picture shows
     QString remark;
     QString pictureOf; ///< id text of the pet whose picture is used again; empty paints one
 };

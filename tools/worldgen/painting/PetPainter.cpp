@@ -1,13 +1,16 @@
 #include "../RegionPainter.h"
 
-#include "Animals.h"
+#include "Colour.h"
 #include "Ground.h"
 #include "Maths.h"
 #include "PathText.h"
+#include "PetGround.h"
 #include "Sprites.h"
 
 #include <QLinearGradient>
 #include <QRadialGradient>
+
+#include <array>
 
 namespace worldgen {
 
@@ -15,162 +18,133 @@ namespace {
 
 constexpr QSize kPicture(160, 120);
 constexpr int kFine = 3;
-constexpr double kHorizon = 74;
-constexpr double kGround = 98;
+constexpr double kFeet = 98;
 
-struct Scenery {
-    Colour sky, haze, hills, grass;
-};
+constexpr std::array PartKinds{QStringView(u"far"),  QStringView(u"coat"), QStringView(u"skin"),
+                               QStringView(u"mark"), QStringView(u"line"), QStringView(u"eye")};
 
-const Scenery& anyScenery(Rng& rng) {
-    static constexpr std::array<Scenery, 5> sceneries{
-        Scenery{{70, 92, 104}, {150, 142, 112}, {62, 78, 62}, {78, 88, 50}},    // meadow at dawn
-        Scenery{{84, 62, 62}, {184, 120, 70}, {82, 60, 52}, {104, 80, 46}},     // dusk on the steppe
-        Scenery{{64, 78, 96}, {140, 150, 158}, {84, 96, 108}, {112, 120, 122}}, // winter
-        Scenery{{48, 66, 66}, {108, 124, 96}, {40, 62, 50}, {52, 70, 44}},      // wood's edge
-        Scenery{{74, 84, 98}, {160, 136, 104}, {88, 78, 70}, {96, 88, 66}}};    // crags
-    return rng.pick(sceneries);
-}
-
-/// Sky with slow clouds, two lines of hills in the haze, open ground.
-QImage paintedBackdrop(const Scenery& scenery, Rng& rng) {
-    const Noise noise(rng.next());
-    QImage image(kPicture * kFine, QImage::Format_RGB32);
-    std::vector<std::array<double, 2>> skyline; // both lines of hills
-    for (int x = 0; x < image.width(); ++x) {
-        const double u = double(x) / kFine;
-        skyline.push_back(
-            {54 + 13 * noise.fbm(u / 44 + 7, 3.5, 4), 66 + 10 * noise.fbm(u / 30 + 19, 8.5, 4)});
-    }
-    for (int y = 0; y < image.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const double v = double(y) / kFine;
-        for (int x = 0; x < image.width(); ++x) {
-            const double u = double(x) / kFine;
-            const auto [farHills, nearHills] = skyline[std::size_t(x)];
-            const double cloud = v < 80 ? noise.fbm(u / 46, v / 15, 4) : 0;
-            Colour colour = mixed(scenery.sky, scenery.haze, smoothStep(8, kHorizon, v + 26 * cloud));
-            colour = mixed(colour, mixed(scenery.hills, scenery.haze, 0.55),
-                           smoothStep(farHills, farHills + 1, v));
-            colour = mixed(colour, mixed(scenery.hills, scenery.haze, 0.15),
-                           smoothStep(nearHills, nearHills + 1, v));
-            const double blades = noise.fbm(u / 7, v / 3, 3) + 0.6 * noise.at(u / 22, v / 9);
-            const Colour ground =
-                scenery.grass.times((0.75 + 0.30 * blades) * lerp(1.12, 0.62, smoothStep(kHorizon, 120, v)));
-            colour = mixed(colour, ground, smoothStep(kHorizon, kHorizon + 3, v + 2 * noise.at(u / 9, 1.5)));
-            const double corner = lengthOf(u / 80 - 1, v / 60 - 1);
-            line[x] = rgbOf(colour.times(1.06 - 0.42 * smoothStep(0.6, 1.45, corner)));
-        }
-    }
-    return image;
-}
-
-QBrush roundedFur(Colour fur) {
-    QLinearGradient light(QPointF(50, 26), QPointF(78, 102));
-    light.setColorAt(0, inked(fur.times(1.15, 1.10, 1.02)));
-    light.setColorAt(0.40, inked(fur.times(0.68)));
-    light.setColorAt(1, inked(fur.times(0.22, 0.22, 0.27)));
+/// Lit from above and from the left.
+QBrush rounded(const QPainterPath& shape, Colour colour) {
+    const QRectF box = shape.boundingRect();
+    QLinearGradient light(box.topLeft(), QPointF(box.left() + box.width() * 0.4, box.bottom()));
+    light.setColorAt(0, inked(colour.times(1.16, 1.12, 1.06)));
+    light.setColorAt(0.5, inked(colour.times(0.88)));
+    light.setColorAt(1, inked(colour.times(0.48, 0.47, 0.52)));
     return light;
-}
-
-/// The low sun draws a bright line along back and head.
-void lightRim(QPainter& painter, const QPainterPath& body, Colour light) {
-    painter.save();
-    painter.setClipPath(body);
-    painter.setBrush(Qt::NoBrush);
-    for (const double width : {1.8, 0.7}) {
-        painter.setPen(QPen(inked(light, 60), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(body.subtracted(body.translated(0, 1.0)));
-    }
-    painter.restore();
 }
 
 /// Short strokes along the coat, lighter above than below.
 void combFur(QPainter& painter, const QPainterPath& body, Colour fur, Rng& rng) {
     painter.save();
-    painter.setClipPath(body);
-    for (int k = 0; k < 900; ++k) {
-        const QPointF at(rng.range(6, 154), rng.range(20, 100));
-        const double above = smoothStep(100, 30, at.y());
-        const double light = (0.22 + 0.95 * above * above) * rng.range(0.7, 1.4);
-        painter.setPen(QPen(inked(fur.times(light), 90), rng.range(0.5, 1.1), Qt::SolidLine, Qt::RoundCap));
-        painter.drawLine(at, at + QPointF(rng.range(2, 5), rng.range(0.4, 2.6)));
+    painter.setClipPath(body, Qt::IntersectClip);
+    const QRectF box = body.boundingRect();
+    const int strokes = int(box.width() * box.height() / 14);
+    for (int k = 0; k < strokes; ++k) {
+        const QPointF at(rng.range(box.left(), box.right()), rng.range(box.top(), box.bottom()));
+        const double light = rng.range(0.72, 1.16) * lerp(1.1, 0.62, (at.y() - box.top()) / box.height());
+        painter.setPen(QPen(inked(fur.times(light), 80), rng.range(0.5, 1.0), Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(at, at + QPointF(rng.range(1.5, 4), rng.range(0.4, 2.4)));
     }
     painter.restore();
 }
 
 class PetPainter {
   public:
-    PetPainter(QPainter& painter, const BodyPlan& plan, Colour haze, Rng& rng);
-    void paint();
+    PetPainter(QPainter& painter, Colour haze, Rng& rng) : p_(painter), haze_(haze), rng_(rng) {}
+    void paint(const AnimalPicture& animal);
 
   private:
-    static QPainterPath shape(const char* text) { return pathFromText(QLatin1String(text)); }
-    void part(const char* text, const QBrush& brush);
+    void paintShadow();
+    void paintPart(const AnimalPart& part);
+    void paintSolid(const QPainterPath& shape, Colour colour);
+    void paintMark(const QPainterPath& shape, Colour colour);
+    void paintEye(const QPainterPath& shape, Colour colour);
+    void lightRim(const QPainterPath& body);
 
     QPainter& p_;
-    const BodyPlan& plan_;
     Colour haze_;
     Rng& rng_;
-    Colour fur_;
+    QPainterPath lastSolid_; ///< what marks are painted on
 };
 
-PetPainter::PetPainter(QPainter& painter, const BodyPlan& plan, Colour haze, Rng& rng)
-    : p_(painter), plan_(plan), haze_(haze), rng_(rng) {
-    fur_ = colourOf(plan.fur[rng.whole(0, 2)])
-               .times(rng.range(0.9, 1.15), rng.range(0.92, 1.08), rng.range(0.9, 1.1));
-}
-
-void PetPainter::part(const char* text, const QBrush& brush) {
-    p_.setPen(QPen(QColor(20, 14, 10, 170), 0.9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p_.setBrush(brush);
-    p_.drawPath(shape(text));
-}
-
-void PetPainter::paint() {
-    p_.setPen(Qt::NoPen);
+void PetPainter::paintShadow() {
     QRadialGradient shade(QPointF(0, 0), 1);
-    shade.setColorAt(0, QColor(8, 8, 6, 170));
-    shade.setColorAt(1, QColor(8, 8, 6, 0));
+    shade.setColorAt(0, QColor(8, 8, 10, 150));
+    shade.setColorAt(1, QColor(8, 8, 10, 0));
     p_.save();
-    p_.translate(86, kGround);
-    p_.scale(70, 9);
+    p_.translate(86, kFeet);
+    p_.scale(66, 8);
+    p_.setPen(Qt::NoPen);
     p_.setBrush(shade);
     p_.drawEllipse(QPointF(), 1, 1);
     p_.restore();
-    part(plan_.far, roundedFur(fur_.times(0.45)));
-    const QPainterPath body = shape(plan_.body);
-    part(plan_.body, roundedFur(fur_));
-    p_.save();
-    p_.setClipPath(body);
-    p_.setPen(Qt::NoPen);
-    p_.setBrush(inked(mixed(fur_, Colour{206, 190, 158}, 0.45), 95));
-    p_.drawPath(shape(plan_.pale));
-    p_.restore();
-    p_.setPen(Qt::NoPen);
-    p_.setBrush(inked(fur_.times(0.20), 190));
-    p_.drawPath(shape(plan_.dark));
-    combFur(p_, body, fur_, rng_);
-    lightRim(p_, body, mixed(haze_, Colour{255, 236, 196}, 0.5));
-    part(plan_.horn, QBrush(QColor(204, 186, 150)));
-    p_.setBrush(QColor(14, 10, 8));
-    p_.setPen(Qt::NoPen);
-    const QPointF eye(plan_.eyeX, plan_.eyeY);
-    p_.drawEllipse(eye, 2.0, 1.8);
-    p_.setBrush(QColor(222, 176, 72));
-    p_.drawEllipse(eye, 1.25, 1.15);
-    p_.setBrush(QColor(10, 8, 6));
-    p_.drawEllipse(eye, 0.5, 0.9);
 }
 
-void paintTufts(QPainter& painter, Colour grass, Rng& rng) {
-    for (int k = 0; k < 60; ++k) {
-        const QPointF foot(rng.range(0, 160), rng.range(kGround - 1, 118));
-        for (int blade = -2; blade <= 2; ++blade) {
-            painter.setPen(QPen(inked(grass.times(rng.range(0.4, 1.15))), 0.7, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(foot, foot + QPointF(blade * rng.range(0.6, 1.3), -rng.range(2, 6)));
-        }
+/// The low sun draws a bright line along back and head.
+void PetPainter::lightRim(const QPainterPath& body) {
+    p_.save();
+    p_.setClipPath(body, Qt::IntersectClip);
+    p_.setBrush(Qt::NoBrush);
+    for (const double width : {2.0, 0.8}) {
+        p_.setPen(QPen(inked(mixed(haze_, Colour{255, 244, 214}, 0.6), 90), width, Qt::SolidLine,
+                       Qt::RoundCap, Qt::RoundJoin));
+        p_.drawPath(body.subtracted(body.translated(0, 1.1)));
     }
+    p_.restore();
+}
+
+void PetPainter::paintSolid(const QPainterPath& shape, Colour colour) {
+    p_.setPen(QPen(inked(colour.times(0.25), 220), 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p_.setBrush(rounded(shape, colour));
+    p_.drawPath(shape);
+    lightRim(shape);
+    lastSolid_ = shape;
+}
+
+void PetPainter::paintMark(const QPainterPath& shape, Colour colour) {
+    p_.save();
+    p_.setClipPath(lastSolid_, Qt::IntersectClip);
+    p_.setPen(Qt::NoPen);
+    p_.setBrush(inked(colour, 205));
+    p_.drawPath(shape);
+    p_.restore();
+}
+
+void PetPainter::paintEye(const QPainterPath& shape, Colour colour) {
+    const QRectF box = shape.boundingRect();
+    p_.setPen(QPen(QColor(14, 10, 8), 1.4));
+    p_.setBrush(inked(colour));
+    p_.drawPath(shape);
+    p_.setPen(Qt::NoPen);
+    p_.setBrush(QColor(10, 8, 6));
+    p_.drawEllipse(box.center(), box.width() * 0.22, box.height() * 0.36);
+    p_.setBrush(QColor(255, 255, 255, 210));
+    p_.drawEllipse(box.center() - QPointF(box.width(), box.height()) * 0.16, 0.5, 0.5);
+}
+
+void PetPainter::paintPart(const AnimalPart& part) {
+    const QPainterPath shape = pathFromText(QLatin1String(part.shape.toLatin1()));
+    const Colour colour = colourOf(part.colour);
+    if (part.kind == u"eye") {
+        paintEye(shape, colour);
+    } else if (part.kind == u"mark") {
+        paintMark(shape, colour);
+    } else if (part.kind == u"line") {
+        p_.setPen(Qt::NoPen);
+        p_.setBrush(inked(colour));
+        p_.drawPath(shape);
+    } else {
+        const bool far = part.kind == u"far";
+        paintSolid(shape, colour.times(far ? 0.62 : 1));
+        if (part.kind == u"coat")
+            combFur(p_, shape, colour, rng_);
+    }
+}
+
+void PetPainter::paint(const AnimalPicture& animal) {
+    paintShadow();
+    for (const AnimalPart& part : animal.parts)
+        paintPart(part);
 }
 
 void paintBorder(QPainter& painter) {
@@ -183,10 +157,19 @@ void paintBorder(QPainter& painter) {
 
 } // namespace
 
-QImage paintPet(quint32 seed, const QString& species) {
+bool isAnimalPartKind(QStringView kind) {
+    return std::find(PartKinds.begin(), PartKinds.end(), kind) != PartKinds.end();
+}
+
+bool isPetGround(QStringView name) {
+    return petGroundNamed(name) != nullptr;
+}
+
+QImage paintPet(quint32 seed, const AnimalPicture& animal) {
     Rng rng(seed * 3ULL + 2);
-    const Scenery& scenery = anyScenery(rng);
-    QImage image = paintedBackdrop(scenery, rng);
+    const PetGround* named = petGroundNamed(animal.ground);
+    const PetGround& ground = named != nullptr ? *named : *petGroundNamed(u"meadow");
+    QImage image = brushed(paintedBackdrop(ground, kPicture, kFine, rng), 2, 0.75);
     const auto drawn = [&image](auto draw) {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
@@ -198,10 +181,9 @@ QImage paintPet(quint32 seed, const QString& species) {
             painter.translate(kPicture.width(), 0);
             painter.scale(-1, 1);
         }
-        PetPainter(painter, bodyPlanFor(species, seed), scenery.haze, rng).paint();
+        PetPainter(painter, ground.haze, rng).paint(animal);
     });
-    drawn([&](QPainter& painter) { paintTufts(painter, scenery.grass, rng); });
-    image = brushed(image, 2, 0.75);
+    drawn([&](QPainter& painter) { paintUndergrowth(painter, ground, kPicture, rng); });
     drawn(paintBorder);
     return shrunk(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), kFine)
         .convertToFormat(QImage::Format_RGB32);
