@@ -1,13 +1,12 @@
-#include "HotWorld.h"
 #include "World.h"
 #include "app/modData.h"
 #include "compare/PlainMap.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
+#include "ui/layers/modZonesView.h"
 #include "ui/platform/Windows.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -51,6 +50,21 @@ void countTables(World& world) {
     count("markers", [&] { allMarkers(state, world.map().shown(0)); });
 }
 
+// The region's ground as far as it is seen first, on a picture that is there already.
+void countGround(World& world) {
+    const MapShown shown = world.map().shown(0);
+    const QRect visible = world.map().picMap().view().visible();
+    const MarkerArt art;
+    ZonesView zones(world.state(), art);
+    QImage picture(world.map().picMap().surface()->size(), QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    count("ground", [&] {
+        MapSurface surface(picture, art,
+                           [&](QImage& ground, const QRect& part) { zones.drawGround(ground, part, shown); });
+        surface.composed(visible);
+    });
+}
+
 void countMap(World& world) {
     MapSurface& surface = *world.map().picMap().surface();
     const MapShown shown = world.map().shown(0);
@@ -70,14 +84,19 @@ void countMap(World& world) {
     });
 }
 
-void countKeys(World& world) {
-    QLineEdit& field = *world.panel().elitePage().txtEliteName;
-    count("keystrokes", [&] {
+// Of four keys: two to search, two back.
+void countKeys(World& world, const char* name, Tab tab, QLineEdit& field) {
+    world.panel().tabs().activate(tab);
+    settle();
+    count(name, [&] {
         for (const char key : {'a', 'r', '\b', '\b'}) {
             pressKey(field, key);
             settle();
         }
     });
+}
+
+void countDrag(World& world) {
     MapViewport& map = world.map().picMap();
     count("drag", [&] {
         sendMouse(map, QEvent::MouseButtonPress, {200, 200}, Qt::LeftButton);
@@ -94,19 +113,22 @@ void countKeys(World& world) {
 
 } // namespace orvinel::bench
 
-// bench_counts: to be run below callgrind, which it tells what to count; the world is its own, always the
-// same.
+// bench_counts FOLDER: to be run below callgrind, which it tells what to count, on the files of a world.
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     orvinel::applyAppearance(application);
-    const QTemporaryDir folder;
-    if (!orvinel::bench::writeHotWorld(folder.path() + u'/')) {
-        std::fputs("the world could not be written\n", stderr);
-        return 1;
+    if (argc != 2) {
+        std::fputs("usage: bench_counts FOLDER\n", stderr);
+        return 2;
     }
-    orvinel::bench::World world("counted", folder.path());
-    orvinel::bench::countTables(world);
-    orvinel::bench::countMap(world);
-    orvinel::bench::countKeys(world);
+    using namespace orvinel;
+    bench::World world("counted", QString::fromLocal8Bit(argv[1]));
+    bench::countTables(world);
+    bench::countGround(world);
+    bench::countMap(world);
+    bench::countKeys(world, "keys-skills", Tab::Elites, *world.panel().elitePage().txtEliteName);
+    bench::countKeys(world, "keys-collectors", Tab::Collectors,
+                     *world.panel().collectorsPage().txtCollSearch);
+    bench::countDrag(world);
     return 0;
 }

@@ -8,7 +8,9 @@
 namespace orvinel::bench {
 
 void BareMap::paintEvent(QPaintEvent* event) {
-    QPainter(this).drawImage(event->rect().topLeft(), picture_, event->rect().translated(offset));
+    QPainter painter(this);
+    painter.drawImage(event->rect().topLeft(), picture_, event->rect().translated(offset));
+    painter.fillRect(changed, marked ? Qt::white : Qt::black);
 }
 
 void BareMap::mousePressEvent(QMouseEvent* event) {
@@ -30,6 +32,7 @@ Bare::Bare(QImage picture, QStringList texts)
     list_->setModel(&model_);
     QObject::connect(field_, &QLineEdit::textChanged, list_, [this](const QString& text) {
         model_.setStringList(text.size() % 2 == 0 ? all_ : half_);
+        map_.marked = !map_.marked;
         map_.update();
     });
 }

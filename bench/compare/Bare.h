@@ -14,6 +14,7 @@ class BareMap : public QWidget {
   public:
     explicit BareMap(QImage picture) : picture_(std::move(picture)) { setAttribute(Qt::WA_OpaquePaintEvent); }
     QPoint offset;
+    bool marked = false; // each key changes it, so that the screen shows when the picture has arrived
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -21,6 +22,8 @@ class BareMap : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
 
   private:
+    static constexpr QRect changed{8, 8, 16, 16};
+
     QImage picture_;
     QPoint grip_;
 };

@@ -1,5 +1,6 @@
 #include "WorldBuilder.h"
 
+#include "CrowdedWorld.h"
 #include "Placement.h"
 #include "WorldFiles.h"
 
@@ -53,6 +54,7 @@ class Builder {
 
     QStringList build();
     QStringList paint(const QString& part);
+    QStringList build(const CrowdedWorld& world);
 
   private:
     void makeFolders();
@@ -226,7 +228,26 @@ QStringList Builder::build() {
     return problems_;
 }
 
+QStringList Builder::build(const CrowdedWorld& world) {
+    places_ = world.places();
+    makeFolders();
+    copyData();
+    for (const SourceRegion& region : source_.regions)
+        savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_s,
+                    paintRegion(recipeFor(source_, region)).picture);
+    QDir(outFolder_).mkpath(u"Personal"_s);
+    save(u"Personal/Notes.txt"_s, world.notes());
+    if (problems_.isEmpty())
+        writeTables();
+    return problems_;
+}
+
 } // namespace
+
+QStringList buildCrowdedWorld(int scale, const QString& worldFolder, const QString& outFolder) {
+    const CrowdedWorld world(scale);
+    return Builder(world.source(), worldFolder, outFolder).build(world);
+}
 
 QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder) {
     return Builder(source, worldFolder, outFolder).build();

@@ -14,6 +14,9 @@ QStringList buildWorld(const WorldSource& source, const QString& worldFolder, co
 /// looking at them.
 QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part);
 
+/// Writes a CrowdedWorld with its picture and its player's notes; the rest as buildWorld does.
+QStringList buildCrowdedWorld(int scale, const QString& worldFolder, const QString& outFolder);
+
 /// Caption of the attribute-less choice in `worldFolder`/Data/Language.txt, or an English one when there is
 /// none.
 QString noAttributeCaption(const QString& worldFolder);

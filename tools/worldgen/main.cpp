@@ -13,6 +13,7 @@ struct Order {
     QString outFolder;
     int scale = 1;
     QString only;
+    bool oneRegion = false; // a world to measure with, instead of the shipped one
 };
 
 std::optional<Order> readOrder(const QStringList& arguments) {
@@ -22,6 +23,8 @@ std::optional<Order> readOrder(const QStringList& arguments) {
             order.scale = arguments[++i].toInt();
         } else if (arguments[i] == u"--only" && i + 1 < arguments.size()) {
             order.only = arguments[++i];
+        } else if (arguments[i] == u"--one-region") {
+            order.oneRegion = true;
         } else if (order.outFolder.isEmpty() && !arguments[i].startsWith(u'-')) {
             order.outFolder = arguments[i];
         } else {
@@ -43,6 +46,8 @@ int tell(const QStringList& problems) {
 
 int run(const Order& order) {
     const QString worldFolder = QStringLiteral(WORLDGEN_WORLD);
+    if (order.oneRegion)
+        return tell(worldgen::buildCrowdedWorld(order.scale, worldFolder, order.outFolder));
     QStringList problems;
     const worldgen::WorldSource source =
         worldgen::readWorldSource(worldFolder, worldgen::noAttributeCaption(worldFolder), problems);
@@ -64,7 +69,7 @@ int main(int argc, char* argv[]) {
     const QGuiApplication application(argc, argv);
     const std::optional<Order> order = readOrder(QCoreApplication::arguments());
     if (!order) {
-        std::fputs("usage: worldgen OUTFOLDER [--scale N | --only NAME]\n"
+        std::fputs("usage: worldgen OUTFOLDER [[--one-region] --scale N | --only NAME]\n"
                    "N from 1 to 100; NAME is a part of the names of the pictures to paint, as \"imgPets\"\n",
                    stderr);
         return 2;
