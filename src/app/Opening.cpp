@@ -4,9 +4,23 @@
 #include "base/About.h"
 #include "world/World.h"
 
+#include <algorithm>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// As in "de"; "en" when the language file names none.
+QString languageCode(const World& state) {
+    const QString code = state.text(Caption::LanguageCode);
+    const bool usable = !code.isEmpty() && std::all_of(code.begin(), code.end(),
+                                                       [](QChar c) { return c.isLetter() || c == u'-'; });
+    return usable ? code : u"en"_s;
+}
+
+} // namespace
 
 void openAndTell(const World& state, Desktop& desktop, const QString& target) {
     if (!desktop.openWithShell(target))
@@ -14,13 +28,15 @@ void openAndTell(const World& state, Desktop& desktop, const QString& target) {
 }
 
 QString addressOf(Page page, const World& state, const Disk& disk) {
-    const QString guide = state.AppPath + u"Data/Guide/guide.html"_s;
-    const QString start = state.AppPath + u"Data/Guide/start.html"_s;
+    const QString folder = state.AppPath + u"Data/Guide/"_s;
+    const QString translated = folder + languageCode(state) + u'/';
+    const QString guide = u"guide.html"_s;
+    const QString start = u"start.html"_s;
     const QString& wanted = page == Page::Guide ? guide : start;
-    for (const QString& path : {wanted, guide, start})
+    for (const QString& path : {translated + wanted, folder + wanted, folder + guide, folder + start})
         if (disk.length(path) > 0)
             return disk.resolve(path);
-    return homePage().isEmpty() ? wanted : homePage();
+    return homePage().isEmpty() ? folder + wanted : homePage();
 }
 
 } // namespace orvinel

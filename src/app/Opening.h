@@ -14,8 +14,9 @@ void openAndTell(const World& state, Desktop& desktop, const QString& target);
 
 enum class Page { Guide, Start };
 
-// What to open for a page that comes with the program. Where it is missing: the other page, else the
-// project's home page, else where the page should lie, so that the player is told of it.
+// What to open for a page that comes with the program: in the language file's language, else in English.
+// Where it is missing: the other page, else the project's home page, else where the page should lie, so that
+// the player is told of it.
 QString addressOf(Page page, const World& state, const Disk& disk);
 
 } // namespace orvinel

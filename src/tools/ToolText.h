@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Caption.h"
+
 #include <QString>
 
 namespace orvinel {
@@ -9,7 +11,7 @@ struct World;
 // What the tools say beyond the program's captions. The language file may define these numbers; a built-in
 // English text is used where it does not.
 enum class ToolText {
-    LanguageCode = 301,
+    LanguageCode = static_cast<int>(Caption::LanguageCode),
     ProgressTitle,
     World,
     Campaign,

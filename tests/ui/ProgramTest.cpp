@@ -179,5 +179,15 @@ TEST_F(ProgramTest, helpAndHomeOpenThePagesThatCameWithTheProgramAndSayWhereOneI
     EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
 }
 
+TEST_F(ProgramTest, helpSpeaksTheLanguageOfTheTextsWhereItCan) {
+    disk.put(u"/o/Data/Guide/guide.html"_s, "<html>").put(u"/o/Data/Guide/de/guide.html"_s, "<html>");
+    disk.put(u"/o/Data/Language.txt"_s, disk.content(u"/o/Data/Language.txt"_s) + "301\tde\r\n");
+    ASSERT_TRUE(start());
+    program->ShowGuide();
+    EXPECT_EQ(u"open /o/Data/Guide/de/guide.html"_s, desktop.log.last());
+    program->ShowStartPage(); // not translated: the German guide is no start page, the English one is missing
+    EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
+}
+
 } // namespace
 } // namespace orvinel

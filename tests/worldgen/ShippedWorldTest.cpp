@@ -4,6 +4,7 @@
 #include "app/ProgramState.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "layers/modElite.h"
 #include "support/MemoryDisk.h"
 #include "world/modCampaigns.h"
 
@@ -88,6 +89,30 @@ TEST_F(ShippedWorld, isReadWithoutAComplaint) {
     EXPECT_EQ(10, state.Professions.highest());
     EXPECT_LE(25, state.Treasures.count());
     EXPECT_EQ(3, state.Characters.highest());
+}
+
+// What docs/guide.md tells players to try in the Vale of Larks.
+TEST_F(ShippedWorld, holdsTheGuidesExamples) {
+    const auto listed = [this](const orvinel::EliteChoice& choice) {
+        QStringList texts;
+        for (const orvinel::ListEntry& entry : orvinel::eliteEntries(state, choice))
+            texts << entry.text;
+        return texts.join(u", "_s);
+    };
+    orvinel::EliteChoice choice;
+    choice.place = {1, 1, 0};
+    ASSERT_EQ(u"Vale of Larks"_s, orvinel::regionName(state, 1, 1));
+    ASSERT_EQ(u"Mira Dusk"_s, state.Characters[2]);
+    choice.profession = 1;
+    EXPECT_EQ(u"Oathsplitter [Bw], Wall of Spears [Bw]"_s, listed(choice));
+    choice.secondary = 5;
+    EXPECT_EQ(u"Mirrormere [Dw], Oathsplitter [Bw], The Quick Answer [Dw], Wall of Spears [Bw]"_s,
+              listed(choice));
+    choice.profession = 0;
+    choice.uncapturedOnly = true;
+    choice.character = 2;
+    choice.bossText = u"pell"_s;
+    EXPECT_EQ(u"Wall of Spears [Bw]"_s, listed(choice));
 }
 
 struct ScaledWorld : ShippedWorld {
