@@ -68,7 +68,7 @@ struct ShippedWorld : testing::Test {
             ASSERT_TRUE(file.open(QIODevice::ReadOnly));
             const QByteArray content = file.readAll();
             EXPECT_EQ(content.count('\n'), content.count("\r\n")) << file.fileName().toStdString();
-            const bool players = data.fileName() == u"Characters.txt";
+            const bool players = data.fileName().startsWith(u"Char");
             disk.put((players ? u"/o/Personal/"_s : u"/o/Data/"_s) + data.fileName(), content);
         }
     }
@@ -113,6 +113,21 @@ TEST_F(ShippedWorld, holdsTheGuidesExamples) {
     choice.character = 2;
     choice.bossText = u"pell"_s;
     EXPECT_EQ(u"Wall of Spears [Bw]"_s, listed(choice));
+}
+
+TEST_F(ShippedWorld, givesItsSampleCharactersSkillsThatExist) {
+    int captured = 0;
+    for (const char* name : {"/Data/Char01CapElite.txt", "/Data/Char02CapElite.txt"}) {
+        QFile file(folder() + QString::fromUtf8(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            const int id = line.trimmed().toInt();
+            EXPECT_TRUE(line.isEmpty() || state.EliteSkills[id].Exists) << id;
+            captured += line.isEmpty() ? 0 : 1;
+        }
+    }
+    EXPECT_LE(20, captured);
+    EXPECT_FALSE(QFile::exists(folder() + u"/Data/Char03CapElite.txt"_s));
 }
 
 struct ScaledWorld : ShippedWorld {
