@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QStyleOption>
 #include <QTest>
 #include <QToolTip>
 
@@ -39,6 +40,20 @@ TEST(ItemCombo, selectingFromCodeRunsTheHandlerExactlyOnceAlsoForTheSameEntry) {
     EXPECT_EQ(2, picks);
     combo.select(9);
     EXPECT_EQ(-1, combo.currentIndex());
+}
+
+TEST(ItemCombo, theNarrowestOfThePanelShowsItsFirstEntryInEachLanguage) {
+    ItemCombo combo(u"cmbCampaign"_s, nullptr);
+    combo.setFont(arial(points8_25));
+    combo.resize(81, 22);
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    const auto place = [&](QStyle::SubControl part) {
+        return combo.style()->subControlRect(QStyle::CC_ComboBox, &option, part, &combo);
+    };
+    const int text = combo.fontMetrics().horizontalAdvance(u"<<< Tutti >>>"_s);
+    EXPECT_LE(text + 2, place(QStyle::SC_ComboBoxEditField).width());
+    EXPECT_LT(place(QStyle::SC_ComboBoxEditField).right(), place(QStyle::SC_ComboBoxArrow).center().x());
 }
 
 TEST(ItemCombo, aRowOfTheOpenListChosenByAScreenReaderIsPicked) {

@@ -57,13 +57,17 @@ class ProgramStyle : public QProxyStyle {
         const auto shown = withFocusShown<QStyleOptionComboBox>(*option);
         QProxyStyle::drawComplexControl(control, &shown, painter, widget);
     }
-    // The narrow drop-down lists of the panel would cut off the end of "<<< None >>>" otherwise.
+    // The narrow drop-down lists of the panel would cut off the end of "<<< Tutti >>>" otherwise.
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget) const override {
-        const QRect place = QProxyStyle::subControlRect(control, option, part, widget);
-        const bool text = control == CC_ComboBox && part == SC_ComboBoxEditField;
-        const bool leftToRight = option->direction == Qt::LeftToRight;
-        return text ? place.adjusted(leftToRight ? 0 : -5, 0, leftToRight ? 5 : 0, 0) : place;
+        QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+        if (control != CC_ComboBox || option->direction != Qt::LeftToRight)
+            return place;
+        if (part == SC_ComboBoxEditField)
+            place.adjust(-2, 0, 10, 0);
+        if (part == SC_ComboBoxArrow)
+            place.adjust(6, 0, 0, 0);
+        return place;
     }
     // An option or a check box is clicked anywhere in its place, and read out as being that large.
     QRect subElementRect(SubElement element, const QStyleOption* option,
