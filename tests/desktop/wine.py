@@ -27,7 +27,7 @@ def shipped(folder):
             (shutil.copytree if part.is_dir() else shutil.copy2)(part, folder / part.name)
     check = subprocess.run(["wine", folder / "orvinel-check.exe", folder, "--summary"], capture_output=True, text=True)
     assert check.returncode == 0, f"orvinel-check ends with {check.returncode}: {check.stdout}{check.stderr}"
-    journeys.options(folder, Campaign=0, Region=1)
+    journeys.options(folder, Campaign=2, Region=1)
     with Player(folder) as player:
         until("a region in many colours", lambda: len(set(zip(*[iter(pixels(*player.view((50, 50)), 300, 300))] * 3))) > 500)
         player.quit()
@@ -38,7 +38,8 @@ ELSEWHERE = [journeys.cannot_write, journeys.shell]
 ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE)]
 
 
-def main():
+def main(script, errands):
+    """Runs the errands on a screen of their own, with a Wine that knows nothing but them."""
     if not PROGRAM.exists():
         print("skipped, not built: the program for Windows (packaging/windows/build)")
         return 77
@@ -50,17 +51,17 @@ def main():
     Running.launcher = ["wine"]
     Running.program = "orvinel.exe"
     if "ORVINEL_JOURNEYS" not in os.environ:
-        return journeys.main(__file__, ERRANDS)
+        return journeys.main(script, errands)
     PREFIX.mkdir(exist_ok=True)
     try:
         if not (PREFIX / "system.reg").exists():
             # Into no pipe: what it starts stays, and with it the pipe's other end.
             subprocess.run(["wineboot", "--init"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         subprocess.run(["wineserver", "--persistent"])
-        return journeys.main(__file__, ERRANDS)
+        return journeys.main(script, errands)
     finally:
         subprocess.run(["wineserver", "--kill"])
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(__file__, ERRANDS))

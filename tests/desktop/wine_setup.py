@@ -1,0 +1,362 @@
+#!/usr/bin/env python3
+"""wine_setup.py PROGRAM: the setup for Windows under Wine, from the first installation to the last.
+
+PROGRAM lies in the folder that packaging/windows/build has made; a version that came before it is made up from that
+folder. Exit code 77: Wine, the folder or a tool is missing.
+"""
+
+import functools
+import hashlib
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import journeys
+import wine
+from journeys import PROGRAM, Player, content, crlf, options, write_note
+from screen import Running, click, keys, pixels, until
+
+PACKAGING = pathlib.Path(__file__).resolve().parents[2] / "packaging"
+NAME = "Campaign.03.Sunhollow"
+MENU = "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Orvinel"
+LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Orvinel"
+REFUSED = 2
+NOTE = crlf("Well\tdeep\t100\t200\t3\t1")
+
+
+# A program that lets nobody else have a file until its input ends.
+HOLDING = b"""
+#include <stdio.h>
+#include <windows.h>
+int main(int count, char** words) {
+    if (CreateFileA(words[1], GENERIC_READ, 0, 0, OPEN_EXISTING, 0, 0) != INVALID_HANDLE_VALUE)
+        fputs("held", stdout);
+    fclose(stdout);
+    return getchar();
+}
+"""
+
+
+# Packages
+
+
+def new_package(folder):
+    """A part of the world is enough."""
+    shutil.copytree(PROGRAM.parent, folder, ignore=shutil.ignore_patterns("Campaign.01*", "Campaign.02*", "Installed.txt"))
+
+
+def old_package(folder):
+    new_package(folder)
+    (folder / "Data/History.txt").write_text("the old one")
+    for path in (folder / "Data/Language.txt", *folder.glob("Data/Languages/*.txt")):
+        path.write_bytes(path.read_bytes() + crlf("201\tOld"))
+    zones = folder / NAME / "Zones.txt"
+    zones.write_bytes(zones.read_bytes() + crlf("; old"))
+    (folder / "licences/Former.txt").write_text("of a library that is used no more")
+    (folder / "Campaign.02.Former").mkdir()
+    (folder / "Campaign.02.Former/Regions.txt").write_bytes(crlf("1\tGone"))
+
+
+@functools.cache
+def setup(version):
+    """The setup of the version, and the sums of what it brings."""
+    made = pathlib.Path(tempfile.mkdtemp(dir=wine.PREFIX))
+    folder = made / "Orvinel"
+    (old_package if version == "3.9.0" else new_package)(folder)
+    subprocess.run([PACKAGING / "list-installed", folder, version], check=True)
+    output = made / f"Orvinel-{version}-setup.exe"
+    subprocess.run([PACKAGING / "windows/make-setup", folder, output, "-DQUICK"], check=True)
+    sums = everything(folder)
+    shutil.rmtree(folder)
+    return output, sums
+
+
+OLD, NEW = "3.9.0", "4.0.0"
+
+
+# What a player does
+
+
+def windows_path(folder):
+    return "Z:" + str(folder).replace("/", "\\")
+
+
+def start_setup(version, folder):
+    # Windows wants the folder last and without quotes; Python would write them.
+    return subprocess.Popen(["wine", str(setup(version)[0]), "/S", *f"/D={windows_path(folder)}".split(" ")],
+                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+def install(version, folder, code=0):
+    ended = start_setup(version, folder).wait(timeout=120)
+    assert ended == code, f"setup {version} ends with {ended} instead of {code}"
+
+
+def uninstall(folder):
+    subprocess.run(["wine", folder / "Uninstall.exe", "/S"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    until("the end of the uninstaller", lambda: not listed())
+    until("the end of its files", lambda: not (folder / "orvinel.exe").exists())
+
+
+def listed():
+    """The entry in the list of programs."""
+    said = subprocess.run(["wine", "reg", "query", LISTED], capture_output=True, text=True).stdout
+    rows = [line.strip().split("    ", 2) for line in said.splitlines() if line.startswith("    ")]
+    return {row[0]: row[-1] for row in rows if len(row) == 3}
+
+
+def menu():
+    users = [user for user in (wine.PREFIX / "drive_c/users").iterdir() if (user / MENU).exists()]
+    return sorted(path.stem for path in (users[0] / MENU).iterdir()) if users else []
+
+
+def everything(folder):
+    return {str(path.relative_to(folder)): hashlib.sha256(path.read_bytes()).hexdigest()
+            for path in folder.rglob("*") if path.is_file()}
+
+
+def holds_version(version, folder, but=()):
+    """All that the version brings is there, and nothing of another; `but`: the files that are the player's."""
+    there = everything(folder)
+    wanted = {path: s for path, s in setup(version)[1].items() if path not in but and path != "Data/Characters.txt"}
+    extra = {path for path in there if path not in setup(version)[1] and path not in but and path != "Uninstall.exe"
+             and not path.startswith("Personal/")}
+    wrong = [path for path, s in wanted.items() if there.get(path) != s]
+    assert not wrong, f"not as version {version} brings it: {wrong[:5]}"
+    assert not extra, f"too much for version {version}: {sorted(extra)[:5]}"
+
+
+def with_personal(folder):
+    (folder / "Personal").mkdir()
+    (folder / "Personal/Notes.txt").write_bytes(NOTE)
+
+
+def resources(program):
+    """What the system reads of a program without starting it: number of the kind -> the contents."""
+    data = program.read_bytes()
+    header = int.from_bytes(data[0x3C:0x40], "little")
+    number = lambda at, size=4: int.from_bytes(data[at:at + size], "little")
+    first = header + 24 + number(header + 20, 2)
+    sections = [first + 40 * i for i in range(number(header + 6, 2))]
+    start = next(at for at in sections if data[at:at + 8].rstrip(b"\0") == b".rsrc")
+    address, base = number(start + 12), number(start + 20)
+
+    def leaves(at):
+        for i in range(number(at + 12, 2) + number(at + 14, 2)):
+            child = number(at + 16 + 8 * i + 4)
+            if child & 0x80000000:
+                yield from leaves(base + (child & 0x7FFFFFFF))
+            else:
+                where = base + number(base + child) - address
+                yield data[where:where + number(base + child + 4)]
+
+    kinds = range(number(base + 12, 2), number(base + 12, 2) + number(base + 14, 2))
+    return {number(base + 16 + 8 * i): list(leaves(base + (number(base + 16 + 8 * i + 4) & 0x7FFFFFFF))) for i in kinds}
+
+
+# Errands
+
+
+def shown_by_the_system(folder):
+    """Icon, version and manifest of every program."""
+    version = content(PROGRAM.parent / "Data/Version.txt").decode().strip()
+    for program in (*PROGRAM.parent.glob("*.exe"), setup(NEW)[0]):
+        kinds = resources(program)
+        sizes = {kinds[14][0][6 + 14 * i] for i in range(kinds[14][0][4])}
+        assert {16, 32, 48, 0} <= sizes, f"{program.name}: icons of {sizes} pixels; 0 is 256"
+        told = kinds[16][0].decode("utf-16-le", "replace")
+        for wanted in ("Orvinel", "The Orvinel authors", version):
+            assert f"\0{wanted}\0" in told, f"{program.name} does not tell {wanted}"
+        manifest = kinds[24][0].decode()
+        for wanted in ("true</longPathAware>", "dpiAware>true", 'level="asInvoker"',
+                       "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"):
+            assert wanted in manifest, f"{program.name}: the manifest lacks {wanted}"
+
+
+def a_players_year(folder):
+    """Install, write a note, update, find the note, go."""
+    place = folder / "Players of old" / "Orvinel"
+    install(OLD, place)
+    holds_version(OLD, place)
+    entry = listed()
+    assert entry["DisplayVersion"] == OLD and int(entry["EstimatedSize"], 16) > 10000, entry
+    assert entry["InstallLocation"] == windows_path(place), entry
+    assert {"Orvinel", "Guide", "Uninstall Orvinel"} == set(menu()), menu()
+    options(place, Campaign=3, Region=1)
+    with Player(place) as player:
+        until("a region in many colours", lambda: len(set(zip(*[iter(pixels(*player.view((50, 50)), 300, 300))] * 3))) > 500)
+        popup = player.popup(lambda: click(*player.view((20, 20)), times=2))
+        popup.click(20, popup.height // 6)
+        dialog = player.dialog("Notes")
+        write_note(dialog, "Well", ["deep"])
+        player.gone(dialog)
+        player.quit()
+    own = ("Data/Options.txt", "Personal/Notes.txt")
+    before = {name: content(place / name) for name in own}
+    assert before[own[1]].startswith(b"Well\tdeep\t"), before
+
+    install(NEW, place)
+    holds_version(NEW, place, but=own)
+    assert not (place / "Campaign.02.Former").exists() and not (place / "Setup.tmp").exists()
+    assert {name: content(place / name) for name in own} == before
+    assert listed()["DisplayVersion"] == NEW
+    with Player(place) as player:
+        player.quit()
+
+    before[own[0]] = content(place / own[0])
+    install(OLD, place, REFUSED)
+    holds_version(NEW, place, but=own)
+    uninstall(place)
+    assert {name: content(place / name) for name in own} == before
+    left = {path.split("/")[0] for path in everything(place)}
+    assert left == {"Personal", "Data"} and menu() == [], (left, menu())
+
+
+def what_is_the_players(folder):
+    install(OLD, folder)
+    with_personal(folder)
+    changed = {NAME + "/Zones.txt": b"mine", NAME + "/More.txt": b"mine", "Data/Languages/Italiano.txt": b"mine",
+               "Data/Languages/Mine.txt": b"mine", "Campaign.04.Mine/Regions.txt": crlf("1\tHome")}
+    shutil.rmtree(next(folder.glob("Campaign.04.*")))
+    (folder / "Campaign.04.Mine").mkdir()
+    for name, text in changed.items():
+        (folder / name).write_bytes(text)
+    shutil.copy(folder / "Data/Languages/Deutsch.txt", folder / "Data/Language.txt")
+    campaign = {path: s for path, s in everything(folder).items() if path.startswith(NAME)}
+    for _ in range(2):
+        install(NEW, folder)
+        assert {name: content(folder / name) for name in changed} == changed
+        assert {path: s for path, s in everything(folder).items() if path.startswith(NAME)} == campaign
+        assert [path.name for path in folder.glob("Campaign.04.*")] == ["Campaign.04.Mine"]
+        assert content(folder / "Data/Language.txt") == content(PROGRAM.parent / "Data/Languages/Deutsch.txt")
+        assert content(folder / "Data/History.txt") == content(PROGRAM.parent / "Data/History.txt")
+    (folder / "Data/Language.txt").write_bytes(crlf("1\tMine"))
+    install(NEW, folder)
+    assert content(folder / "Data/Language.txt") == crlf("1\tMine")
+    uninstall(folder)
+    assert set(everything(folder)) == {*changed, "Data/Language.txt", "Personal/Notes.txt"}, everything(folder)
+
+
+def by_hand(folder):
+    """The windows, in Italian; the program then speaks Italian too."""
+    place = next((wine.PREFIX / "drive_c/users").glob("[!P]*")) / "AppData/Local/Programs/Orvinel"
+    shutil.rmtree(place, ignore_errors=True)
+    subprocess.run(["wine", "reg", "delete", LISTED, "/f"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    Running.program, before = setup(NEW)[0], Running.program
+    try:
+        with Running(folder) as running:
+            running.dialog("Installer Language")
+            keys("Down", "Return")
+            running.dialog("Installazione di Orvinel")
+            for _ in range(2):
+                keys("Return")
+                time.sleep(1)
+            until("the installed program", lambda: (place / "Uninstall.exe").exists() and "Guida" in menu(), 60)
+            until("the last page", lambda: listed().get("Language") == "1040", 60)
+            running.process.kill()
+    finally:
+        Running.program = before
+    italian = "Data/Language.txt"
+    assert content(place / italian) == content(place / "Data/Languages/Italiano.txt")
+    holds_version(NEW, place, but=[italian])
+    install(NEW, place)
+    assert content(place / italian) == content(place / "Data/Languages/Italiano.txt")
+    uninstall(place)
+    assert not place.exists(), everything(place)
+
+
+def while_it_runs(folder):
+    install(OLD, folder)
+    options(folder, Campaign=1, Region=1)
+    with Player(folder) as player:
+        before = everything(folder)
+        install(NEW, folder, REFUSED)
+        subprocess.run(["wine", folder / "Uninstall.exe", "/S"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        time.sleep(2)
+        assert everything(folder) == before, "something has changed under the running program"
+        player.quit()
+    install(NEW, folder)
+    holds_version(NEW, folder, but=["Data/Options.txt"])
+    uninstall(folder)
+
+
+def cannot_be_finished(folder):
+    """A file that another program holds: all that was replaced before it comes back."""
+    install(OLD, folder)
+    with_personal(folder)
+    before = everything(folder)
+    holding = folder.parent / "holding.exe"
+    subprocess.run(["x86_64-w64-mingw32-gcc-posix", "-x", "c", "-", "-o", holding], input=HOLDING, check=True)
+    holder = subprocess.Popen(["wine", holding, windows_path(folder / "licences/Orvinel.txt")], stdin=subprocess.PIPE,
+                              stdout=subprocess.PIPE)
+    try:
+        assert holder.stdout.read(4) == b"held"
+        install(NEW, folder, REFUSED)
+        assert everything(folder) == before, "not as it was before"
+    finally:
+        holder.communicate()
+        holding.unlink()
+    install(NEW, folder)
+    holds_version(NEW, folder)
+    uninstall(folder)
+
+
+def cut_off(folder):
+    """Killed while it replaces: the next setup takes it back first, then does its own."""
+    halves = 0
+    for delay in (0, 0.01, 0.03, 0.06, 0.1, 0.2):
+        place = folder / str(delay)
+        install(OLD, place)
+        with_personal(place)
+        running = start_setup(NEW, place)
+        until("the beginning", lambda: (place / "Setup.tmp/begun").exists() or running.poll() is not None, 60)
+        time.sleep(delay)
+        running.kill()
+        running.wait()
+        half = (place / "Setup.tmp/begun").exists()
+        halves += half
+        install(OLD, place, 0 if half else REFUSED)
+        holds_version(OLD if half else NEW, place)
+        assert content(place / "Personal/Notes.txt") == NOTE and not (place / "Setup.tmp").exists()
+    print(f"  {halves} times in the middle")
+    assert halves, "never killed in the middle"
+    uninstall(place)
+
+
+def no_place(folder):
+    """Where nothing may be written, and where there is too little room."""
+    install(NEW, pathlib.Path("/proc/Orvinel"), REFUSED)
+    room = sum(path.stat().st_size for path in PROGRAM.parent.rglob("*") if path.is_file()) * 5 // 4
+    mount = ["mount", "-t", "tmpfs", "-o", f"size={room}", "tmpfs", str(folder)]
+    if subprocess.run(mount, capture_output=True).returncode != 0:
+        print("  mounting is not allowed here: the full disk is left out")
+        return
+    try:
+        install(OLD, folder)
+        with_personal(folder)
+        before = everything(folder)
+        (folder / "filler").write_bytes(bytes(max(0, shutil.disk_usage(folder).free - 8 * 1024 * 1024)))
+        install(NEW, folder, REFUSED)
+        (folder / "filler").unlink()
+        assert everything(folder) == before, "a full disk changed something"
+        uninstall(folder)
+    finally:
+        subprocess.run(["umount", str(folder)])
+
+
+ERRANDS = [shown_by_the_system, a_players_year, what_is_the_players, by_hand, while_it_runs, cannot_be_finished, cut_off, no_place]
+
+
+def main():
+    if not shutil.which("makensis"):
+        print("skipped, not installed: nsis")
+        return 77
+    wine.PREFIX = PROGRAM.parent.parent / "wine-setup"
+    return wine.main(__file__, ERRANDS)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
