@@ -6,6 +6,7 @@
 #include "ui/dialogs/frmManageNote.h"
 #include "ui/dialogs/frmMarkEliteAsCaptured.h"
 #include "ui/dialogs/frmMarkTreasureAsOpened.h"
+#include "ui/platform/DialogPlace.h"
 
 namespace orvinel {
 
@@ -102,8 +103,7 @@ void Program::act(MenuAction action) {
     case MenuAction::HomePage:
         return ShowStartPage();
     case MenuAction::Credits:
-        frmCredits(dialogContext(), panel_.get()).exec();
-        return;
+        return OpenCredits();
     case MenuAction::History:
         return ShowHistory();
     case MenuAction::Guide:
@@ -144,32 +144,70 @@ void Program::applyAlwaysOnTop() {
 }
 
 void Program::OpenCharacterList() {
-    frmCharacterList(dialogContext(), panel_.get()).exec();
+    frmCharacterList dialog(dialogContext(), panel_.get());
+    dialog.setAsked(placeOnDesktop(panel_->menuBar()));
+    dialog.exec();
     panel_->elitePage().optCapture[0]->setChecked(true);
     panel_->FillCharacterList();
+    if (capture_)
+        capture_->follow();
+}
+
+void Program::OpenCredits() {
+    frmCredits dialog(dialogContext(), panel_.get());
+    dialog.setAsked(placeOnDesktop(panel_->menuBar()));
+    dialog.exec();
 }
 
 DialogContext Program::dialogContext() {
     return {state_, files_, desktop_, panel_->MenuAlwaysOnTop};
 }
 
+// A marker's surroundings as far as it is in view, else the middle of the map.
+QRect Program::onMap(MapPoint place) {
+    constexpr int reach = 10; // pixels of the region picture
+    const MapViewport& view = map_->picMap();
+    const QRect marker =
+        view.toWidget(QRect(place.point(), QSize(1, 1)).adjusted(-reach, -reach, reach, reach));
+    const QRect seen = view.rect().intersects(marker) ? marker : QRect(view.rect().center(), QSize(1, 1));
+    return {view.mapToGlobal(seen.topLeft()), seen.size()};
+}
+
 void Program::openCapture(int eliteId, bool fromMap) {
+    if (capture_ && capture_->isVisible() && !fromMap) {
+        showCapture(*capture_, eliteId, {});
+        capture_->raise();
+        capture_->activateWindow();
+        return;
+    }
+    delete capture_;
     QWidget* owner = fromMap ? static_cast<QWidget*>(map_) : panel_.get();
-    auto* dialog = new frmMarkEliteAsCaptured(
+    capture_ = new frmMarkEliteAsCaptured(
         dialogContext(), [this] { layers_->elites.FilterEliteSkills(true); }, owner);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->SetEliteNumber(eliteId);
-    dialog->SetCharacter(panel_->elitePage().cmbCharacter->data());
-    if (fromMap)
-        dialog->exec();
+    capture_->setAttribute(Qt::WA_DeleteOnClose);
+    capture_->setModal(fromMap);
+    showCapture(*capture_, eliteId,
+                fromMap ? onMap(map_->toMap(map_->lastPress()))
+                        : placeOnDesktop(*panel_->elitePage().lstElite));
+}
+
+void Program::showCapture(frmMarkEliteAsCaptured& dialog, int eliteId, const QRect& asked) {
+    dialog.SetCharacter(panel_->elitePage().cmbCharacter->data());
+    dialog.SetEliteNumber(eliteId);
+    if (dialog.isVisible())
+        return;
+    dialog.setAsked(asked);
+    if (dialog.isModal())
+        dialog.exec();
     else
-        dialog->show();
+        dialog.show();
 }
 
 void Program::openTreasure(int index) {
     frmMarkTreasureAsOpened dialog(
         dialogContext(), [this] { layers_->treasures.FilterTreasures(true); }, map_);
     dialog.SetTreasureNumber(index);
+    dialog.setAsked(onMap(map_->toMap(map_->lastPress())));
     dialog.exec();
 }
 
@@ -180,6 +218,7 @@ int Program::editNote(const NoteRequest& request) {
     dialog.SetNote(request.note);
     dialog.SetCampaign(request.campaign);
     dialog.SetRegion(request.region);
+    dialog.setAsked(onMap(request.at));
     dialog.exec();
     return dialog.savedNote();
 }

@@ -15,11 +15,15 @@
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
 
+#include <QPointer>
+
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace orvinel {
+
+class frmMarkEliteAsCaptured;
 
 // The whole program: its state, its windows, and what connects them.
 class Program : public QObject {
@@ -84,6 +88,7 @@ class Program : public QObject {
     void ToggleAlwaysOnTop();
     void applyAlwaysOnTop();
     void OpenCharacterList();
+    void OpenCredits();
 
     // The keyboard (ProgramKeys.cpp).
     void wireKeys();
@@ -92,8 +97,12 @@ class Program : public QObject {
 
     // The dialogs that the map and the lists open (ProgramMenus.cpp).
     DialogContext dialogContext();
+    // One window: what is asked for next takes its place.
     void openCapture(int eliteId, bool fromMap);
+    void showCapture(frmMarkEliteAsCaptured& dialog, int eliteId, const QRect& asked);
     void openTreasure(int index);
+    // What lies there, on the desktop.
+    QRect onMap(MapPoint place);
     int editNote(const NoteRequest& request);
 
     ProgramState state_;
@@ -118,6 +127,7 @@ class Program : public QObject {
     std::unique_ptr<MapMenus> mapMenus_;
     std::unique_ptr<Flashing> flashing_;
     std::unique_ptr<WindowKeys> keys_;
+    QPointer<frmMarkEliteAsCaptured> capture_; // while it is open
 };
 
 } // namespace orvinel

@@ -42,6 +42,8 @@ QString builtInText(Caption caption) {
         return u"Nothing can be saved: you may not write to the folder %1.\n\nMove Orvinel to a folder of "
                u"your own, "
                "or install it there."_s;
+    case Caption::NobodyLeft:
+        return u"No character is left who could capture this skill."_s;
     default:
         return {};
     }

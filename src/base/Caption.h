@@ -141,6 +141,7 @@ enum class Caption : int {
     CastTime = 217,            // "Casting time"
     TooMuchData = 218,         // "The data is larger than the program can hold. These files were left out:"
     ReadOnlyFolder = 219,      // "Nothing can be saved: you may not write to the folder %1. ..."
+    NobodyLeft = 220,          // "No character is left who could capture this skill."
 
     LanguageCode = 301, // "en"
 };

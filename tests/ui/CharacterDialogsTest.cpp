@@ -72,6 +72,27 @@ TEST_F(MarkElite, doesNotMarkForACharacterThatWasDeletedMeanwhile) {
     EXPECT_FALSE(save().isEnabled());
 }
 
+TEST_F(MarkElite, takesTheNextSkillAndFollowsCapturesMadeElsewhereToTheLast) {
+    open(5, 2);
+    dialog.SetCharacter(0);
+    dialog.SetEliteNumber(3);
+    EXPECT_EQ(u"Elite: Cedar"_s, dialog.windowTitle());
+    EXPECT_THAT(texts(characters()), ElementsAre(u"Maren"_s, u"Ysk"_s));
+    EXPECT_FALSE(save().isEnabled());
+    characters().select(1);
+    state.EliteSkills[3].Captured[2] = true;
+    dialog.follow();
+    EXPECT_EQ(3, characters().selectedEntry().data);
+    EXPECT_TRUE(save().isEnabled());
+    state.EliteSkills[3].Captured[3] = true;
+    dialog.follow();
+    EXPECT_EQ(0, characters().count());
+    EXPECT_FALSE(save().isEnabled());
+    EXPECT_EQ(state.text(Caption::NobodyLeft), dialog.findChild<QLabel*>(u"lblExplanation"_s)->text());
+    dialog.SetEliteNumber(5);
+    EXPECT_EQ(state.text(Caption::ChooseCapturer), dialog.findChild<QLabel*>(u"lblExplanation"_s)->text());
+}
+
 TEST_F(MarkElite, refusesASkillWhoseNumberTheFileCannotHold) {
     state.EliteSkills.grow(10002);
     open(10002, 1);
@@ -149,8 +170,10 @@ TEST_F(ManageCharacter, refusesABadNameAndPutsTheFocusBackIntoIt) {
     press("cmdSave");
     EXPECT_EQ(u"message Critical Orvinel|text 28"_s, desktop.log.last());
     EXPECT_EQ(&name(), dialog.focusWidget());
+    EXPECT_EQ(u"  "_s, name().selectedText());
     name().setText(u"ALDRIC"_s);
     press("cmdSave");
+    EXPECT_EQ(u"ALDRIC"_s, name().selectedText());
     EXPECT_EQ(u"message Critical Orvinel|text 29"_s, desktop.log.last());
     EXPECT_TRUE(dialog.isVisible());
     name().setText(u"MAREN"_s);

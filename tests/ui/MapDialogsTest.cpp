@@ -67,6 +67,7 @@ TEST_F(ManageNote, refusesATitleThatCouldNotBeReadBack) {
     EXPECT_EQ(&title(), dialog.focusWidget());
     title().setText(u"; later"_s);
     save();
+    EXPECT_EQ(u"; later"_s, title().selectedText());
     EXPECT_EQ(u"message Critical Orvinel|"_s + state.text(Caption::TitleIsComment), desktop.log.last());
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_TRUE(disk.log.empty());

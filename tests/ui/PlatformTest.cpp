@@ -1,4 +1,5 @@
 #include "support/Printing.h"
+#include "ui/platform/DialogPlace.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/EndSignals.h"
 #include "ui/platform/Fonts.h"
@@ -215,6 +216,31 @@ TEST(Label, showsEveryLetterOfItsCaptionWhateverItNames) {
     EXPECT_EQ(plain.grab().toImage(), naming.grab().toImage());
     EXPECT_EQ(u"Type & hand"_s, named.accessibleName());
     EXPECT_EQ(u"Type & hand"_s, named.accessibleDescription()) << "in place of the label";
+}
+
+TEST(DialogPlace, isBesideThePanelNearTheRowAndNeverOutsideTheScreen) {
+    const QRect screen(0, 0, 1280, 1024);
+    const QRect panel(0, 0, 217, 1000);
+    const QSize dialog(330, 285);
+    const auto at = [&](const QRect& asked) { return placeBeside(dialog, asked, panel, screen); };
+    EXPECT_EQ(QPoint(225, 364), at({10, 500, 190, 14}));
+    EXPECT_EQ(QPoint(225, 0), at({10, 20, 40, 14}));
+    EXPECT_EQ(1024 - 285, at({10, 980, 190, 14}).y());
+    EXPECT_EQ(QPoint(528, 364), at({500, 500, 20, 14})); // a marker on the map
+    EXPECT_EQ(1200 - 8 - 330, at({1200, 500, 20, 14}).x());
+    // A panel at the right edge has its dialogs on the left; between panel and edge a map's dialog stays.
+    EXPECT_EQ(1000 - 8 - 330,
+              placeBeside(dialog, {1010, 500, 190, 14}, panel.translated(1000, 0), screen).x());
+    EXPECT_EQ(1280 - 330, placeBeside(dialog, {1250, 500, 20, 14}, panel.translated(960, 0), screen).x());
+}
+
+TEST(DialogPlace, overAnotherWindowKeepsOffThePanelToo) {
+    const QRect screen(1280, 0, 1280, 1024);
+    const QRect panel(1280, 0, 217, 1000);
+    const auto at = [&](const QRect& owner) { return placeOver({450, 150}, owner, panel, screen); };
+    EXPECT_EQ(QPoint(1280 + 225, 224), at({1505, 200, 330, 200}));
+    EXPECT_EQ(QPoint(1280 + 574, 424), at({1497 + 83, 0, 1000, 1000}));
+    EXPECT_EQ(2560 - 450, at({2500, 0, 400, 1000}).x());
 }
 
 TEST(SmallCheckBox, aScreenReaderSwitchesItsValue) {

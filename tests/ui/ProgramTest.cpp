@@ -1,6 +1,10 @@
 #include "app/modOrvinel.h"
 #include "support/MemoryDisk.h"
 #include "support/RecordingDesktop.h"
+#include "ui/dialogs/frmMarkEliteAsCaptured.h"
+#include "ui/platform/ListBox.h"
+
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -160,6 +164,38 @@ TEST_F(ProgramTest, aLegendThatNoScreenShowsStandsAtTheMapsCornerAndItsPlaceIsKe
     program->QuitProgram();
     EXPECT_EQ(u"75000"_s, option("LegendX"));
     EXPECT_EQ(u"1500"_s, option("LegendY"));
+}
+
+TEST_F(ProgramTest, oneCaptureDialogTakesOneSkillAfterTheOtherBesideTheList) {
+    disk.putFolder(u"/o/Campaign.00.Core"_s);
+    const auto putFile = [this](const char* name, const char* text) {
+        disk.put(u"/o/Campaign.01.Ash/"_s + QLatin1String(name), text);
+    };
+    putFile("Regions.txt", "1\tCoast\r\n");
+    putFile("Professions.txt", "1\tMage\t1\tM\tFire\r\n");
+    putFile("EliteList.txt", "1\t1\tFlare\tFire\tSpell\t0\t0\t5\t1/4\t120\tBurns.\r\n"
+                             "2\t1\tGust\tFire\tSpell\t0\t0\t5\t1/4\t120\tBlows.\r\n");
+    putFile("EliteLocations.txt", ";[Version]=2.0\r\n1\t1\t9\t9\tBront\t\t0\r\n2\t1\t9\t9\tGrim\t\t0\r\n");
+    disk.put(u"/o/Personal/Characters.txt"_s, "01\tAda\r\n");
+    ASSERT_TRUE(start());
+    ListBox& list = *program->panel().elitePage().lstElite;
+    ASSERT_EQ(2, list.count());
+    const auto capture = [&](int row) {
+        list.select(row);
+        emit list.activatedEntry();
+        return program->panel().findChildren<frmMarkEliteAsCaptured*>();
+    };
+    const auto dialogs = capture(0);
+    ASSERT_EQ(1, dialogs.size());
+    EXPECT_GE(dialogs[0]->x(), program->panel().x() + program->panel().width());
+    EXPECT_EQ(dialogs, capture(1));
+    EXPECT_EQ(u"Elite: Gust"_s, dialogs[0]->windowTitle());
+    dialogs[0]->findChild<ListBox*>(u"lstCharacters"_s)->select(0);
+    dialogs[0]->findChild<QPushButton*>(u"cmdSave"_s)->click();
+    EXPECT_FALSE(dialogs[0]->isVisible());
+    EXPECT_TRUE(program->state().EliteSkills[2].capturedBy(1));
+    ASSERT_FALSE(capture(0).isEmpty());
+    EXPECT_TRUE(capture(0).last()->isVisible());
 }
 
 TEST_F(ProgramTest, helpAndHomeOpenThePagesThatCameWithTheProgramAndSayWhereOneIsMissing) {

@@ -1,11 +1,13 @@
 #include "ui/dialogs/Dialog.h"
 
 #include "app/modLanguage.h"
+#include "ui/platform/DialogPlace.h"
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
@@ -71,16 +73,31 @@ void Dialog::tellProblem(const QString& text) {
     desktop().message(MessageIcon::Critical, programName(), text);
 }
 
+// The field has its focus back, or never lost it: neither selects what the window's return finds there.
+void Dialog::tellProblem(const QString& text, QLineEdit& field) {
+    tellProblem(text);
+    field.setFocus();
+    field.selectAll();
+}
+
 void Dialog::done(int result) {
     QDialog::done(result);
     if (parentWidget())
         parentWidget()->window()->activateWindow();
 }
 
+void Dialog::place() {
+    if (!asked_.isEmpty())
+        moveBeside(*this, asked_);
+    else if (qobject_cast<Dialog*>(parentWidget()))
+        moveOver(*this);
+}
+
 void Dialog::showEvent(QShowEvent* event) {
     if (!loaded_) {
         loaded_ = true;
         load();
+        place();
     }
     desktop().setAlwaysOnTop(*this, context_.alwaysOnTop == 1);
     keepOffTaskBar(*this);

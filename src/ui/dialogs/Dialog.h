@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QRect>
 
+class QLineEdit;
 class QPushButton;
 
 namespace orvinel {
@@ -31,6 +32,10 @@ class Dialog : public QDialog {
     // `name` is the window's fixed name; `client` pixels.
     Dialog(const QString& name, QSize client, DialogContext context, QWidget* owner);
 
+    // What on the desktop (pixels) asks for the dialog, which opens beside it; to be called before it is
+    // shown. Otherwise a dialog of another dialog opens over that.
+    void setAsked(const QRect& place) { asked_ = place; }
+
     // Gives the keyboard back to the owner: the window manager might give it to the task bar's window.
     void done(int result) override;
 
@@ -54,11 +59,16 @@ class Dialog : public QDialog {
 
     // Of the program, with an OK button.
     void tellProblem(const QString& text);
+    // The same about what is in a field, which is then to be typed anew.
+    void tellProblem(const QString& text, QLineEdit& field);
 
     void showEvent(QShowEvent* event) override;
 
   private:
+    void place();
+
     DialogContext context_;
+    QRect asked_;
     QString letters_; // of the buttons, lower case
     bool loaded_ = false;
 };

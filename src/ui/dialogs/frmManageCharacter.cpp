@@ -125,8 +125,8 @@ void frmManageCharacter::invert() {
 bool frmManageCharacter::checkEntries() {
     const NameProblem problem = checkName(state(), txtName_->line(), character_);
     if (problem != NameProblem::None) {
-        tellProblem(state().text(problem == NameProblem::Empty ? Caption::NameMissing : Caption::NameTaken));
-        txtName_->setFocus();
+        tellProblem(state().text(problem == NameProblem::Empty ? Caption::NameMissing : Caption::NameTaken),
+                    *txtName_);
         return false;
     }
     if (character_ < 1 && freeCharacterNumber(state()) > mostCharacters) {

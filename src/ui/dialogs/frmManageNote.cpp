@@ -65,9 +65,9 @@ bool frmManageNote::checkTitle() {
     const NoteProblem problem = checkNote(txtShortDesc_->line());
     if (problem == NoteProblem::None)
         return true;
-    tellProblem(problem == NoteProblem::EmptyTitle ? state().text(Caption::TitleMissing)
-                                                   : state().text(Caption::TitleIsComment));
-    txtShortDesc_->setFocus();
+    tellProblem(
+        state().text(problem == NoteProblem::EmptyTitle ? Caption::TitleMissing : Caption::TitleIsComment),
+        *txtShortDesc_);
     return false;
 }
 

@@ -31,9 +31,8 @@ frmMarkEliteAsCaptured::frmMarkEliteAsCaptured(DialogContext context, std::funct
     : Dialog(u"frmMarkEliteAsCaptured"_s, client, context, owner), refilter_(std::move(refilter)) {
     addLabel(u"lblCharacters"_s, charactersLabelAt, state().text(Caption::Characters));
     lstCharacters_ = addList(u"lstCharacters"_s, charactersAt, state().text(Caption::Characters));
-    addLabel(u"lblExplanation"_s, explanationAt, state().text(Caption::ChooseCapturer))
-        ->setWrapWidth(explanationWidth);
-    lstCharacters_->setAccessibleDescription(state().text(Caption::ChooseCapturer));
+    lblExplanation_ = addLabel(u"lblExplanation"_s, explanationAt, {});
+    lblExplanation_->setWrapWidth(explanationWidth);
     cmdSave_ = addButton(u"cmdSave"_s, saveAt, state().text(Caption::Captured));
     auto* cmdCancel = addButton(u"cmdCancel"_s, cancelAt, state().text(Caption::Cancel));
     cmdSave_->setDefault(true);
@@ -42,17 +41,31 @@ frmMarkEliteAsCaptured::frmMarkEliteAsCaptured(DialogContext context, std::funct
     connect(cmdCancel, &QPushButton::clicked, this, &frmMarkEliteAsCaptured::reject);
 }
 
+void frmMarkEliteAsCaptured::SetEliteNumber(int id) {
+    skill_ = id;
+    if (isVisible())
+        load();
+}
+
 void frmMarkEliteAsCaptured::load() {
     setWindowTitle(u"Elite: "_s + state().EliteSkills[skill_].Name);
-    fillCharacters();
+    fillCharacters(chosen_);
     lstCharacters_->setFocus();
 }
 
-void frmMarkEliteAsCaptured::fillCharacters() {
+void frmMarkEliteAsCaptured::follow() {
+    fillCharacters(lstCharacters_->hasSelection() ? lstCharacters_->selectedEntry().data : 0);
+}
+
+void frmMarkEliteAsCaptured::fillCharacters(int wanted) {
     lstCharacters_->setEntries(charactersToCapture(state(), skill_));
     cmdSave_->setEnabled(false);
-    if (chosen_ > 0)
-        lstCharacters_->selectData(chosen_);
+    if (wanted > 0)
+        lstCharacters_->selectData(wanted);
+    const bool anybody = lstCharacters_->count() > 0;
+    const QString explanation = state().text(anybody ? Caption::ChooseCapturer : Caption::NobodyLeft);
+    lblExplanation_->setCaption(explanation);
+    lstCharacters_->setAccessibleDescription(explanation);
 }
 
 void frmMarkEliteAsCaptured::save() {
@@ -64,7 +77,7 @@ void frmMarkEliteAsCaptured::save() {
     const ListEntry character = lstCharacters_->selectedEntry();
     const std::vector<ListEntry> possible = charactersToCapture(state(), skill_);
     if (std::find(possible.begin(), possible.end(), character) == possible.end()) {
-        fillCharacters();
+        follow();
         return;
     }
     const auto capture = [&](bool evenIfChanged) {

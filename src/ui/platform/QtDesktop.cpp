@@ -1,7 +1,9 @@
 #include "ui/platform/QtDesktop.h"
 
+#include "ui/platform/DialogPlace.h"
 #include "ui/platform/SpokenRole.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -23,9 +25,34 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// Its size is known only when it appears.
+class Box : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        moveFromPanel();
+    }
+
+  private:
+    // Over its owner, but beside the panel, near what has the keyboard there.
+    void moveFromPanel() {
+        const QWidget* owner = parentWidget();
+        if (!owner || owner->parentWidget())
+            return moveOver(*this);
+        const QWidget* focus = owner->focusWidget();
+        moveBeside(*this, placeOnDesktop(focus ? *focus : *owner));
+    }
+};
+
 int runBox(QMessageBox::Icon icon, const QString& title, const QString& text,
            QMessageBox::StandardButtons buttons) {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    Box box(icon, title, text, buttons, QApplication::activeWindow());
+    // The system's theme has pictures for some buttons only.
+    for (QAbstractButton* button : box.buttons())
+        button->setIcon({});
     setSpokenRole(box, QAccessible::AlertMessage);
     box.setTextFormat(Qt::PlainText);
     QWidget* owner = QApplication::activeWindow();
