@@ -16,7 +16,7 @@ SKIPPED = 77
 class Page(html.parser.HTMLParser):
     def __init__(self, path):
         super().__init__()
-        self.links, self.anchors, self.language, self.images = [], set(), "", []
+        self.links, self.anchors, self.language, self.images, self.items = [], set(), "", [], 0
         self.feed(path.read_text(encoding="utf-8"))
 
     def handle_starttag(self, tag, attributes):
@@ -25,6 +25,7 @@ class Page(html.parser.HTMLParser):
             self.language = attributes.get("lang", "")
         self.anchors.add(attributes.get("id"))
         self.links += [attributes[name] for name in ("href", "src") if name in attributes]
+        self.items += tag in ("li", "tr", "pre")
         if tag == "img":
             self.images.append(attributes)
 
@@ -57,13 +58,13 @@ def faults(folder):
 
 
 def translated(folder, pages, language, name):
-    """A page in another language has the chapters and pictures of the English one, its own where windows are shown."""
+    """A page in another language has the chapters, entries and pictures of the English one."""
     path = folder / language / f"{name}.html"
     page, english = pages.get(path), pages[folder / f"{name}.html"]
     if not page or page.language != language:
         yield f"{language}/{name}.html: missing, or in another language"
-    elif len(page.images) != len(english.images) or len(page.anchors) != len(english.anchors):
-        yield f"{language}/{name}.html: other chapters or pictures than the English page"
+    elif [len(page.images), len(page.anchors), page.items] != [len(english.images), len(english.anchors), english.items]:
+        yield f"{language}/{name}.html: other chapters, entries or pictures than the English page"
 
 
 def main(first, history=None):
