@@ -117,19 +117,14 @@ void Program::act(MenuAction action) {
 }
 
 void Program::ToggleLegend() {
-    Options& options = state_.AppOptions;
     if (panel_->MenuLegendShown != 0) {
         panel_->MenuLegendShown = 0;
-        rememberLegendPlace();
+        places_->rememberLegend();
         legend_->hide();
         return;
     }
     panel_->MenuLegendShown = 1;
-    if (options.LegendX == -1) {
-        options.LegendX = twipsOf(legendCorner().x());
-        options.LegendY = twipsOf(legendCorner().y());
-    }
-    placeLegend();
+    places_->placeLegend();
     legend_->show();
 }
 

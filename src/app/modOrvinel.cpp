@@ -67,7 +67,7 @@ bool Program::start() {
     panel_->Form_Load();
     showWindows();
     QTimer::singleShot(screenFirstMs, map_, &frmMap::beginRest);
-    attachShownMap();
+    places_->attachShownMap();
     return true;
 }
 
@@ -86,6 +86,8 @@ void Program::makeWindows() {
     makeLayers();
     legend_ = new frmLegenda(state_, map_);
     popupMenu_ = new frmPopupMenu(state_, panel_.get());
+    places_ = std::make_unique<WindowPlaces>(state_.AppOptions, desktop_,
+                                             WindowPlaces::Windows{*panel_, *map_, *legend_});
     wirePanel();
     wireMap();
     wireMenus();
@@ -110,14 +112,14 @@ void Program::wirePanel() {
     PanelHooks hooks = panelHooks(*layers_, *map_, *flashing_);
     hooks.openMenu = [this](int menu) { openMenu(menu); };
     hooks.quit = [this] { QuitProgram(); };
-    hooks.maximised = [this] { return MapMaximised_; };
+    hooks.maximised = [this] { return places_->MapMaximised; };
     panel_->setHooks(std::move(hooks));
-    connect(panel_.get(), &frmMenu::attachMap, this, &Program::attachMap);
+    connect(panel_.get(), &frmMenu::attachMap, places_.get(), &WindowPlaces::attachMap);
 }
 
 void Program::wireMap() {
     connect(map_, &frmMap::quitWanted, this, &Program::QuitProgram);
-    connect(map_, &frmMap::maximiseWanted, this, &Program::ToggleMapMaximised);
+    connect(map_, &frmMap::maximiseWanted, places_.get(), &WindowPlaces::ToggleMapMaximised);
     connect(map_, &frmMap::minimiseWanted, this, [this] {
         popupMenu_->hide();
         taskBar_->minimise();
@@ -127,66 +129,23 @@ void Program::wireMap() {
             [this](int note, MapPoint at, QPoint global) { mapMenus_->openNoteMenu(note, at, global); });
     taskBar_ = std::make_unique<frmFAKE>(TaskBarGroup{*panel_, *map_, *legend_, panel_->MenuLegendShown});
     connect(taskBar_.get(), &frmFAKE::quitWanted, this, &Program::QuitProgram);
-    connect(taskBar_.get(), &frmFAKE::shownAgain, this, &Program::attachShownMap);
+    connect(taskBar_.get(), &frmFAKE::shownAgain, places_.get(), &WindowPlaces::attachShownMap);
 }
 
 void Program::showWindows() {
-    const Options& options = state_.AppOptions;
     // The keyboard is the panel's, in whatever order the window manager gets to see the windows.
     for (QWidget* window : std::initializer_list<QWidget*>{map_, legend_, taskBar_.get()})
         window->setAttribute(Qt::WA_ShowWithoutActivating);
-    RestoreWindowPlacement();
-    if (options.LegendX != -1 && !options.Legend)
-        placeLegend();
-    else
-        legend_->move(legendCorner());
+    places_->RestoreWindowPlacement();
+    places_->restoreLegend();
     panel_->show();
     panel_->activateWindow(); // before the first paint, which shows where the keyboard is
     map_->show();
-    legend_->setVisible(options.Legend);
+    legend_->setVisible(state_.AppOptions.Legend);
     applyAlwaysOnTop();
     desktop_.processPendingEvents();
     taskBar_->showOutside(desktop_.allScreens());
     panel_->activateWindow();
-}
-
-void Program::place(const WindowPair& pair) {
-    panel_->setGeometry(pair.panel);
-    map_->setGeometry(pair.map);
-}
-
-void Program::attachMap() {
-    if (map_ && !MapMaximised_)
-        map_->move(panel_->x() + panel_->width(), panel_->y());
-}
-
-void Program::attachShownMap() {
-    // Some window managers pull a window that appears wholly onto the screen, but leave it where it is moved
-    // to afterwards.
-    QTimer::singleShot(screenFirstMs, this, &Program::attachMap);
-}
-
-void Program::RestoreWindowPlacement() {
-    Options& options = state_.AppOptions;
-    const QRect area = desktop_.workArea();
-    const auto remembered = rememberedPair(options, area, desktop_.allScreens(), panel_->width());
-    if (!remembered)
-        options.PosX = options.PosY = options.DimX = options.DimY = -1;
-    if (!remembered || !(desktop_.reachable(remembered->panel) || desktop_.reachable(remembered->map))) {
-        ToggleMapMaximised();
-        restored_ = WindowPair{panel_->geometry(), map_->geometry()};
-        return;
-    }
-    MapMaximised_ = false;
-    place(*remembered);
-}
-
-void Program::ToggleMapMaximised() {
-    const bool inset = MapMaximised_;
-    // Off while the windows move, so that the map is not taken along by the panel.
-    MapMaximised_ = true;
-    place(maximisedPair(desktop_.workArea(), panel_->width(), inset));
-    MapMaximised_ = !inset;
 }
 
 void Program::OpenWithShell(const QString& target) {
@@ -210,39 +169,10 @@ void Program::RunUpdater() {
     QuitProgram();
 }
 
-void Program::copyPlaces() {
-    Options& options = state_.AppOptions;
-    if (restored_ && *restored_ == WindowPair{panel_->geometry(), map_->geometry()})
-        return;
-    options.PosX = MapMaximised_ ? -1 : twipsOf(panel_->x());
-    options.PosY = MapMaximised_ ? -1 : twipsOf(panel_->y());
-    options.DimX = MapMaximised_ ? -1 : twipsOf(map_->width());
-    options.DimY = MapMaximised_ ? -1 : twipsOf(map_->height());
-}
-
-QPoint Program::legendCorner() const {
-    return {map_->x(), map_->y() + map_->height() - legend_->height()};
-}
-
-void Program::placeLegend() {
-    const Options& options = state_.AppOptions;
-    const QPoint remembered(pixelsOf(options.LegendX), pixelsOf(options.LegendY));
-    const bool seen = desktop_.reachable(QRect(remembered, legend_->size()));
-    legend_->move(seen ? remembered : legendCorner());
-    legendInstead_ = seen ? std::nullopt : std::optional(legend_->pos());
-}
-
-void Program::rememberLegendPlace() {
-    if (legendInstead_ == legend_->pos())
-        return;
-    state_.AppOptions.LegendX = twipsOf(legend_->x());
-    state_.AppOptions.LegendY = twipsOf(legend_->y());
-}
-
 void Program::gatherOptions() {
-    copyPlaces();
+    places_->rememberPair();
     state_.AppOptions.Legend = panel_->MenuLegendShown == 1;
-    rememberLegendPlace();
+    places_->rememberLegend();
     panel_->readOptions(state_.AppOptions);
 }
 

@@ -2,7 +2,7 @@
 
 #include "app/ProgramLayers.h"
 #include "app/ProgramState.h"
-#include "app/WindowPlacement.h"
+#include "app/WindowPlaces.h"
 #include "base/Desktop.h"
 #include "base/PlayerFiles.h"
 #include "ui/dialogs/Dialog.h"
@@ -19,7 +19,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace orvinel {
 
@@ -42,7 +41,6 @@ class Program : public QObject {
     void SaveUnasked();
     // Ends as QuitProgram does, but asks nothing: the system wants it.
     void EndUnasked();
-    void ToggleMapMaximised();
     void OpenWithShell(const QString& target);
     void ShowHistory();
     // The guide, and the page about what lies beside the program (guide, progress, atlas, backup): both come
@@ -54,6 +52,7 @@ class Program : public QObject {
     ProgramState& state() { return state_; }
     frmMenu& panel() { return *panel_; }
     frmMap& map() { return *map_; }
+    WindowPlaces& places() { return *places_; }
 
   private:
     bool start();
@@ -63,18 +62,8 @@ class Program : public QObject {
     void wirePanel();
     void wireMap();
     void showWindows();
-    void RestoreWindowPlacement();
-    void place(const WindowPair& pair);
-    void attachMap();
-    void attachShownMap();
-    // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
-    // corner.
-    QPoint legendCorner() const;
-    void placeLegend();
-    void rememberLegendPlace();
     void gatherOptions();
     bool saveOptions();
-    void copyPlaces();
 
     // The panel's menus (ProgramMenus.cpp).
     void wireMenus();
@@ -110,18 +99,11 @@ class Program : public QObject {
     Desktop& desktop_;
     std::function<void(int)> endProcess_;
     bool ended_ = false;
-    bool MapMaximised_ = false;
-    // Where the windows were put at start instead of a remembered place that no screen shows; while they
-    // stand there, that place is written back unchanged.
-    std::optional<WindowPair> restored_;
-
-    // Where the legend stands instead of such a place, which is written back while it stands there.
-    std::optional<QPoint> legendInstead_;
-
     std::unique_ptr<frmMenu> panel_; // owns the map window, which owns the legend
     frmMap* map_ = nullptr;
     frmLegenda* legend_ = nullptr;
     frmPopupMenu* popupMenu_ = nullptr;
+    std::unique_ptr<WindowPlaces> places_;
     std::unique_ptr<frmFAKE> taskBar_;
     std::unique_ptr<ProgramLayers> layers_;
     std::unique_ptr<MapMenus> mapMenus_;

@@ -5,6 +5,7 @@ Exit code 77: a tool is missing here.
 """
 
 import os
+import re
 import shutil
 import sys
 import time
@@ -13,11 +14,13 @@ import journeys
 from journeys import Player, in_marsh, make_world
 from screen import click, has_focus, hover, keys, run, until, windows
 
-MANAGERS = ["openbox", "xfwm4"]
+MANAGERS = ["openbox", "xfwm4", "kwin_x11", "marco"]
 MINIMISING = ["openbox"]  # they minimise any window that they are asked to
 CALM = 0.5  # seconds
 MONITOR = 1280  # pixels wide; there are two of them
-MAXIMISE = 30  # pixels from the map's right edge
+MAXIMISE, MINIMISE = 26, 42  # pixels from the map's right edge
+FIRST_SKILL = (60, 358)  # in the panel
+MOTIF_MINIMISE, MOTIF_MAXIMISE = 8, 16  # what a window lets the window manager do
 
 
 class Desktop(Player):
@@ -70,25 +73,33 @@ def task_bar(folder):
             all_have(player, {"SKIP_TASKBAR"})
 
 
+def is_iconic(window):
+    return "Iconic" in run("xprop", "-id", str(window.number), "WM_STATE")
+
+
 def minimised(player, window):
     """False when the window manager refuses, as it may for windows that have no button on the task bar."""
     run("xdotool", "windowminimize", str(window.number))
-    try:
-        until("nothing left on the screen", lambda: not player.shown(), 2)
+    try:  # a window may take its dialogs along at once; the program has gone when its button says so
+        until("nothing left on the screen", lambda: not player.shown() and is_iconic(player.button), 2)
     except AssertionError:
         assert window.number in player.shown(), "minimised, and the others are not"
         return False
     return True
 
 
-def keeps_keyboard(what, window):
-    """The window gets the keyboard and still has it when all windows that came back have had their turn."""
+def steady(what, holds):
+    """It comes true and stays so while whatever was set going comes to its end."""
     seen = []
 
     def look():
-        seen[:] = seen + [time.monotonic()] if has_focus(window) else []
+        seen[:] = seen + [time.monotonic()] if holds() else []
         return seen and seen[-1] - seen[0] > CALM
     until(what, look)
+
+
+def keeps_keyboard(what, window):
+    steady(what, lambda: has_focus(window))
 
 
 def comes_back(folder):
@@ -119,6 +130,38 @@ def comes_back(folder):
             keeps_keyboard("the keyboard in the dialog", dialog)
         keys("Escape")
         player.gone(dialog)
+
+
+def goes_along(folder):
+    """A dialog that is open goes with the program's own minimise button and comes back; it offers no button of that kind."""
+    make_world(folder)
+    in_marsh(folder)
+    with Desktop(folder) as player:
+        player.ready()
+        player.panel.click(*FIRST_SKILL, times=2)
+        dialog = player.dialog("Elite: Night Step")
+        functions = int(run("xprop", "-id", str(dialog.number), "_MOTIF_WM_HINTS").split(",")[1], 16)
+        assert not functions & (MOTIF_MINIMISE | MOTIF_MAXIMISE), "a dialog with buttons of a main window"
+        for _ in range(2):
+            player.map.click(player.map.width - MINIMISE, 10)
+            until("nothing left on the screen", lambda: not player.shown())
+            run("xdotool", "windowactivate", str(player.button.number))
+            until("the dialog back with both windows", lambda: dialog.number in player.shown() and len(player.shown()) == 3)
+            steady("the keyboard back", lambda: has_focus(player.map) or has_focus(dialog))
+            stack = [int(n, 16) for n in re.findall("0x[0-9a-f]+", run("xprop", "-root", "_NET_CLIENT_LIST_STACKING"))]
+            assert stack.index(dialog.number) > stack.index(player.map.number), "the dialog lies behind the map"
+
+
+def unmanaged(folder):
+    """Where nobody minimises anything the windows stay."""
+    make_world(folder)
+    in_marsh(folder)
+    with Desktop(folder) as player:
+        player.ready()
+        before = places(player)
+        player.map.click(player.map.width - MINIMISE, 10)
+        steady("the windows as they were", lambda: places(player) == before)
+        player.quit()
 
 
 def always_on_top(folder):
@@ -195,6 +238,40 @@ def lower_edge(folder):
         until("the map beside the panel again", beside)
 
 
+def drag_panel(player, dx, dy):
+    """Drags the panel by its background in small steps; the mouse stays on the screen."""
+    x, y, _, _ = places(player)[0]
+    x, y = x + 150, y + 8
+    run("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+    for step in range(1, 21):
+        run("xdotool", "mousemove", str(x + dx * step // 20), str(y + dy * step // 20))
+        time.sleep(0.02)
+    run("xdotool", "mouseup", "1")
+
+
+def dragged_past_the_edge(folder):
+    """Window managers that keep windows on the screen hold one of the pair back: they stand side by side all the same."""
+    make_world(folder)
+    journeys.options(folder, PosX=1500, PosY=1500, DimX=9000, DimY=6000)
+
+    def beside(player):
+        (x, y, width, _), map_place = places(player)
+        return map_place[:2] == (x + width, y)
+
+    with Desktop(folder) as player:
+        until("the map beside the panel", lambda: beside(player))
+        for dx, dy in ((2 * MONITOR - 600, 0), (0, 600), (-400, -100)):
+            before = places(player)[0]
+            drag_panel(player, dx, dy)
+            steady("the map beside the panel again", lambda: beside(player))
+            assert places(player)[0] != before, "nothing moved"
+        stood = places(player)
+        keys("alt+F4")
+        assert player.end() == 0
+    with Desktop(folder) as player:
+        steady(f"the windows at {stood}", lambda: places(player) == stood)
+
+
 def hasty_click(folder):
     """A button that is let go at once leaves no window hanging on the pointer; a drag in one go takes it along."""
     make_world(folder)
@@ -213,17 +290,21 @@ def hasty_click(folder):
         until("the windows at their new place", lambda: [p[:2] for p in places(player)] == [(140, 70), (357, 70)])
 
 
-ERRANDS = [task_bar, comes_back, always_on_top, second_monitor, lower_edge, hasty_click]
+ERRANDS = [task_bar, comes_back, goes_along, always_on_top, second_monitor, lower_edge, dragged_past_the_edge, hasty_click]
 
 
 def main():
     if "ORVINEL_JOURNEYS" in os.environ:
-        return journeys.main(__file__, ERRANDS)
+        managed = os.environ["ORVINEL_WINDOW_MANAGER"] != "none"
+        return journeys.main(__file__, ERRANDS if managed else [unmanaged])
     if not shutil.which("xrandr"):
         print("skipped, not installed: xrandr")
         return 77
+    missing = [manager for manager in MANAGERS if not shutil.which(manager)]
+    if missing:
+        print("skipped, not installed:", ", ".join(missing))
     results = []
-    for manager in filter(shutil.which, MANAGERS):
+    for manager in [*filter(shutil.which, MANAGERS), "none"]:
         print(f"under {manager}", flush=True)
         os.environ.update(ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{2 * MONITOR}x900")
         results.append(journeys.main(__file__, ERRANDS))

@@ -5,6 +5,7 @@
 #include "tools/SnapshotDisk.h"
 
 #include <QJsonDocument>
+#include <QJsonValue>
 
 #include <gtest/gtest.h>
 

@@ -67,7 +67,7 @@ TEST_F(ProgramTest, theFirstStartFillsTheWorkAreaAndIsForgottenAtTheEnd) {
 TEST_F(ProgramTest, thePairIsInsetByATwentiethOfTheRightEdgeAndRemembered) {
     desktop.work = {0, 0, 1280, 1000};
     ASSERT_TRUE(start());
-    program->ToggleMapMaximised();
+    program->places().ToggleMapMaximised();
     EXPECT_EQ(QRect(64, 64, 217, 872), program->panel().geometry());
     EXPECT_EQ(QRect(281, 64, 935, 872), program->map().geometry());
     program->QuitProgram();
@@ -115,7 +115,7 @@ TEST_F(ProgramTest, aPlaceOutOfReachIsNotUsedButKept) {
 
 TEST_F(ProgramTest, theMapFollowsThePanelUnlessTheyFillTheScreen) {
     ASSERT_TRUE(start());
-    program->ToggleMapMaximised();
+    program->places().ToggleMapMaximised();
     program->panel().move(30, 40);
     EXPECT_EQ(QPoint(247, 40), program->map().pos());
 }
@@ -134,7 +134,7 @@ TEST_F(ProgramTest, failingToSaveTheOptionsIsToldAndTheProgramStaysIfThePlayerWa
 
 TEST_F(ProgramTest, whenTheSystemEndsItTheOptionsAreWrittenAndNothingIsAsked) {
     ASSERT_TRUE(start());
-    program->ToggleMapMaximised();
+    program->places().ToggleMapMaximised();
     program->SaveUnasked();
     EXPECT_NE(u"-1"_s, option("PosX"));
     EXPECT_FALSE(exitCode);

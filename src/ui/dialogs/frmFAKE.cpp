@@ -111,7 +111,8 @@ void frmFAKE::changeEvent(QEvent* event) {
 }
 
 void frmFAKE::becomeActive() {
-    if (minimised_ || icon_.isActive())
+    // Windows that have just come back may still be called icons.
+    if (minimised_ || icon_.isActive() || settling_.isActive())
         return;
     // A window manager that is minimising one of the windows may make this one active first; raising that
     // window would bring it back.
@@ -191,6 +192,10 @@ void frmFAKE::Form_Resize() {
 void frmFAKE::bringToFront() {
     group_.map.raise();
     group_.panel.raise();
+    raiseDialogs();
+}
+
+void frmFAKE::raiseDialogs() {
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() == Qt::Dialog && !isMainWindow(window))
             window->raise();
@@ -232,8 +237,12 @@ void frmFAKE::settle() {
 
 void frmFAKE::giveKeyboardBack() {
     // Also to a window that has it already as far as is known here: the window manager may have moved on.
-    if (!minimised_)
-        keyboardWindow()->activateWindow();
+    if (minimised_)
+        return;
+    QWidget* window = keyboardWindow();
+    window->activateWindow();
+    if (window == &group_.map)
+        raiseDialogs(); // the panel's do not stay above the map by themselves
 }
 
 QWidget* frmFAKE::keyboardWindow() const {

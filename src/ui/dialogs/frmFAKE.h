@@ -66,6 +66,7 @@ class frmFAKE : public QWidget {
     // The task bar's button was used while the program is on the screen.
     void becomeActive();
     void bringToFront();
+    void raiseDialogs();
     void putDialogsAway();
     void bringDialogsBack();
     // To the window that had it, or to the modal dialog that keeps all others from getting it.

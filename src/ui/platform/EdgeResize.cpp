@@ -13,7 +13,7 @@ namespace orvinel {
 
 namespace {
 
-constexpr int margin = 5; // pixels from the edge that take hold of it
+constexpr int margin = 3; // pixels from the edge that take hold of it: the frame, and one of what lies inside
 
 Qt::CursorShape shapeFor(Qt::Edges edges) {
     if (edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge))

@@ -178,10 +178,21 @@ bool systemDrags() {
     return QGuiApplication::platformName() != u"xcb"_s;
 }
 
+QRect shownPlace(const QWidget& window) {
+    const QWindow* handle = window.windowHandle();
+    return handle && handle->isVisible() ? handle->geometry() : window.geometry();
+}
+
+void moveShown(QWidget& window, QPoint to) {
+    window.move(to);
+    if (QWindow* handle = window.windowHandle())
+        handle->setPosition(to);
+}
+
 void WindowDrag::press(QPoint global) {
     QWindow* handle = window_.windowHandle();
     following_ = !(systemDrags() && handle && handle->startSystemMove());
-    grip_ = global - window_.pos();
+    grip_ = global - shownPlace(window_).topLeft();
 }
 
 void WindowDrag::move(QPoint global) {

@@ -48,6 +48,12 @@ class WindowDrag {
     QPoint grip_;
 };
 
+// Where a window is on the screen, pixels; where it is to appear while it is not there yet. A window manager
+// may have put it elsewhere than where QWidget::pos() says.
+QRect shownPlace(const QWidget& window);
+// Moves it there, also when it believes to be there already.
+void moveShown(QWidget& window, QPoint to);
+
 // Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
 void keepOffTaskBar(QWidget& window);
 
