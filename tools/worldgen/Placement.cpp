@@ -14,7 +14,7 @@ constexpr int MarkerHalf = 8;
 constexpr int NameHeight = 16;
 constexpr int ChestReach = 200; ///< hidden things lie farther from the villages than people stand
 constexpr int CollectorReach = 110;
-constexpr int BossReach = 170;
+constexpr int BossReach = 200;
 constexpr int PetReach = 210;
 constexpr int TriesPerRing = 48;
 constexpr int CellSize = 64;
@@ -245,10 +245,17 @@ RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
                         region.name, {},          region.landform};
     for (const SourceZone& zone : source.zones) {
         if (liesIn(region, zone) && zone.painted) {
-            recipe.sites.push_back({zone.name, roleOf(zone.kind), zone.nearTo});
+            recipe.sites.push_back({zone.name, roleOf(zone.kind), zone.nearTo, zone.marker, zone.landmark});
         }
     }
     return recipe;
+}
+
+Ground groundOf(const SurveyedRegion& survey) {
+    return {survey.sites, [&survey](QPoint place) {
+                return survey.land(place) && survey.distanceToWater(place) > MarkerHalf &&
+                       survey.distanceToRiver(place) > MarkerHalf;
+            }};
 }
 
 void placeRegion(const WorldSource& source, const SourceRegion& region, const Ground& ground,

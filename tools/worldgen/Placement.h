@@ -65,6 +65,9 @@ struct Ground {
     std::function<bool(QPoint)> land;
 };
 
+/// Markers stand with their feet dry all around. `survey` must live as long.
+Ground groundOf(const SurveyedRegion& survey);
+
 /// Fills in all places that lie in `region`, and no others, so that regions may be done side by side.
 /// Spacing is given up, step by step, only where a region is full (in scaled worlds).
 void placeRegion(const WorldSource& source, const SourceRegion& region, const Ground& ground,

@@ -21,12 +21,35 @@ enum class Theme { Temperate, Desert, Frost, Ash };
 /// full of pools; Isles: an archipelago.
 enum class Landform { Mountains, Hills, Plain, Fens, Isles };
 enum class SiteRole { Town, Outpost, Mission, Challenge, Area, DungeonEntrance };
-enum class SiteNear { Anything, Coast, Lake, River, Ridge, Forest };
+/// What the ground at a site must be. Coast, Lake, River: beside it; Water, Sea: on it; Ridge, Cliffs: under
+/// the heights; Pass: between them; Forest, Bamboo: in the wood; Open: where no wood and no mountain stands.
+enum class SiteNear { Anything, Coast, Lake, River, Ridge, Forest, Pass, Cliffs, Water, Sea, Bamboo, Open };
+/// What is painted beside the name of a place where nobody lives. Places that have one are looked for where
+/// the map is emptiest.
+enum class Landmark {
+    None,
+    Stones,
+    Windmill,
+    Obelisk,
+    Barrow,
+    Tree,
+    Wreck,
+    Ruin,
+    Tower,
+    Bones,
+    Vent,
+    Ice,
+    Lantern,
+    Bamboo,
+    Palms
+};
 
 struct SiteWish {
     QString name; ///< as the program will write it; its width decides how much dark ground is kept for it
     SiteRole role = SiteRole::Area;
     SiteNear near = SiteNear::Anything; ///< kept where the land has such a place, else dropped
+    bool marked = true;                 ///< else the name alone stands there, on the very point
+    Landmark landmark = Landmark::None;
 };
 
 struct RegionRecipe {
@@ -41,16 +64,20 @@ struct RegionRecipe {
 
 struct Landscape;
 
-struct PaintedRegion {
-    QImage picture; ///< RGB32, as large as the recipe asks
+/// The ground that the name of a site covers in the program, below its marker.
+QRect nameBox(QPoint site, const SiteWish& wish, int campaign);
 
+/// The land of a region and the places on it, before any of it is painted.
+struct SurveyedRegion {
     /// One point per wish, in order: where its village or landmark is painted. At least 60 px apart and 80 px
     /// from the border as long as the land has room; a region asked for more sites than fit gets them closer.
     std::vector<QPoint> sites;
 
-    /// Height, water and woods behind the picture. Never null in what paintRegion returns.
+    /// Height, water and woods behind the picture. Never null in what surveyRegion returns.
     std::shared_ptr<const Landscape> landscape;
 
+    /// Whether the ground at a site is what was asked for.
+    bool offers(QPoint site, SiteNear near) const;
     /// Solid ground that a marker may stand on: inside the frame, no water, no snow-covered peak.
     bool land(QPoint point) const;
     bool forest(QPoint point) const;
@@ -62,7 +89,10 @@ struct PaintedRegion {
     double distanceToRiver(QPoint point) const;
 };
 
-PaintedRegion paintRegion(const RegionRecipe& recipe);
+/// Raises the land and finds the places: a third of the time that a whole picture takes.
+SurveyedRegion surveyRegion(const RegionRecipe& recipe);
+/// RGB32, as large as the recipe asks. `survey` is the recipe's own.
+QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey);
 
 /// A piece of a sign: what it is made of ("steel", "fire", "cloth" for the profession's colour), and its
 /// shape.

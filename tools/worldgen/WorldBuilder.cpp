@@ -1,6 +1,7 @@
 #include "WorldBuilder.h"
 
 #include "CrowdedWorld.h"
+#include "InParallel.h"
 #include "Placement.h"
 #include "WorldFiles.h"
 
@@ -13,9 +14,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <atomic>
 #include <mutex>
-#include <thread>
 
 namespace worldgen {
 
@@ -25,27 +24,6 @@ namespace {
 
 constexpr int JpegQuality = 90;
 constexpr int WithoutAttribute = 5; ///< for the painter of skills
-
-/// Runs `work(0)` .. `work(count - 1)` on all processors and returns when all are done.
-void inParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
-    std::atomic<std::size_t> next = 0;
-    std::vector<std::jthread> workers;
-    const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
-    for (std::size_t i = 0; i < std::min(count, processors); ++i) {
-        workers.emplace_back([&] {
-            for (std::size_t item = next++; item < count; item = next++) {
-                work(item);
-            }
-        });
-    }
-}
-
-/// Whether a marker has its feet on the ground all around.
-bool isDry(const PaintedRegion& painted, QPoint place) {
-    constexpr double MarkerHalf = 8;
-    return painted.land(place) && painted.distanceToWater(place) > MarkerHalf &&
-           painted.distanceToRiver(place) > MarkerHalf;
-}
 
 class Builder {
   public:
@@ -155,10 +133,10 @@ void Builder::paintRegions() {
         if (!isWanted(name)) {
             return;
         }
-        const PaintedRegion painted = paintRegion(recipeFor(source_, region));
-        const Ground ground{painted.sites, [&](QPoint place) { return isDry(painted, place); }};
-        placeRegion(source_, region, ground, places_);
-        savePicture(name, painted.picture);
+        const RegionRecipe recipe = recipeFor(source_, region);
+        const SurveyedRegion survey = surveyRegion(recipe);
+        placeRegion(source_, region, groundOf(survey), places_);
+        savePicture(name, paintRegion(recipe, survey));
     });
 }
 
@@ -232,9 +210,11 @@ QStringList Builder::build(const CrowdedWorld& world) {
     places_ = world.places();
     makeFolders();
     copyData();
-    for (const SourceRegion& region : source_.regions)
+    for (const SourceRegion& region : source_.regions) {
+        const RegionRecipe recipe = recipeFor(source_, region);
         savePicture(folderOf(region.campaign) + region.fileNumber + u".jpg"_s,
-                    paintRegion(recipeFor(source_, region)).picture);
+                    paintRegion(recipe, surveyRegion(recipe)));
+    }
     QDir(outFolder_).mkpath(u"Personal"_s);
     save(u"Personal/Notes.txt"_s, world.notes());
     if (problems_.isEmpty())

@@ -52,8 +52,18 @@ constexpr ZoneWord ZoneWords[] = {
 };
 
 constexpr std::pair<QStringView, SiteNear> NearWords[] = {
-    {u"", SiteNear::Anything},   {u"coast", SiteNear::Coast}, {u"lake", SiteNear::Lake},
-    {u"river", SiteNear::River}, {u"ridge", SiteNear::Ridge}, {u"forest", SiteNear::Forest},
+    {u"", SiteNear::Anything},   {u"coast", SiteNear::Coast},   {u"lake", SiteNear::Lake},
+    {u"river", SiteNear::River}, {u"ridge", SiteNear::Ridge},   {u"forest", SiteNear::Forest},
+    {u"pass", SiteNear::Pass},   {u"cliffs", SiteNear::Cliffs}, {u"water", SiteNear::Water},
+    {u"sea", SiteNear::Sea},     {u"bamboo", SiteNear::Bamboo}, {u"open", SiteNear::Open},
+};
+
+constexpr std::pair<QStringView, Landmark> LandmarkWords[] = {
+    {u"", Landmark::None},           {u"stones", Landmark::Stones}, {u"windmill", Landmark::Windmill},
+    {u"obelisk", Landmark::Obelisk}, {u"barrow", Landmark::Barrow}, {u"tree", Landmark::Tree},
+    {u"wreck", Landmark::Wreck},     {u"ruin", Landmark::Ruin},     {u"tower", Landmark::Tower},
+    {u"bones", Landmark::Bones},     {u"vent", Landmark::Vent},     {u"ice", Landmark::Ice},
+    {u"lantern", Landmark::Lantern}, {u"bamboo", Landmark::Bamboo}, {u"palms", Landmark::Palms},
 };
 
 constexpr std::pair<QStringView, Landform> LandformWords[] = {
@@ -236,6 +246,9 @@ void SourceReader::readZones(int campaign) {
         zone.campaign = campaign;
         zone.nearTo = word(row, 1, NearWords);
         zone.name = row.fields[2];
+        if (row.fields.size() > 3) {
+            zone.landmark = word(row, 3, LandmarkWords);
+        }
         const auto* kind = std::find_if(std::begin(ZoneWords), std::end(ZoneWords),
                                         [&](const ZoneWord& known) { return known.word == row.fields[0]; });
         const auto region =

@@ -46,6 +46,7 @@ struct SourceZone {
     bool painted = true; ///< the region's picture shows a site for it
     SiteNear nearTo = SiteNear::Anything;
     QString name;
+    Landmark landmark = Landmark::None;
 };
 
 struct SourceProfession {

@@ -1,4 +1,5 @@
 #include "WorldBuilder.h"
+#include "WorldSurvey.h"
 
 #include <QGuiApplication>
 
@@ -25,7 +26,8 @@ std::optional<Order> readOrder(const QStringList& arguments) {
             order.only = arguments[++i];
         } else if (arguments[i] == u"--one-region") {
             order.oneRegion = true;
-        } else if (order.outFolder.isEmpty() && !arguments[i].startsWith(u'-')) {
+        } else if (order.outFolder.isEmpty() &&
+                   (arguments[i] == u"--survey" || !arguments[i].startsWith(u'-'))) {
             order.outFolder = arguments[i];
         } else {
             return std::nullopt;
@@ -44,6 +46,21 @@ int tell(const QStringList& problems) {
     return problems.isEmpty() ? 0 : 1;
 }
 
+int survey(const worldgen::WorldSource& source) {
+    QStringList problems;
+    for (const worldgen::RegionFinding& finding : worldgen::surveyWorld(source)) {
+        std::printf("%s: %.0f %% of the land is far from everything\n", qUtf8Printable(finding.region),
+                    100 * finding.emptyShare);
+        for (const QString& problem : finding.problems) {
+            problems.append(finding.region + QStringLiteral(": ") + problem);
+        }
+        if (finding.emptyShare > worldgen::MostEmpty) {
+            problems.append(finding.region + QStringLiteral(": an empty half"));
+        }
+    }
+    return tell(problems);
+}
+
 int run(const Order& order) {
     const QString worldFolder = QStringLiteral(WORLDGEN_WORLD);
     if (order.oneRegion)
@@ -53,6 +70,9 @@ int run(const Order& order) {
         worldgen::readWorldSource(worldFolder, worldgen::noAttributeCaption(worldFolder), problems);
     if (!problems.isEmpty()) {
         return tell(problems);
+    }
+    if (order.outFolder == u"--survey") {
+        return survey(source);
     }
     if (!order.only.isEmpty()) {
         return tell(worldgen::paintPictures(source, order.outFolder, order.only));

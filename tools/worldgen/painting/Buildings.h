@@ -21,6 +21,9 @@ Sprite paintedRuin(Rng& rng);
 Sprite paintedCave(const Palette& palette, Rng& rng);
 Sprite paintedWindmill(Rng& rng);
 Sprite paintedObelisk(Rng& rng);
+Sprite paintedBamboo(Rng& rng);
+/// One of the landmarks that is a single thing: all but Stones, Palms and None.
+Sprite paintedLandmark(Landmark landmark, BuildingStyle style, const Palette& palette, Rng& rng);
 Sprite paintedShrine(BuildingStyle style, Rng& rng);
 
 } // namespace worldgen

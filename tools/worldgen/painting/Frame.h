@@ -17,8 +17,9 @@ QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
 
 /// Darkens the whole until its mean relative luminance is at most \a mean.
 void limitLuminance(QImage& picture, double mean);
-/// Softly darkens whatever is too bright under cream letters inside \a box.
-void quietenGround(QImage& picture, const QRect& box);
+/// Softly darkens whatever is too bright under the cream letters of a name, centred in \a box, and along
+/// them.
+void shadeName(QImage& picture, const QRect& box, const QString& name);
 /// Relative luminance of one colour, 0..1.
 double luminanceOf(QRgb colour);
 

@@ -200,6 +200,9 @@ River riverAlong(const Landscape& land, const std::vector<int>& course, double t
     return river;
 }
 
+/// Cells: a shorter one would be a hook at the side of another.
+constexpr std::size_t kShortest = 60;
+
 } // namespace
 
 std::vector<River> tracedRivers(const Landscape& land) {
@@ -208,7 +211,7 @@ std::vector<River> tracedRivers(const Landscape& land) {
     std::vector<River> rivers;
     for (const int spring : springs(land, threshold)) {
         const std::vector<int> course = courseFrom(land, spring, beds);
-        if (course.size() < 26)
+        if (course.size() < kShortest)
             continue;
         River river = riverAlong(land, course, threshold);
         if (const int mouth = beds.at(course.back()); mouth >= 0) {

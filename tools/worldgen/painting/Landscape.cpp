@@ -95,6 +95,14 @@ double Landscape::slope(int x, int y, int reach) const {
                     height.clamped(x, y + reach) - height.clamped(x, y - reach));
 }
 
+void Landscape::plant(QPoint middle, double radius, double amount) {
+    for (int y = 0; y < woods.height(); ++y)
+        for (int x = 0; x < woods.width(); ++x) {
+            const double away = lengthOf(x * kPatch - middle.x(), y * kPatch - middle.y());
+            woods.at(x, y) += float(amount * smoothStep(radius, radius * 0.45, away));
+        }
+}
+
 bool Landscape::highGround(int x, int y) const {
     const double h = height.clamped(x, y);
     return h > std::min(0.33, palette.snowline - 0.2);

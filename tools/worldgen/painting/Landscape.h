@@ -63,6 +63,8 @@ struct Landscape {
     double woodsAt(double x, double y) const { return woods.sampled(x / kPatch, y / kPatch); }
     double surroundAt(double x, double y) const { return surround.sampled(x / kCell, y / kCell); }
     double riverDistance(double x, double y) const { return toRiver.sampled(x / kCell, y / kCell) * kCell; }
+    /// Lets woods grow (or, below 0, go) within \a radius pixels.
+    void plant(QPoint middle, double radius, double amount);
     /// Ground that is white or under a mountain's glyph.
     bool highGround(int x, int y) const;
 };

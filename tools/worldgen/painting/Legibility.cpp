@@ -1,6 +1,11 @@
 #include "Frame.h"
 
+#include "Field.h"
 #include "Maths.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
 
 #include <array>
 
@@ -11,6 +16,7 @@ namespace {
 /// Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
 /// picture's compression.
 constexpr double kQuietLuminance = 0.108;
+constexpr int kShadeReach = 32; ///< pixels around a name
 
 std::array<double, 256> linearLight() {
     std::array<double, 256> table;
@@ -30,6 +36,29 @@ double meanLuminance(const QImage& picture) {
             sum += luminanceOf(line[x]);
     }
     return count == 0 ? 0 : sum / count;
+}
+
+/// 1 under the letters, thinning out around them.
+Field letterShade(const QRect& box, QSize size, const QString& name) {
+    QFont face(QStringLiteral("Liberation Sans")); // as wide as the face of the program's names
+    face.setPixelSize(13);
+    face.setBold(true);
+    face.setHintingPreference(QFont::PreferNoHinting);
+    QPainterPath letters;
+    letters.addText(0, 0, face, name);
+    letters.translate(QRectF(box).center() - letters.boundingRect().center());
+    QImage mask(size, QImage::Format_Grayscale8);
+    mask.fill(0);
+    QPainter painter(&mask);
+    painter.setPen(QPen(Qt::white, 17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::white);
+    painter.drawPath(letters);
+    painter.end();
+    Field shade(size.width(), size.height());
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            shade.at(x, y) = float(mask.constScanLine(y)[x]) / 255;
+    return blurred(blurred(blurred(shade, 6), 7), 8);
 }
 
 } // namespace
@@ -54,19 +83,18 @@ void limitLuminance(QImage& picture, double mean) {
     }
 }
 
-void quietenGround(QImage& picture, const QRect& box) {
-    constexpr int fade = 26;
-    const QRect reach = box.adjusted(-fade, -fade, fade, fade) & picture.rect();
-    for (int y = reach.top(); y <= reach.bottom(); ++y) {
+void shadeName(QImage& picture, const QRect& box, const QString& name) {
+    const QRect reach = box.adjusted(-kShadeReach, -kShadeReach, kShadeReach, kShadeReach);
+    const Field shade = letterShade(box.translated(-reach.topLeft()), reach.size(), name);
+    const QRect seen = reach & picture.rect();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        for (int x = reach.left(); x <= reach.right(); ++x) {
-            const double outX = std::max({0, box.left() - x, x - box.right()});
-            const double outY = std::max({0, box.top() - y, y - box.bottom()});
-            const double strength = smoothStep(fade, 0, lengthOf(outX, outY));
+        for (int x = seen.left(); x <= seen.right(); ++x) {
+            const double strength = smoothStep(0, 0.62, shade.at(x - reach.left(), y - reach.top()));
             const double light = luminanceOf(line[x]);
             const double wanted =
                 std::min(light, kQuietLuminance * (0.62 + 0.38 * std::min(1.0, light / 0.4)));
-            if (wanted >= light)
+            if (wanted >= light || strength <= 0)
                 continue;
             const double factor = powOf(wanted / light, 1 / 2.2);
             line[x] = rgbOf(colourOf(line[x]).times(lerp(1, factor, strength)));

@@ -34,7 +34,9 @@ int main(int argc, char** argv) {
                     {QStringLiteral("Westering"), Area, Forest}};
     QElapsedTimer timer;
     timer.start();
-    const PaintedRegion region = paintRegion(recipe);
-    std::printf("%lld ms\n", static_cast<long long>(timer.elapsed()));
-    return region.picture.save(words[7], "JPG", 90) ? 0 : 1;
+    const SurveyedRegion survey = surveyRegion(recipe);
+    std::printf("surveyed after %lld ms\n", static_cast<long long>(timer.elapsed()));
+    const QImage picture = paintRegion(recipe, survey);
+    std::printf("painted after %lld ms\n", static_cast<long long>(timer.elapsed()));
+    return picture.save(words[7], "JPG", 90) ? 0 : 1;
 }

@@ -26,7 +26,10 @@ QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::white);
     for (std::size_t k = 0; k < sites.size(); ++k) {
-        const QSizeF room = settlementRoom(recipe.sites[k].role);
+        const SiteWish& wish = recipe.sites[k];
+        const bool cleared =
+            wish.near == SiteNear::Open || wish.near == SiteNear::Pass || wish.landmark != Landmark::None;
+        const QSizeF room = cleared ? QSizeF(70, 44) : settlementRoom(wish.role);
         painter.drawEllipse(QPointF(sites[k]), room.width(), room.height());
     }
     return taken;
@@ -34,35 +37,55 @@ QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe
 
 } // namespace
 
-bool PaintedRegion::land(QPoint point) const {
-    const QRect inner = picture.rect().adjusted(kFrame, kFrame, -kFrame, -kFrame);
+bool SurveyedRegion::land(QPoint point) const {
+    const QRect inner = QRect(QPoint(), landscape->size).adjusted(kFrame, kFrame, -kFrame, -kFrame);
     return inner.contains(point) && landscape->toWater.clamped(point.x(), point.y()) > 2 &&
            !landscape->highGround(point.x(), point.y());
 }
 
-bool PaintedRegion::forest(QPoint point) const {
+bool SurveyedRegion::forest(QPoint point) const {
     return land(point) && landscape->woodsAt(point.x(), point.y()) > 0.16;
 }
 
-double PaintedRegion::height(QPoint point) const {
+double SurveyedRegion::height(QPoint point) const {
     return landscape->height.clamped(point.x(), point.y());
 }
 
-double PaintedRegion::distanceToWater(QPoint point) const {
+double SurveyedRegion::distanceToWater(QPoint point) const {
     return landscape->toWater.clamped(point.x(), point.y());
 }
 
-double PaintedRegion::distanceToRiver(QPoint point) const {
+double SurveyedRegion::distanceToRiver(QPoint point) const {
     return landscape->riverDistance(point.x(), point.y());
 }
 
-PaintedRegion paintRegion(const RegionRecipe& recipe) {
-    PaintedRegion result;
-    const auto shared = std::make_shared<const Landscape>(recipe);
-    const Landscape& land = *shared;
-    result.landscape = shared;
-    result.sites = placedSites(land, recipe.sites, recipe.seed);
-    const RoadNet net = builtRoads(land, result.sites);
+bool SurveyedRegion::offers(QPoint site, SiteNear near) const {
+    return groundOffers(*landscape, site, near);
+}
+
+/// The woods are as the names say: the land follows where the finder of sites had no better ground.
+SurveyedRegion surveyRegion(const RegionRecipe& recipe) {
+    const auto land = std::make_shared<Landscape>(recipe);
+    SurveyedRegion result;
+    result.sites = placedSites(*land, recipe.sites, recipe.seed);
+    for (std::size_t k = 0; k < result.sites.size(); ++k) {
+        const SiteNear near = recipe.sites[k].near;
+        if (near == SiteNear::Forest || near == SiteNear::Bamboo)
+            land->plant(result.sites[k], 170, 0.42);
+        else if (near == SiteNear::Open)
+            land->plant(result.sites[k], 170, -0.6);
+    }
+    result.landscape = land;
+    return result;
+}
+
+QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
+    const Landscape& land = *survey.landscape;
+    std::vector<QPoint> reachable;
+    for (const QPoint& site : survey.sites)
+        if (!land.water(site.x(), site.y()))
+            reachable.push_back(site);
+    const RoadNet net = builtRoads(land, reachable);
 
     QImage picture = paintedGround(land);
     paintCracks(picture, land);
@@ -71,25 +94,24 @@ PaintedRegion paintRegion(const RegionRecipe& recipe) {
     paintRivers(picture, land);
     Scene scene;
     Rng rng(recipe.seed * 5ULL);
-    for (std::size_t k = 0; k < result.sites.size(); ++k)
-        ploughFields(picture, land, result.sites[k], recipe.sites[k].role, rng);
+    for (std::size_t k = 0; k < survey.sites.size(); ++k)
+        ploughFields(picture, land, survey.sites[k], recipe.sites[k].role, rng);
     paintRoads(picture, net, recipe.theme);
-    const QImage taken = takenGround(land, net, recipe, result.sites);
+    const QImage taken = takenGround(land, net, recipe, survey.sites);
     growNature(scene, land, {picture, taken}, recipe.seed);
-    for (std::size_t k = 0; k < result.sites.size(); ++k)
-        settle(scene, land, {result.sites[k], recipe.sites[k].role, recipe.campaign}, rng);
+    for (std::size_t k = 0; k < survey.sites.size(); ++k)
+        settle(scene, land, {survey.sites[k], recipe.campaign, recipe.sites[k]}, rng);
     scene.paint(picture);
 
     agePicture(picture, land);
     limitLuminance(picture, kMeanLuminance);
-    for (std::size_t k = 0; k < result.sites.size(); ++k)
-        quietenGround(picture, nameBox(result.sites[k], recipe.sites[k], recipe.campaign));
+    for (std::size_t k = 0; k < survey.sites.size(); ++k)
+        shadeName(picture, nameBox(survey.sites[k], recipe.sites[k], recipe.campaign), recipe.sites[k].name);
     paintFrame(picture);
-    const QRect title = paintTitle(picture, land, result.sites, recipe.title);
+    const QRect title = paintTitle(picture, land, survey.sites, recipe.title);
     const QRect rose = paintCompass(picture, land, title);
     paintSeafarers(picture, land, {title, rose});
-    result.picture = std::move(picture);
-    return result;
+    return picture;
 }
 
 } // namespace worldgen

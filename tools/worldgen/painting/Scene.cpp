@@ -74,6 +74,7 @@ class Nature {
     void growAt(QPointF at);
     PeakShape shapeAt(double height, double scale);
     bool crowded(QPointF at, double gap) const;
+    bool openBehind(QPointF at, double scale) const;
     void raisePeaks();
     void raiseHills(const QImage& ground);
     bool free(QPointF at) const { return qGray(taken_.pixel(at.toPoint())) == 0; }
@@ -153,6 +154,16 @@ bool Nature::crowded(QPointF at, double gap) const {
     });
 }
 
+/// Whether a peak would hide no road and no place that lies behind it.
+bool Nature::openBehind(QPointF at, double scale) const {
+    for (const QPointF part : {QPointF(-13, -4), QPointF(13, -4), QPointF(-7, -18), QPointF(7, -18),
+                               QPointF(0, -10), QPointF(0, -28), QPointF(0, -38)})
+        if (const QPointF behind = at + part * scale;
+            taken_.rect().contains(behind.toPoint()) && !free(behind))
+            return false;
+    return true;
+}
+
 void Nature::raisePeaks() {
     const int attempts = land_.size.width() * land_.size.height() / 48;
     for (int k = 0; k < attempts; ++k) {
@@ -165,7 +176,7 @@ void Nature::raisePeaks() {
             !free(at))
             continue;
         const double scale = 0.80 + 2.0 * std::min(0.55, height - 0.30);
-        if (crowded(at, 33 * scale))
+        if (crowded(at, 33 * scale) || !openBehind(at, scale))
             continue;
         const PeakShape shape = shapeAt(height, scale);
         raised_.emplace_back(at, (shape.style == PeakStyle::Mesa ? 42 : 33) * scale);

@@ -5,6 +5,8 @@
 
 #include <QPainterPath>
 
+#include <array>
+
 namespace worldgen {
 
 QSizeF settlementRoom(SiteRole role) {
@@ -60,6 +62,9 @@ class Builder {
     void mission();
     void challenge();
     void area();
+    void raise(Landmark landmark, QPointF at);
+    void grove();
+    void cliffs();
     void dungeon() { scene_.standNew(paintedCave(land_.palette, rng_), QPointF(place_.at)); }
 
   private:
@@ -149,22 +154,52 @@ void Builder::challenge() {
 }
 
 void Builder::area() {
-    const QPointF at = QPointF(place_.at) - QPointF(0, 4);
-    switch (rng_.whole(0, place_.campaign == 3 ? 2 : 3)) {
-    case 0:
-        scene_.standNew(paintedRuin(rng_), at);
-        break;
-    case 1:
-        scene_.standNew(paintedObelisk(rng_), at);
-        break;
-    case 2:
-        for (int k = 0; k < 4; ++k)
-            stand(paintedStandingStone(0.95, rng_), onRing(k * 1.7 + 0.4, 11, 7));
-        break;
-    default:
-        scene_.standNew(land_.theme == Theme::Temperate ? paintedWindmill(rng_) : paintedRuin(rng_), at);
-        break;
+    if (place_.wish.near == SiteNear::Bamboo)
+        grove();
+    if (place_.wish.near == SiteNear::Cliffs)
+        cliffs();
+    // Above the name, not under it.
+    const QPointF at = QPointF(place_.at) - QPointF(0, place_.wish.marked ? 22 : 13);
+    if (place_.wish.landmark != Landmark::None)
+        return raise(place_.wish.landmark, at);
+    constexpr std::array choices{Landmark::Ruin, Landmark::Obelisk, Landmark::Stones, Landmark::Windmill};
+    const Landmark chosen = choices[std::size_t(rng_.whole(0, place_.campaign == 3 ? 2 : 3))];
+    raise(chosen == Landmark::Windmill && land_.theme != Theme::Temperate ? Landmark::Ruin : chosen, at);
+}
+
+void Builder::raise(Landmark landmark, QPointF at) {
+    if (landmark == Landmark::Stones) {
+        for (int k = 0; k < 5; ++k)
+            stand(paintedStandingStone(1.1, rng_),
+                  at + QPointF(cosineOf(k * 1.26 + 0.4) * 13, sineOf(k * 1.26 + 0.4) * 6));
+        return;
     }
+    if (landmark == Landmark::Palms) {
+        for (const QPointF offset : {QPointF(-9, 0), QPointF(0, -4), QPointF(8, 1)})
+            stand(paintedTree(TreeStyle::Palm, land_.palette, rng_.range(1.3, 1.8), rng_), at + offset);
+        return;
+    }
+    if (landmark == Landmark::Bamboo)
+        return grove();
+    stand(paintedLandmark(landmark, style_, land_.palette, rng_), at);
+}
+
+/// Bamboo all around, but for the ground of the name.
+void Builder::grove() {
+    for (int k = 0; k < 150; ++k) {
+        const QPointF at =
+            onRing(rng_.range(0, 2 * kPi), 84 * std::sqrt(rng_.unit()), 52 * std::sqrt(rng_.unit()));
+        const QPointF away = at - QPointF(place_.at);
+        if (std::abs(away.y() - 4) > 12 || std::abs(away.x()) > 48)
+            stand(paintedBamboo(rng_), at);
+    }
+}
+
+/// A wall of rock to the north.
+void Builder::cliffs() {
+    for (int k = -3; k <= 3; ++k)
+        stand(paintedPeak(land_.palette, {PeakStyle::Mesa, rng_.range(0.75, 0.95), 0, {}}, rng_),
+              QPointF(place_.at) + QPointF(k * 27, -26 - 8 + 2.2 * k * k * 0.5));
 }
 
 } // namespace
@@ -195,7 +230,9 @@ void ploughFields(QImage& picture, const Landscape& land, QPoint at, SiteRole ro
 
 void settle(Scene& scene, const Landscape& land, const Settlement& place, Rng& rng) {
     Builder builder(scene, land, place, rng);
-    switch (place.role) {
+    if (land.water(place.at.x(), place.at.y()))
+        return;
+    switch (place.wish.role) {
     case SiteRole::Town:
         return builder.town();
     case SiteRole::Outpost:

@@ -6,8 +6,8 @@ namespace worldgen {
 
 struct Settlement {
     QPoint at;
-    SiteRole role;
     int campaign;
+    const SiteWish& wish;
 };
 
 /// Half the width and half the height of the ground that a settlement needs.
