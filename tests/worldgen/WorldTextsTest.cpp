@@ -1,7 +1,11 @@
+#include "Translation.h"
+#include "WorldBuilder.h"
 #include "WorldSource.h"
 
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -52,6 +56,71 @@ TEST_F(WorldTexts, fitTheirLists) {
     }
     for (const SourceRegion& region : source.regions) {
         EXPECT_GE(RegionLine, width(region.name)) << region.name.toStdString();
+    }
+}
+
+/// The numbers in a text, in no order: languages put them where they like.
+std::multiset<QString> numbers(const QString& text) {
+    static const QRegularExpression number(u"\\d+(\\.\\.\\.\\d+)?"_s);
+    std::multiset<QString> found;
+    for (const QRegularExpressionMatch& match : number.globalMatch(text)) {
+        found.insert(match.captured());
+    }
+    return found;
+}
+
+TEST_F(WorldTexts, sayTheSameAndFitInEveryLanguage) {
+    int widest = 0;
+    for (const SourceSkill& skill : source.skills) {
+        widest = std::max(widest, width(skill.description));
+    }
+    for (std::size_t language = 0; language < std::size(WorldLanguages); ++language) {
+        const WorldSource other = translated(source, QString::fromUtf8(WORLDGEN_WORLD), language, problems);
+        EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
+        for (std::size_t i = 0; i < source.skills.size(); ++i) {
+            const QString& text = other.skills[i].description;
+            EXPECT_EQ(numbers(source.skills[i].description), numbers(text)) << text.toStdString();
+            EXPECT_NE(source.skills[i].description, text);
+            EXPECT_GE(widest * 1.05, width(text)) << text.toStdString();
+        }
+        for (std::size_t i = 0; i < source.collectors.size(); ++i) {
+            EXPECT_EQ(numbers(source.collectors[i].request), numbers(other.collectors[i].request));
+            EXPECT_NE(source.collectors[i].request, other.collectors[i].request);
+        }
+        for (const SourceChest& chest : other.chests) {
+            const QString line = chest.name + u" ("_s + zone(chest.zone).name + u')';
+            EXPECT_GE(188, width(line)) << line.toStdString();
+        }
+    }
+}
+
+TEST_F(WorldTexts, tellWhenNobodyTranslatedThem) {
+    source.bosses[0].note = u"Only on Tuesdays."_s;
+    source.chests[0].name = u"Damage +7% while moving"_s;
+    const WorldSource german = translated(source, QString::fromUtf8(WORLDGEN_WORLD), 0, problems);
+    EXPECT_EQ(QStringList(u"no translation: Only on Tuesdays."_s), problems);
+    EXPECT_EQ(u"Schaden +7% in Bewegung"_s, german.chests[0].name) << "numbers stay";
+}
+
+TEST_F(WorldTexts, repaintOnlyWhatTheyChange) {
+    const QTemporaryDir folder;
+    const auto painted = [&] {
+        std::map<QString, QDateTime> times;
+        EXPECT_TRUE(paintPictures(source, folder.path(), u"imgPets/00"_s).isEmpty());
+        for (const SourcePet& pet : source.pets) {
+            QFile file(folder.filePath(u"Campaign.00.Common/imgPets/"_s + pet.idText + u".jpg"_s));
+            EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+            times[pet.idText] = file.fileTime(QFileDevice::FileModificationTime);
+            file.setFileTime(times[pet.idText].addSecs(-60), QFileDevice::FileModificationTime);
+            times[pet.idText] = file.fileTime(QFileDevice::FileModificationTime);
+        }
+        return times;
+    };
+    const auto first = painted();
+    source.pets[1].animal.ground = u"snow"_s;
+    const auto second = painted();
+    for (const auto& [pet, time] : second) {
+        EXPECT_EQ(pet == source.pets[1].idText, time > first.at(pet)) << pet.toStdString();
     }
 }
 

@@ -3,12 +3,16 @@
 #include "CrowdedWorld.h"
 #include "InParallel.h"
 #include "Placement.h"
+#include "Translation.h"
 #include "WorldFiles.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
 #include <QStringDecoder>
@@ -23,6 +27,51 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int JpegQuality = 90;
+const QString StampKey = u"Painted"_s; ///< in a picture's comment: what it was painted from
+
+/// Pictures of another painter are painted again.
+QByteArray painterStamp() {
+    QFile program(QCoreApplication::applicationFilePath());
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    return program.open(QIODevice::ReadOnly) && hash.addData(&program) ? hash.result() : QByteArray();
+}
+
+QString recipeText(const RegionRecipe& recipe) {
+    QString text = u"%1 %2 %3 %4 %5 %6 %7"_s.arg(recipe.seed)
+                       .arg(recipe.size.width())
+                       .arg(recipe.size.height())
+                       .arg(int(recipe.theme))
+                       .arg(recipe.campaign)
+                       .arg(int(recipe.landform))
+                       .arg(recipe.title);
+    for (const SiteWish& wish : recipe.sites) {
+        text += u"|%1 %2 %3 %4 %5"_s.arg(wish.name)
+                    .arg(int(wish.role))
+                    .arg(int(wish.near))
+                    .arg(int(wish.marked))
+                    .arg(int(wish.landmark));
+    }
+    return text;
+}
+
+QString recipeText(const SkillPicture& picture) {
+    QString text = u"%1 %2 %3"_s.arg(picture.seed).arg(picture.professionColour).arg(picture.attribute);
+    for (const PlacedSign& sign : picture.signs) {
+        text += u'|' + sign.manner.join(u' ');
+        for (const SignPart& part : sign.parts) {
+            text += u'|' + part.material + u' ' + part.shape;
+        }
+    }
+    return text;
+}
+
+QString recipeText(const AnimalPicture& animal) {
+    QString text = animal.ground;
+    for (const AnimalPart& part : animal.parts) {
+        text += u"|%1 %2 %3"_s.arg(part.kind).arg(part.colour).arg(part.shape);
+    }
+    return text;
+}
 constexpr int WithoutAttribute = 5; ///< for the painter of skills
 
 class Builder {
@@ -41,8 +90,11 @@ class Builder {
     void paintSkills();
     void paintPets();
     void writeTables();
+    void writeTranslations();
     void save(const QString& name, const QByteArray& bytes);
-    void savePicture(const QString& name, const QImage& picture);
+    /// Paints unless the picture is there already, painted from the same `recipe` by the same program.
+    void renewPicture(const QString& name, const QString& recipe, const std::function<QImage()>& paint);
+    void savePicture(const QString& name, const QImage& picture, const QString& stamp = {});
     void reuse(const QString& name, const QString& original);
     void problem(const QString& what);
     QString folderOf(int campaign) const;
@@ -53,6 +105,7 @@ class Builder {
     QString outFolder_;
     QString part_; ///< of the names of the pictures to paint; empty: all
     WorldPlaces places_;
+    QByteArray painterStamp_ = painterStamp();
     std::mutex problemsLock_;
     QStringList problems_;
 };
@@ -78,11 +131,23 @@ void Builder::save(const QString& name, const QByteArray& bytes) {
     }
 }
 
-void Builder::savePicture(const QString& name, const QImage& picture) {
+void Builder::renewPicture(const QString& name, const QString& recipe, const std::function<QImage()>& paint) {
+    const QByteArray whole = painterStamp_ + recipe.toUtf8();
+    const QString stamp =
+        QString::fromLatin1(QCryptographicHash::hash(whole, QCryptographicHash::Sha1).toHex());
+    if (QImageReader(outFolder_ + name).text(StampKey) != stamp) {
+        savePicture(name, paint(), stamp);
+    }
+}
+
+void Builder::savePicture(const QString& name, const QImage& picture, const QString& stamp) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "jpg");
     writer.setQuality(JpegQuality);
+    if (!stamp.isEmpty()) {
+        writer.setText(StampKey, stamp);
+    }
     if (!writer.write(picture)) {
         problem(name + u": "_s + writer.errorString());
         return;
@@ -136,7 +201,7 @@ void Builder::paintRegions() {
         const RegionRecipe recipe = recipeFor(source_, region);
         const SurveyedRegion survey = surveyRegion(recipe);
         placeRegion(source_, region, groundOf(survey), places_);
-        savePicture(name, paintRegion(recipe, survey));
+        renewPicture(name, recipeText(recipe), [&] { return paintRegion(recipe, survey); });
     });
 }
 
@@ -149,9 +214,9 @@ void Builder::paintSkills() {
         const QString name = folderOf(skill.campaign) + u"imgElite/"_s + skillPicture(skill.id);
         if (skill.pictureOf == 0 && isWanted(name)) {
             const qsizetype attribute = profession->attributes.indexOf(skill.attribute);
-            savePicture(name,
-                        paintSkillIcon({quint32(skill.id), profession->colour,
-                                        attribute < 0 ? WithoutAttribute : int(attribute), skill.signs}));
+            const SkillPicture picture{quint32(skill.id), profession->colour,
+                                       attribute < 0 ? WithoutAttribute : int(attribute), skill.signs};
+            renewPicture(name, recipeText(picture), [&] { return paintSkillIcon(picture); });
         }
     });
     for (const SourceSkill& skill : source_.skills) {
@@ -170,7 +235,8 @@ void Builder::paintPets() {
             continue;
         }
         if (pet.pictureOf.isEmpty()) {
-            savePicture(name, paintPet(pet.idText.toUInt(), pet.animal));
+            renewPicture(name, pet.idText + recipeText(pet.animal),
+                         [&] { return paintPet(pet.idText.toUInt(), pet.animal); });
         } else {
             reuse(name, folder + pet.pictureOf + u".jpg"_s);
         }
@@ -181,6 +247,25 @@ void Builder::writeTables() {
     for (const SourceCampaign& campaign : source_.campaigns) {
         for (const auto& [name, bytes] : campaignFiles(source_, places_, campaign, problems_)) {
             save(campaignFolder(campaign) + u'/' + name, bytes);
+        }
+    }
+}
+
+/// The tables that hold texts, once more in each language, for players to copy over the English ones.
+void Builder::writeTranslations() {
+    const QStringList withTexts{u"EliteList.txt"_s,    u"EliteLocations.txt"_s, u"Collectors.txt"_s,
+                                u"Greens.txt"_s,       u"Treasures.txt"_s,      u"PetsList.txt"_s,
+                                u"PetsLocations.txt"_s};
+    for (std::size_t language = 0; language < std::size(WorldLanguages); ++language) {
+        const WorldSource world = translated(source_, worldFolder_, language, problems_);
+        const QString folder = u"Data/Worlds/"_s + WorldLanguages[language].toString() + u'/';
+        for (const SourceCampaign& campaign : world.campaigns) {
+            QDir(outFolder_).mkpath(folder + campaignFolder(campaign));
+            for (const auto& [name, bytes] : campaignFiles(world, places_, campaign, problems_)) {
+                if (withTexts.contains(name)) {
+                    save(folder + campaignFolder(campaign) + u'/' + name, bytes);
+                }
+            }
         }
     }
 }
@@ -201,6 +286,7 @@ QStringList Builder::build() {
     paintSkills();
     paintPets();
     if (problems_.isEmpty()) {
+        writeTranslations();
         writeTables(); // last, so that tables never promise what is not there
     }
     return problems_;
