@@ -1,6 +1,7 @@
 #include "support/ProgramFixture.h"
 
 #include <QAccessible>
+#include <QClipboard>
 
 namespace orvinel {
 namespace {
@@ -121,6 +122,18 @@ TEST_F(PanelTest, everySearchFieldFiltersItsOwnListAtEachKey) {
         {"txtNoteBody", u"N1 N1"_s}};
     for (const auto& [name, expected] : fields)
         EXPECT_EQ(expected, callsOf([&] { QTest::keyClicks(on<QLineEdit>(*panel, name), u"ab"_s); })) << name;
+}
+
+TEST_F(PanelTest, pastedLineBreaksDoNotStayInASearchField) {
+    start();
+    for (QLineEdit* field : panel->findChildren<QLineEdit*>()) {
+        QGuiApplication::clipboard()->setText(u"\r\nSkill\t007\nof two\u2028"_s);
+        field->clear();
+        field->paste();
+        EXPECT_EQ(u"Skill 007 of two"_s, field->text()) << field->objectName().toStdString();
+        QTest::keyClicks(field, u" x"_s);
+        EXPECT_EQ(u"Skill 007 of two x"_s, field->text());
+    }
 }
 
 TEST_F(PanelTest, theCaptureOptionSwitchesTheCharacterList) {

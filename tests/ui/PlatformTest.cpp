@@ -9,14 +9,18 @@
 #include "ui/platform/SmallCheckBox.h"
 #include "ui/platform/Windows.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStyleOption>
 #include <QTest>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include <array>
@@ -55,6 +59,23 @@ TEST(ItemCombo, theNarrowestOfThePanelShowsItsFirstEntryInEachLanguage) {
     const int text = combo.fontMetrics().horizontalAdvance(u"<<< Tutti >>>"_s);
     EXPECT_LE(text + 2, place(QStyle::SC_ComboBoxEditField).width());
     EXPECT_LT(place(QStyle::SC_ComboBoxEditField).right(), place(QStyle::SC_ComboBoxArrow).center().x());
+}
+
+TEST(ItemCombo, theOpenListIsAsWideAsItsTextsAndStaysOnTheScreen) {
+    ItemCombo combo(u"cmb"_s, nullptr);
+    combo.resize(100, 22);
+    const QString text = u"A name of many letters, far wider than the field"_s;
+    combo.setEntries({{u"a"_s, 0}, {text, 1}});
+    const QRect screen = combo.screen()->availableGeometry();
+    combo.move(screen.right() - 120, 100);
+    combo.show();
+    combo.showPopup();
+    EXPECT_GE(combo.view()->viewport()->width(), combo.fontMetrics().horizontalAdvance(text));
+    EXPECT_TRUE(screen.contains(combo.view()->window()->geometry()));
+    combo.hidePopup();
+    combo.setEntries({{u"a"_s, 0}});
+    combo.showPopup();
+    EXPECT_EQ(100, combo.view()->window()->width());
 }
 
 TEST(ItemCombo, aRowOfTheOpenListChosenByAScreenReaderIsPicked) {
@@ -157,6 +178,40 @@ TEST_F(ListBoxTest, enterAndDoubleClickActivateTheSelectedEntry) {
     QTest::keyClick(&list, Qt::Key_Return);
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middleOf(2));
     EXPECT_EQ(2, activations);
+}
+
+TEST_F(ListBoxTest, showsWholeRowsOnlyAndTheKeysScrollTheNextOneIn) {
+    std::vector<ListEntry> many(50, {u"row"_s, 1});
+    list.setEntries(many);
+    for (const int height : {100, 95, 105}) {
+        list.resize(200, height);
+        const int whole = (height - 2 * ListBox::frame) / ListBox::rowHeight;
+        EXPECT_EQ(whole * ListBox::rowHeight, list.viewport()->height());
+        list.select(0);
+        for (int row = 1; row <= whole; ++row)
+            QTest::keyClick(&list, Qt::Key_Down);
+        EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.currentIndex()))) << height;
+        const QImage shown = list.grab().toImage();
+        EXPECT_EQ(QColor(Qt::white), shown.pixelColor(100, height - 3)) << "below the rows";
+    }
+    list.setHorizontalExtent(1000);
+    EXPECT_EQ(0, list.viewport()->height() % ListBox::rowHeight);
+}
+
+TEST_F(ListBoxTest, restingOnACutTextShowsItWhole) {
+    const QString text = u"a <b>long</b> name "_s.repeated(5);
+    list.setEntries({{u"short"_s, 1}, {text, 2}});
+    const auto rest = [&](int row) {
+        QHelpEvent event(QEvent::ToolTip, middleOf(row), list.viewport()->mapToGlobal(middleOf(row)));
+        QApplication::sendEvent(list.viewport(), &event);
+        QTextDocument shown;
+        shown.setHtml(QToolTip::text());
+        return shown.toPlainText();
+    };
+    EXPECT_EQ(QString(), rest(0));
+    EXPECT_EQ(text.trimmed(), rest(1).trimmed());
+    list.setHorizontalExtent(1000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rest(1).isEmpty(); })) << "can be scrolled into view";
 }
 
 TEST_F(ListBoxTest, newEntriesClearTheSelectionSilently) {

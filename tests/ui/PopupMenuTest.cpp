@@ -124,6 +124,9 @@ TEST_F(PopupMenuTest, highlightsTheEnabledRowUnderTheMouse) {
     EXPECT_TRUE(highlight->isVisible());
     EXPECT_EQ(QRect(caption(5)->x() - 3, caption(5)->y() - 3, caption(5)->width() + 6, 19),
               highlight->geometry());
+    QTest::mouseMove(caption(8), {menu.width() - 14, 5}); // right of the letters
+    EXPECT_EQ(8, menu.hoverEntry());
+    EXPECT_EQ(menu.width() - 3, highlight->geometry().right() + 1);
     moveOver(caption(3));
     EXPECT_FALSE(highlight->isVisible()) << "a heading";
     moveOver(caption(8));

@@ -3,7 +3,12 @@
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 
+#include <QRegularExpression>
+#include <QValidator>
+
 namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
 
 Label* panelLabel(const QString& name, QPoint at, QWidget* parent) {
     auto* label = new Label(name, parent);
@@ -24,8 +29,28 @@ ListBox* panelList(const QString& name, const QRect& place, QWidget* parent) {
     return list;
 }
 
+namespace {
+
+// A pasted text may begin or end with line breaks, which nobody sees in the field and no entry holds.
+class WithoutBreaks : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& position) const override {
+        static const QRegularExpression breaks(u"[\\x01-\\x1F\\x85\\x{2028}\\x{2029}]+"_s);
+        if (input.contains(breaks)) {
+            input = input.split(breaks, Qt::SkipEmptyParts).join(u' ');
+            position = static_cast<int>(input.size());
+        }
+        return Acceptable;
+    }
+};
+
+} // namespace
+
 QLineEdit* panelField(const QString& name, const QRect& place, QWidget* parent) {
     auto* field = new QLineEdit(parent);
+    field->setValidator(new WithoutBreaks(field));
     field->setObjectName(name);
     field->setGeometry(place);
     return field;

@@ -107,6 +107,9 @@ void frmPopupMenu::OpenMenu(int menu, const Label& label) {
     int widest = 0;
     for (int e = 0; e < shown().EntryCount; ++e)
         widest = std::max(widest, placeRow(e));
+    // A row is chosen anywhere in its width, not just on its letters.
+    for (MenuCaption* caption : lblEntry)
+        caption->resize(widest - caption->x(), caption->height());
     placeFrames(widest, label.width());
     labelPlace_ = QRect(label.mapToGlobal(QPoint(0, 0)), label.size());
     const QRect screen = label.screen()->geometry();

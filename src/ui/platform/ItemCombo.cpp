@@ -1,6 +1,7 @@
 #include "ui/platform/ItemCombo.h"
 
 #include <QAbstractItemView>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -50,7 +51,30 @@ void ItemCombo::showPopup() {
     view()->setAccessibleName(accessibleName());
     connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ItemCombo::pickWhatIsSelected, Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+    widenPopup();
     QComboBox::showPopup();
+}
+
+// As wide as its texts, but not wider than the screen, over whose edge it does not hang.
+void ItemCombo::widenPopup() {
+    const QRect free = screen()->availableGeometry();
+    const bool scrolls = count() > maxVisibleItems();
+    const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) : 0;
+    const int frame = 2 * view()->frameWidth();
+    const int texts = view()->sizeHintForColumn(0) + bar + frame;
+    view()->setMinimumWidth(texts > width() ? std::min(texts, free.width()) : 0);
+    QWidget* popup = view()->window();
+    popup->installEventFilter(this);
+}
+
+bool ItemCombo::eventFilter(QObject* watched, QEvent* event) {
+    auto* popup = qobject_cast<QWidget*>(watched);
+    if (popup == view()->window() && event->type() == QEvent::Show) {
+        const QRect free = screen()->availableGeometry();
+        popup->move(std::max(free.left(), std::min(popup->x(), free.right() + 1 - popup->width())),
+                    popup->y());
+    }
+    return QComboBox::eventFilter(watched, event);
 }
 
 // A screen reader selects a row without making it the current one, as mouse and keys do.

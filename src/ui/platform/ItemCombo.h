@@ -30,9 +30,11 @@ class ItemCombo : public QComboBox {
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void pickWhatIsSelected();
+    void widenPopup();
 };
 
 } // namespace orvinel

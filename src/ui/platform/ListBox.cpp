@@ -6,6 +6,8 @@
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <functional>
@@ -157,13 +159,56 @@ void ListBox::setHorizontalExtent(int pixels) {
     model_->setExtent(pixels);
 }
 
+bool ListBox::isCut(const QModelIndex& index) const {
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const int box =
+        model_->checks.empty() ? 0 : margin + style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this);
+    return model_->extent == 0 && index.isValid() &&
+           fontMetrics().horizontalAdvance(entry(index.row()).text) + 2 * margin + box > viewport()->width();
+}
+
+bool ListBox::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QListView::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    // As rich text, which breaks into lines; a plain text would be one line, however long, or be taken for
+    // rich text where it holds a "<b>".
+    if (isCut(index))
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(entry(index.row()).text), viewport(),
+                           visualRect(index));
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+// What is left below the last whole row belongs to the list's margin: it is not painted as a row and the keys
+// scroll the next one into view.
+void ListBox::updateGeometries() {
+    const QScrollBar& sideways = *horizontalScrollBar();
+    const int shown = height() - 2 * frame - (sideways.isVisibleTo(this) ? sideways.sizeHint().height() : 0);
+    const int rest = std::max(0, shown) % rowHeight;
+    if (rest != belowRows_) {
+        belowRows_ = rest;
+        setViewportMargins(0, 0, 0, rest);
+    }
+    QListView::updateGeometries();
+}
+
 // The frame, too, tells of the focus: a list without a selection shows it nowhere else.
 bool ListBox::event(QEvent* event) {
-    const bool done = QListView::event(event);
+    bool done = QListView::event(event);
+    // Below the last row a press would go on to the panel, which could be dragged there.
+    done = done || event->type() == QEvent::MouseButtonPress;
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         update();
-    if (event->type() == QEvent::Paint && hasFocus()) {
+    if (event->type() == QEvent::Paint) {
+        const QRect rows = viewport()->geometry();
         QPainter painter(this);
+        painter.fillRect(rows.left(), rows.bottom() + 1, rows.width(), belowRows_,
+                         palette().color(viewport()->backgroundRole()));
+        if (!hasFocus())
+            return done;
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         painter.drawRect(rect().adjusted(1, 1, -2, -2));

@@ -11,7 +11,8 @@ namespace orvinel {
 class ListModel;
 
 // A list of texts with item data. Selecting an entry, by the player or by code, emits picked(); so does a
-// click on the entry that is selected already.
+// click on the entry that is selected already. Only whole rows are shown, whatever the list's height; where a
+// text is cut off and cannot be scrolled sideways, resting the mouse on it shows it whole.
 class ListBox : public QListView {
     Q_OBJECT
   public:
@@ -68,6 +69,8 @@ class ListBox : public QListView {
 
   protected:
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void updateGeometries() override;
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -78,10 +81,12 @@ class ListBox : public QListView {
 
   private:
     void tellToggled(int index, bool on);
+    bool isCut(const QModelIndex& index) const;
     void pickWhatIsSelected();
 
     ListModel* model_;
     int revision_ = 0;
+    int belowRows_ = 0; // pixels between the last whole row and the frame
     bool silent_ = false;
     bool scrolling_ = false;
     bool pickedByPress_ = false;
