@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <vector>
 
 namespace orvinel {
@@ -79,6 +80,24 @@ struct Marker {
     }
 
     bool operator==(const Marker&) const = default;
+};
+
+// Appends markers to others.
+inline void appendTo(std::vector<Marker>& markers, std::vector<Marker> more) {
+    if (markers.empty())
+        markers = std::move(more);
+    else
+        markers.insert(markers.end(), std::make_move_iterator(more.begin()),
+                       std::make_move_iterator(more.end()));
+}
+
+// What a layer's markers follow from, in numbers and a text: equal ones mean equal markers. Empty: unknown.
+struct MarkersFrom {
+    std::vector<int> numbers;
+    QString text;
+
+    bool empty() const { return numbers.empty(); }
+    bool operator==(const MarkersFrom&) const = default;
 };
 
 // What the map shows, for the layers' rules. campaign and region are -1 when it shows no region; zone is the

@@ -79,6 +79,36 @@ TEST_F(MapSurfaceTest, equalsThePlainPicturePixelForPixelThroughAllChanges) {
     EXPECT_EQ(ground, surface.composed());
 }
 
+TEST_F(MapSurfaceTest, layersLieOverOneAnotherInTheOrderOfTheirNumbersWhicheverChangedLast) {
+    MapSurface surface(ground.copy(), art);
+    std::array<std::vector<Marker>, 3> layers;
+    for (int round = 0; round < 30; ++round) {
+        const auto changed = size_t(upTo(2));
+        layers[changed] = markers(upTo(30));
+        surface.setMarkers(changed, layers[changed]);
+        std::vector<Marker> all;
+        for (const auto& layer : layers)
+            all.insert(all.end(), layer.begin(), layer.end());
+        ASSERT_EQ(plain(all), surface.composed()) << round;
+    }
+}
+
+TEST_F(MapSurfaceTest, knowsWhatALayerWasMadeFromUntilItIsMadeAnew) {
+    MapSurface surface(ground.copy(), art);
+    const MarkersFrom from{{1, 2}, u"a"_s};
+    EXPECT_FALSE(surface.madeFrom(1, from));
+    surface.setMarkers(1, markers(3), from);
+    EXPECT_TRUE(surface.madeFrom(1, from));
+    EXPECT_FALSE(surface.madeFrom(0, from));
+    EXPECT_FALSE(surface.madeFrom(1, {{1, 2}, u"b"_s}));
+    surface.setMarkers(1, markers(3));
+    EXPECT_FALSE(surface.madeFrom(1, from));
+    EXPECT_FALSE(surface.madeFrom(1, {})) << "nothing said is nothing known";
+    surface.setMarkers(1, markers(3), from);
+    surface.setMarkers(markers(2));
+    EXPECT_FALSE(surface.madeFrom(1, from));
+}
+
 TEST_F(MapSurfaceTest, aPartOutsideThePictureIsNoHarm) {
     MapSurface surface(ground.copy(), art);
     surface.setMarkers(markers(5));

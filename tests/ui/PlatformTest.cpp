@@ -7,6 +7,7 @@
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
 #include "ui/platform/SmallCheckBox.h"
+#include "ui/platform/TextRun.h"
 #include "ui/platform/Windows.h"
 
 #include <QAbstractItemView>
@@ -361,6 +362,31 @@ TEST(EndSignals, areToldFromTheEventLoop) {
     std::raise(SIGTERM);
     EXPECT_EQ(0, told.count());
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
+}
+
+// Text that is shaped once and drawn often looks as if it had been drawn the usual way.
+TEST(TextRunTest, looksAndMeasuresAsTheUsualDrawingDoes) {
+    const QFont font = arial(points10, true);
+    const std::array texts = {u"Harbour AV To."_s,   u"Fürth Œuvre ž"_s,
+                              u" blanks  within "_s, u""_s,
+                              u"soft\u00ADhyphen"_s, u"\u05E9\u05DC right to left"_s,
+                              u"\u4E2D\u6587"_s};
+    for (const QString& text : texts) {
+        QImage usual(220, 40, QImage::Format_RGB32);
+        usual.fill(QColor(40, 90, 20));
+        QImage run = usual.copy();
+        const auto draw = [&](QImage& onto, auto print) {
+            Drawing drawing(&onto);
+            drawing.setFont(font);
+            drawing.setForeground(0xCBEAFF);
+            print(drawing);
+        };
+        const TextRun shaped(text, font);
+        draw(usual, [&](Drawing& drawing) { drawing.print(7, 9, text); });
+        draw(run, [&](Drawing& drawing) { drawing.print(7, 9, shaped); });
+        EXPECT_EQ(usual, run) << qPrintable(text);
+        EXPECT_EQ(QFontMetrics(font).horizontalAdvance(text), shaped.width()) << qPrintable(text);
+    }
 }
 
 } // namespace

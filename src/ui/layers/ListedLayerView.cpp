@@ -3,8 +3,6 @@
 #include "ui/map/ShowOnMap.h"
 #include "ui/map/WindowRules.h"
 
-#include <iterator>
-
 namespace orvinel {
 
 namespace {
@@ -28,8 +26,13 @@ void ListedLayerView::drawMarkers(std::vector<Marker>& markers) const {
     if (!switchedOn())
         return;
     const MapShown shown = map().shown(panel().selection().zoneIndex());
-    std::vector<Marker> own = rules_.markers(with_.state, list_.items(), shown);
-    markers.insert(markers.end(), std::make_move_iterator(own.begin()), std::make_move_iterator(own.end()));
+    appendTo(markers, rules_.markers(with_.state, list_.items(), shown));
+}
+
+// What changes the records refills the list.
+MarkersFrom ListedLayerView::markersFrom() const {
+    const MapShown shown = map().shown(panel().selection().zoneIndex());
+    return {{switchedOn(), shown.campaign, shown.region, shown.zone, list_.revision()}, {}};
 }
 
 std::optional<HitArea> ListedLayerView::hitTest(ViewPoint at) {

@@ -21,6 +21,7 @@ class ListedLayerView : public QObject, public MapLayer, public ListedLayer {
     const MapLocation* selected() const override;
     bool switchedOn() const override { return panel().layerShown(rules_.tab); }
     bool inFront() const override { return panel().tabs().active() == rules_.tab; }
+    MarkersFrom markersFrom() const override;
 
   protected:
     struct Rules {

@@ -62,10 +62,15 @@ void EliteView::DrawEliteSkills(std::vector<Marker>& markers) const {
     if (!switchedOn())
         return;
     const ElitePage& page = panel_.elitePage();
-    std::vector<Marker> boxes =
-        eliteMarkers(state_, page.lstElite->items(), map_.shown(panel_.selection().zoneIndex()),
-                     page.txtEliteBossName->text());
-    std::move(boxes.begin(), boxes.end(), std::back_inserter(markers));
+    appendTo(markers, eliteMarkers(state_, page.lstElite->items(), map_.shown(panel_.selection().zoneIndex()),
+                                   page.txtEliteBossName->text()));
+}
+
+MarkersFrom EliteView::markersFrom() const {
+    const MapShown shown = map_.shown(panel_.selection().zoneIndex());
+    const ElitePage& page = panel_.elitePage();
+    return {{switchedOn(), shown.campaign, shown.region, shown.zone, page.lstElite->revision()},
+            page.txtEliteBossName->text()};
 }
 
 std::optional<EliteHit> EliteView::HitTestElite(ViewPoint at) {

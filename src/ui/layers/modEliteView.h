@@ -33,6 +33,7 @@ class EliteView : public QObject, public MapLayer, public ListedLayer {
     bool switchedOn() const override { return panel_.layerShown(Tab::Elites); }
     bool inFront() const override { return panel_.tabs().active() == Tab::Elites; }
     std::optional<EliteHit> HitTestElite(ViewPoint at);
+    MarkersFrom markersFrom() const override;
     void appendMarkers(std::vector<Marker>& markers) override { DrawEliteSkills(markers); }
     bool mouseOver(ViewPoint at) override { return EliteMouseOver(at); }
     bool doubleClick(ViewPoint at) override;

@@ -33,10 +33,18 @@ const MapLocation* GreensView::selected() const {
 void GreensView::DrawGreens(std::vector<Marker>& markers) const {
     if (!switchedOn())
         return;
-    std::vector<Marker> marks =
-        greenMarkers(state_, panel_.greensPage().lstGreens->items(), panel_.elitePage().lstElite->items(),
-                     map_.shown(panel_.selection().zoneIndex()), panel_.layerShown(Tab::Elites));
-    std::move(marks.begin(), marks.end(), std::back_inserter(markers));
+    appendTo(markers,
+             greenMarkers(state_, panel_.greensPage().lstGreens->items(),
+                          panel_.elitePage().lstElite->items(), map_.shown(panel_.selection().zoneIndex()),
+                          panel_.layerShown(Tab::Elites)));
+}
+
+MarkersFrom GreensView::markersFrom() const {
+    const MapShown shown = map_.shown(panel_.selection().zoneIndex());
+    return {{switchedOn(), shown.campaign, shown.region, shown.zone,
+             panel_.greensPage().lstGreens->revision(), panel_.elitePage().lstElite->revision(),
+             panel_.layerShown(Tab::Elites)},
+            {}};
 }
 
 void GreensView::ShowSelectedGreen() {

@@ -20,6 +20,7 @@ class GreensView : public QObject, public MapLayer, public ListedLayer {
     const MapLocation* selected() const override;
     bool switchedOn() const override { return panel_.layerShown(Tab::Greens); }
     bool inFront() const override { return panel_.tabs().active() == Tab::Greens; }
+    MarkersFrom markersFrom() const override;
     void appendMarkers(std::vector<Marker>& markers) override { DrawGreens(markers); }
 
   private:

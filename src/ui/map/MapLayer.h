@@ -15,9 +15,11 @@ class MapLayer {
   public:
     virtual ~MapLayer() = default;
 
-    // Draws what never changes onto a part of a region picture, once when its pixels are there; the rest of
-    // the picture is left alone.
+    // Draws what never changes onto a part of a region picture, once when it is first seen; the rest of the
+    // picture is left alone.
     virtual void drawGround(QImage&, const QRect& /*part*/, const MapShown&) {}
+    // What the markers follow from; empty: they are to be made anew each time.
+    virtual MarkersFrom markersFrom() const { return {}; }
     // Appends the markers that the layer shows now, in drawing order; nothing when the layer is switched off.
     virtual void appendMarkers(std::vector<Marker>&) {}
     // True when the layer has an item at the place; its information window is shown then.

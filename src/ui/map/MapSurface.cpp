@@ -7,15 +7,27 @@ namespace orvinel {
 
 namespace {
 
-size_t fingerprint(const Marker& marker) {
-    return qHashMulti(1, static_cast<int>(marker.kind), static_cast<int>(marker.sprite), marker.left,
-                      marker.top, marker.right, marker.bottom, marker.fill, marker.code);
+size_t mixed(size_t value) {
+    value *= size_t(0x9E3779B97F4A7C15u);
+    return value ^ (value >> 29);
 }
 
-// Of a sequence: depends on the order.
+size_t packed(int high, int low) {
+    return size_t(quint32(high)) << 32 | quint32(low);
+}
+
+size_t fingerprint(const Marker& marker) {
+    const size_t look = packed(static_cast<int>(marker.kind) << 8 | static_cast<int>(marker.sprite),
+                               static_cast<int>(marker.fill));
+    const size_t place = mixed(packed(marker.left, marker.top)) ^ packed(marker.right, marker.bottom);
+    const size_t print = mixed(mixed(place) ^ look);
+    return marker.code.isEmpty() ? print : mixed(print ^ qHash(marker.code));
+}
+
+// Of a sequence: depends on the order; never 0.
 size_t chained(size_t sequence, size_t next) {
-    const size_t mixed = (sequence ^ next) * size_t(0x9E3779B97F4A7C15u);
-    return mixed == 0 ? 1 : mixed ^ (mixed >> 29);
+    const size_t chain = mixed(sequence ^ next);
+    return chain == 0 ? 1 : chain;
 }
 
 void copyRect(QImage& to, QPoint at, const QImage& from, const QRect& area) {
@@ -32,12 +44,6 @@ MapSurface::MapSurface(GrowingPicture picture, const MarkerArt& art, DrawGround 
       columns_((size().width() + tileSize - 1) / tileSize),
       rows_((size().height() + tileSize - 1) / tileSize),
       tiles_(static_cast<size_t>(columns_) * size_t(rows_)) {
-    drawGroundOn(0);
-}
-
-void MapSurface::drawGroundOn(int fromRow) {
-    if (drawGround_)
-        drawGround_(image(), {0, fromRow, size().width(), picture_.rows - fromRow});
 }
 
 qint64 MapSurface::cost() const {
@@ -59,55 +65,113 @@ QRect MapSurface::tileRect(int column, int row) const {
     return QRect(column * tileSize, row * tileSize, tileSize, tileSize).intersected(image().rect());
 }
 
+bool MapSurface::madeFrom(size_t layer, const MarkersFrom& from) const {
+    return layer < layers_.size() && !from.empty() && layers_[layer].madeFrom == from;
+}
+
+void MapSurface::setMarkers(size_t layer, std::vector<Marker> markers, MarkersFrom madeFrom) {
+    if (layer >= layers_.size())
+        layers_.resize(layer + 1);
+    Layer& changed = layers_[layer];
+    changed.markers = std::move(markers);
+    changed.madeFrom = std::move(madeFrom);
+    sortIntoTiles(changed);
+}
+
 void MapSurface::setMarkers(std::vector<Marker> markers) {
-    markers_ = std::move(markers);
-    starts_.assign(tiles_.size() + 1, 0);
+    layers_.clear();
+    setMarkers(0, std::move(markers));
+}
+
+void MapSurface::sortIntoTiles(Layer& layer) const {
     std::vector<QRect> touched;
-    touched.reserve(markers_.size());
+    touched.reserve(layer.markers.size());
+    layer.starts.assign(tiles_.size() + 1, 0);
+    layer.prints.assign(tiles_.size(), 0);
     const auto forTiles = [&](const QRect& range, auto&& visit) {
         for (int row = range.top(); row <= range.bottom(); ++row)
             for (int column = range.left(); column <= range.right(); ++column)
-                visit(static_cast<size_t>(row) * size_t(columns_) + size_t(column));
+                visit(tileIndex(column, row));
     };
-    for (const Marker& marker : markers_) {
+    for (const Marker& marker : layer.markers) {
         touched.push_back(tilesOf(art_.bounds(marker)));
-        forTiles(touched.back(), [&](size_t tile) { ++starts_[tile + 1]; });
+        forTiles(touched.back(), [&](size_t tile) { ++layer.starts[tile + 1]; });
     }
-    for (size_t tile = 0; tile < tiles_.size(); ++tile) {
-        starts_[tile + 1] += starts_[tile];
-        tiles_[tile].wanted = 0;
-    }
-    order_.resize(static_cast<size_t>(starts_.back()));
-    std::vector<int> next(starts_.begin(), starts_.end() - 1);
-    for (size_t i = 0; i < markers_.size(); ++i) {
-        const size_t print = fingerprint(markers_[i]);
+    for (size_t tile = 0; tile < tiles_.size(); ++tile)
+        layer.starts[tile + 1] += layer.starts[tile];
+    layer.order.resize(static_cast<size_t>(layer.starts.back()));
+    std::vector<int> next(layer.starts.begin(), layer.starts.end() - 1);
+    for (size_t i = 0; i < layer.markers.size(); ++i) {
+        const size_t print = fingerprint(layer.markers[i]);
         forTiles(touched[i], [&](size_t tile) {
-            order_[static_cast<size_t>(next[tile]++)] = static_cast<int>(i);
-            tiles_[tile].wanted = chained(tiles_[tile].wanted, print);
+            layer.order[static_cast<size_t>(next[tile]++)] = static_cast<int>(i);
+            layer.prints[tile] = chained(layer.prints[tile], print);
         });
     }
 }
 
+// Identifies the sequence of markers that belong on the tile; 0: none.
+size_t MapSurface::wanted(size_t tile) const {
+    size_t print = 0;
+    for (const Layer& layer : layers_)
+        if (!layer.prints.empty() && layer.prints[tile] != 0)
+            print = chained(print, layer.prints[tile]);
+    return print;
+}
+
 const QImage& MapSurface::composed(const QRect& area) {
     const QRect range = tilesOf(area);
-    if (!range.isEmpty() && tileRect(0, range.bottom()).bottom() >= picture_.rows) {
-        const int known = picture_.rows;
+    if (!range.isEmpty() && tileRect(0, range.bottom()).bottom() >= picture_.rows)
         picture_.finish();
-        drawGroundOn(known);
-    }
+    drawGroundOn(range);
     QPainter painter;
     for (int row = range.top(); row <= range.bottom(); ++row)
         for (int column = range.left(); column <= range.right(); ++column) {
-            const Tile& tile = tiles_[static_cast<size_t>(row) * size_t(columns_) + size_t(column)];
-            if (tile.wanted == tile.drawn)
-                continue;
-            redraw(painter, column, row);
+            const size_t tile = tileIndex(column, row);
+            if (const size_t belongs = wanted(tile); belongs != tiles_[tile].drawn)
+                redraw(painter, column, row, belongs);
         }
     return image();
 }
 
-void MapSurface::redraw(QPainter& painter, int column, int row) {
-    const size_t index = static_cast<size_t>(row) * size_t(columns_) + size_t(column);
+// The end of the tiles of a row, from `column` on, that have not got their ground.
+int MapSurface::ungroundedFrom(int column, int row, int lastColumn) const {
+    while (column <= lastColumn && !tiles_[tileIndex(column, row)].grounded)
+        ++column;
+    return column;
+}
+
+// In parts as large as may be: what lies across the border of two is drawn for both.
+void MapSurface::drawGroundOn(const QRect& tiles) {
+    if (!drawGround_)
+        return;
+    for (int row = tiles.top(); row <= tiles.bottom(); ++row)
+        for (int column = tiles.left(); column <= tiles.right(); ++column) {
+            const int end = ungroundedFrom(column, row, tiles.right());
+            if (end == column)
+                continue;
+            int last = row;
+            while (last < tiles.bottom() && ungroundedFrom(column, last + 1, end - 1) == end)
+                ++last;
+            for (int y = row; y <= last; ++y)
+                for (int x = column; x < end; ++x)
+                    tiles_[tileIndex(x, y)].grounded = true;
+            drawGround_(image(), tileRect(column, row).united(tileRect(end - 1, last)));
+        }
+}
+
+bool MapSurface::drawMoreGround() {
+    if (groundedRows_ == rows_)
+        return false;
+    if (!picture_.ready())
+        return true;
+    picture_.finish();
+    drawGroundOn({0, groundedRows_, columns_, 1});
+    return ++groundedRows_ < rows_;
+}
+
+void MapSurface::redraw(QPainter& painter, int column, int row, size_t wanted) {
+    const size_t index = tileIndex(column, row);
     Tile& tile = tiles_[index];
     const QRect area = tileRect(column, row);
     if (tile.drawn != 0) {
@@ -116,14 +180,16 @@ void MapSurface::redraw(QPainter& painter, int column, int row) {
         tile.clean = QImage(area.size(), image().format());
         copyRect(tile.clean, {}, image(), area);
     }
-    if (tile.wanted == 0)
+    if (wanted == 0)
         tile.clean = {};
     if (!painter.isActive())
         painter.begin(&image());
     painter.setClipRect(area);
-    for (int i = starts_[index]; i < starts_[index + 1]; ++i)
-        art_.draw(painter, markers_[static_cast<size_t>(order_[static_cast<size_t>(i)])]);
-    tile.drawn = tile.wanted;
+    for (const Layer& layer : layers_)
+        if (!layer.starts.empty())
+            for (int i = layer.starts[index]; i < layer.starts[index + 1]; ++i)
+                art_.draw(painter, layer.markers[static_cast<size_t>(layer.order[static_cast<size_t>(i)])]);
+    tile.drawn = wanted;
 }
 
 } // namespace orvinel

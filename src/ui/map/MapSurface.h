@@ -12,15 +12,16 @@
 
 namespace orvinel {
 
-// The composition: a region picture and the markers over it. Only tiles whose markers changed are drawn anew,
-// and only when somebody asks for them; the picture below a tile's markers is kept with the tile.
+// The composition: a region picture, what never changes on it, and the layers' markers over it. Only tiles
+// whose markers changed are drawn anew, and only when somebody asks for them; the picture below a tile's
+// markers is kept with the tile.
 class MapSurface {
   public:
-    // Draws what never changes onto a part of the region picture.
+    // Draws what never changes onto a part of the region picture and leaves the rest alone.
     using DrawGround = std::function<void(QImage& picture, const QRect& part)>;
 
-    // Takes the region picture (RGB32). `drawGround` is called once for each part of it, when its pixels are
-    // there; `art` and what it refers to outlive the surface.
+    // Takes the region picture (RGB32). `drawGround` is called once for each part of it, when somebody first
+    // asks for it; `art` and what it refers to outlive the surface.
     MapSurface(GrowingPicture picture, const MarkerArt& art, DrawGround drawGround = {});
 
     // The rows of a picture that have to be there before `rows` of them, from the top, can be composed.
@@ -32,9 +33,16 @@ class MapSurface {
 
     // Begins to get what of the picture is missing yet; who needs it before waits for it.
     void beginRest() { picture_.beginRest(); }
+    // Draws some of the ground that nobody has asked for yet, without waiting; False: all of it is drawn.
+    bool drawMoreGround();
 
-    // In drawing order, later ones over earlier ones.
+    // A layer's markers in drawing order, later ones over earlier ones; layers are drawn in the order of
+    // their numbers, 0 first. `madeFrom`: what the markers follow from, so that it need not be done again.
+    void setMarkers(size_t layer, std::vector<Marker> markers, MarkersFrom madeFrom = {});
+    // Those of all layers in one.
     void setMarkers(std::vector<Marker> markers);
+    // True when the layer's markers, as they are, were made from just that, and it says something.
+    bool madeFrom(size_t layer, const MarkersFrom& from) const;
 
     // The composition, up to date within `area` (map pixels).
     const QImage& composed(const QRect& area);
@@ -42,18 +50,29 @@ class MapSurface {
 
   private:
     struct Tile {
-        size_t wanted = 0; // identifies the sequence of markers that belong on the tile; 0: none
-        size_t drawn = 0;  // of those that are on it
-        QImage clean;      // the ground below them, while there are any
+        bool grounded = false; // what never changes is on it
+        size_t drawn = 0;      // identifies the sequence of markers that is on it; 0: none
+        QImage clean;          // the ground below them, while there are any
+    };
+    struct Layer {
+        std::vector<Marker> markers;
+        MarkersFrom madeFrom;
+        std::vector<int> starts;    // per tile: where its markers begin in order
+        std::vector<int> order;     // indexes into markers, tile by tile
+        std::vector<size_t> prints; // per tile: identifies the sequence of its markers; 0: none
     };
     static constexpr int tileSize = 64; // pixels
 
     QImage& image() { return picture_.image; }
     const QImage& image() const { return picture_.image; }
-    void drawGroundOn(int fromRow);
+    size_t tileIndex(int column, int row) const { return size_t(row) * size_t(columns_) + size_t(column); }
     QRect tilesOf(const QRect& area) const; // columns and rows
     QRect tileRect(int column, int row) const;
-    void redraw(QPainter& painter, int column, int row);
+    void sortIntoTiles(Layer& layer) const;
+    size_t wanted(size_t tile) const;
+    void drawGroundOn(const QRect& tiles);
+    int ungroundedFrom(int column, int row, int lastColumn) const;
+    void redraw(QPainter& painter, int column, int row, size_t wanted);
 
     const MarkerArt& art_;
     DrawGround drawGround_;
@@ -61,9 +80,8 @@ class MapSurface {
     int columns_;
     int rows_;
     std::vector<Tile> tiles_;
-    std::vector<Marker> markers_;
-    std::vector<int> starts_; // per tile: where its markers begin in order_
-    std::vector<int> order_;  // indexes into markers_, tile by tile
+    int groundedRows_ = 0; // of tiles, from the top, that drawMoreGround is done with
+    std::vector<Layer> layers_;
 };
 
 } // namespace orvinel

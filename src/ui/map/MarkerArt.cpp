@@ -40,7 +40,26 @@ const QImage& MarkerArt::picture(Sprite sprite) const {
 QRect MarkerArt::bounds(const Marker& marker) const {
     if (marker.kind == Marker::Kind::Sprite)
         return {QPoint(marker.left, marker.top), picture(marker.sprite).size()};
-    return {QPoint(marker.left, marker.top - codeAbove), box(marker).size()};
+    return {QPoint(marker.left, marker.top - codeAbove), boxSize(marker)};
+}
+
+// With the line above it that a code's letters begin in. A wide code hangs over the right edge of its box.
+QSize MarkerArt::boxSize(const Marker& marker) const {
+    QSize size(marker.right - marker.left + 1, marker.bottom - marker.top + 1);
+    if (!marker.code.isEmpty())
+        size = size.expandedTo(codeSize(marker.code));
+    return {size.width(), codeAbove + size.height()};
+}
+
+// Up to the right edge that a box needs for it, and the height of its line.
+const QSize& MarkerArt::codeSize(const QString& code) const {
+    const bool usual = code.size() == 1 && code[0].unicode() < letterSizes_.size();
+    QSize& size = usual ? letterSizes_[code[0].unicode()] : codeSizes_[code];
+    if (size.isValid())
+        return size;
+    const QFontMetrics metrics(arial(points8, true));
+    size = {codeIndent(code) + metrics.horizontalAdvance(code) + 1, metrics.height()};
+    return size;
 }
 
 void MarkerArt::draw(QPainter& painter, const Marker& marker) const {
@@ -56,16 +75,10 @@ const QImage& MarkerArt::box(const Marker& marker) const {
     QImage& image = boxes_[{width, height, marker.fill, marker.code}];
     if (!image.isNull())
         return image;
-    const QFont font = arial(points8, true);
-    const QFontMetrics metrics(font);
-    // A wide code hangs over the right edge of its box.
-    const int textRight = codeIndent(marker.code) + metrics.horizontalAdvance(marker.code) + 1;
-    const QSize size(marker.code.isEmpty() ? width : std::max(width, textRight),
-                     codeAbove + std::max(height, marker.code.isEmpty() ? 0 : metrics.height()));
-    image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    image = QImage(boxSize(marker), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     Drawing drawing(&image);
-    drawing.setFont(font);
+    drawing.setFont(arial(points8, true));
     drawing.setFill(marker.fill);
     drawing.box(0, codeAbove, width - 1, codeAbove + height - 1);
     drawing.print(codeIndent(marker.code), 0, marker.code);

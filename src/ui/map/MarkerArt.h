@@ -34,10 +34,14 @@ class MarkerArt {
         return qHashMulti(seed, key.width, key.height, key.fill, key.code);
     }
     const QImage& box(const Marker& marker) const;
+    QSize boxSize(const Marker& marker) const;
+    const QSize& codeSize(const QString& code) const;
 
     // Filled when first needed.
     mutable std::array<QImage, static_cast<size_t>(Sprite::Count)> pictures_;
     mutable QHash<BoxKey, QImage> boxes_;
+    mutable std::array<QSize, 128> letterSizes_; // of codes of one ASCII character
+    mutable QHash<QString, QSize> codeSizes_;    // of the others
 };
 
 } // namespace orvinel

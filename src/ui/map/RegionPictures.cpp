@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 
+#include <chrono>
 #include <cstring>
 #include <utility>
 
@@ -88,6 +89,11 @@ QImage loadPicture(const Disk& disk, const QString& path, qint64 mostBytes,
 void GrowingPicture::beginRest() {
     if (decodeRest)
         rest = std::async(std::launch::async, std::exchange(decodeRest, nullptr));
+}
+
+bool GrowingPicture::ready() const {
+    return !decodeRest &&
+           (!rest.valid() || rest.wait_for(std::chrono::seconds(0)) == std::future_status::ready);
 }
 
 void GrowingPicture::finish() {

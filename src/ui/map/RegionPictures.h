@@ -30,6 +30,8 @@ struct GrowingPicture {
 
     // Begins with the rest, on another thread, when there is one that nobody began with.
     void beginRest();
+    // True when finish() need not wait.
+    bool ready() const;
     // Waits for the rest. Rows that cannot be decoded are black.
     void finish();
 

@@ -25,6 +25,7 @@ namespace {
 constexpr int margin = 2;    // pixels around picMap
 constexpr int smallest = 80; // 1200 twips, both ways
 constexpr QSize designSize(624 + 2 * margin, 491 + 2 * margin);
+constexpr int groundPauseMs = 20;
 constexpr qint64 cachedBytes = 96ll * 1024 * 1024;
 // From here on a region gets the room of those left before: decoding a progressive picture takes two and a
 // half times what the picture does.
@@ -41,6 +42,9 @@ frmMap::frmMap(Surroundings with, QWidget* owner)
     setMinimumSize(smallest, smallest);
     setCursor(programCursor(Pointer::Usual));
     viewport_->setCursor(programCursor(Pointer::OpenHand));
+    groundTimer_.setSingleShot(true);
+    groundTimer_.setInterval(groundPauseMs);
+    connect(&groundTimer_, &QTimer::timeout, this, &frmMap::prepareGround);
     buildButtons();
     connectViewport();
     new EdgeResize(*this, smallest, {viewport_});
@@ -102,6 +106,7 @@ void frmMap::InizializzaVariabili(const QString& picture, int campaign, int regi
         surface_ = region < 0 || campaign < 0 ? nullptr : loadRegion(picture, campaign, region);
         surfacePath_ = picture;
         viewport_->showSurface(surface_.get());
+        groundTimer_.start();
     } else if (region == -1 || campaign == -1) {
         surface_.reset();
         viewport_->showSurface(nullptr);
@@ -143,6 +148,13 @@ std::unique_ptr<MapSurface> frmMap::loadRegion(const QString& picture, int campa
 void frmMap::beginRest() {
     if (surface_)
         surface_->beginRest();
+    prepareGround();
+}
+
+// Before it scrolls into view; a row of tiles at a time, so that nobody waits for it.
+void frmMap::prepareGround() {
+    if (surface_ && surface_->drawMoreGround())
+        groundTimer_.start();
 }
 
 void frmMap::showEmptyMap() {
@@ -161,10 +173,15 @@ void frmMap::CenterMapOn(int x, int y) {
 void frmMap::DrawEverythingOnMap() {
     if (!mapLoaded())
         return;
-    std::vector<Marker> markers;
-    for (MapLayer* layer : chains_.drawing)
-        layer->appendMarkers(markers);
-    surface_->setMarkers(std::move(markers));
+    for (size_t i = 0; i < chains_.drawing.size(); ++i) {
+        MapLayer& layer = *chains_.drawing[i];
+        MarkersFrom from = layer.markersFrom();
+        if (surface_->madeFrom(i, from))
+            continue;
+        std::vector<Marker> markers;
+        layer.appendMarkers(markers);
+        surface_->setMarkers(i, std::move(markers), std::move(from));
+    }
     startFlashing();
     UpdateMap();
     with_.desktop.processPendingEvents();

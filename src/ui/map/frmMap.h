@@ -10,6 +10,7 @@
 #include "ui/map/RegionPictures.h"
 #include "ui/map/SurfaceCache.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -108,11 +109,13 @@ class frmMap : public QWidget {
     ViewPoint bringIntoView(MapPoint place);
     void sayWhatIsShown();
     void showEmptyMap();
+    void prepareGround();
     std::unique_ptr<MapSurface> loadRegion(const QString& picture, int campaign, int region);
 
     Surroundings with_;
     MarkerArt art_;
     SurfaceCache cache_;
+    QTimer groundTimer_;
     PictureAhead expected_;
     Chains chains_;
     std::vector<InformationWindow*> windows_;

@@ -38,6 +38,11 @@ void Drawing::print(int x, int y, const QString& text) {
     painter_.drawText(x, y + painter_.fontMetrics().ascent(), text);
 }
 
+void Drawing::print(int x, int y, const TextRun& text) {
+    painter_.setPen(toQColor(foreground_));
+    text.draw(painter_, x, y + painter_.fontMetrics().ascent());
+}
+
 int Drawing::textWidth(const QString& text) const {
     return painter_.fontMetrics().horizontalAdvance(text);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Colour.h"
+#include "ui/platform/TextRun.h"
 
 #include <QColor>
 #include <QFontMetrics>
@@ -34,6 +35,7 @@ class Drawing {
     void line(int x1, int y1, int x2, int y2, Colour colour);
     // The text's line starts at (x, y), its top left corner, in the foreground colour.
     void print(int x, int y, const QString& text);
+    void print(int x, int y, const TextRun& text);
     int textWidth(const QString& text) const;
     int lineHeight() const;
 
