@@ -50,8 +50,9 @@ void paintCracks(QImage& picture, const Landscape& land) {
             const double height = land.height.at(x, y);
             if (height < 0.17 || land.toWater.at(x, y) < 30)
                 continue;
-            const double where =
-                smoothStep(0.10, 0.32, n.a.fbm(x / 140.0 + 9, y / 140.0, 2)) * smoothStep(0.17, 0.26, height);
+            const double where = smoothStep(0.10, 0.32, n.a.fbm(x / 140.0 + 9, y / 140.0, 2)) *
+                                 smoothStep(0.17, 0.26, height) *
+                                 smoothStep(0.24, 0.31, land.surroundAt(x, y)); // by a range
             if (where <= 0)
                 continue;
             const double crack = 1 - std::fabs(n.c.fbm(x / 52.0, y / 40.0, 3));

@@ -21,7 +21,8 @@ void paintRivers(QImage& picture, const Landscape& land);
 void paintCliffs(QImage& picture, const Landscape& land);
 void paintCracks(QImage& picture, const Landscape& land);
 
-/// A ship or two and a sea serpent, where the sea is wide; nothing inside \a taken.
-void paintSeafarers(QImage& picture, const Landscape& land, const std::vector<QRect>& taken);
+/// A ship or two as the campaign builds them, and a serpent or a whale, where the sea is wide; nothing inside
+/// \a taken.
+void paintSeafarers(QImage& picture, const Landscape& land, int campaign, const std::vector<QRect>& taken);
 
 } // namespace worldgen

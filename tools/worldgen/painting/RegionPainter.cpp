@@ -110,7 +110,7 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
     paintFrame(picture);
     const QRect title = paintTitle(picture, land, survey.sites, recipe.title);
     const QRect rose = paintCompass(picture, land, title);
-    paintSeafarers(picture, land, {title, rose});
+    paintSeafarers(picture, land, recipe.campaign, {title, rose});
     return picture;
 }
 
