@@ -43,7 +43,9 @@ def defs():
         parts.append(gradient(f's{i}', [(0, '#02161c', .62), (.7, '#02161c', .22), (1, '#02161c', 0)],
                               place=f'{box} x1="0" y1="{base - height}" x2="0" y2="{base + 30}"'))
         parts.append(gradient(f'm{i}', [(0, top), (1, haze)], place=f'{box} x1="0" y1="{base - height}" x2="0" y2="{base + 46}"'))
-    return ''.join(parts)
+    credits = '<radialGradient id="credits" cx="1" cy="1" r="1"><stop offset="0" stop-color="#04090a" stop-opacity=".9"/>' \
+        '<stop offset=".62" stop-color="#04090a" stop-opacity=".74"/><stop offset="1" stop-color="#04090a" stop-opacity="0"/></radialGradient>'
+    return credits + ''.join(parts)
 
 
 def rose():
@@ -241,5 +243,6 @@ def draw(_):
     land = range_(0) + mist(424, .42) + range_(1) + mist(462, .30) + range_(2) + mist(500, .22, '#9ab89a') + range_(3)
     near = lake(brush) + castle() + mist(560, .2, '#8ab0a0') + shore(brush) + route() + ledge(brush) + traveller()
     grain = f'<rect width="{W}" height="{H}" filter="url(#grain)" opacity=".05"/>'
-    dark = f'<rect width="{W}" height="{H}" fill="url(#top)"/><rect width="{W}" height="{H}" fill="url(#right)"/>'
+    dark = f'<rect width="{W}" height="{H}" fill="url(#top)"/><rect width="{W}" height="{H}" fill="url(#right)"/>' + \
+        '<rect x="190" y="490" width="558" height="231" fill="url(#credits)"/>'  # in small windows the credits stand there
     return page(W, H, defs(), sky + sun + land + near + grain + dark)
