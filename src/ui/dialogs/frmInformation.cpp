@@ -165,8 +165,9 @@ void frmInformation::addFigure(int index) {
 void frmInformation::addCaption(int index) {
     const QRect& figure = figurePlaces[static_cast<size_t>(index)];
     const CaptionText& text = captionTexts[static_cast<size_t>(index)];
-    const QPoint place(std::min(figure.center().x() - captionSize.width() / 2,
-                                clientPlace.width() - captionSize.width() - captionGap),
+    const QPoint place(std::clamp(figure.center().x() - captionSize.width() / 2,
+                                  dedicationPlace.right() + captionGap,
+                                  clientPlace.width() - captionSize.width() - captionGap),
                        figure.bottom() + 1 + captionGap);
     auto* strip = new QLabel(picOntainer);
     strip->setObjectName(u"imgChar(%1)"_s.arg(index));
