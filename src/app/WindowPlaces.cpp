@@ -25,7 +25,7 @@ WindowPlaces::WindowPlaces(Options& options, Desktop& desktop, Windows windows)
 
 void WindowPlaces::RestoreWindowPlacement() {
     const QRect area = desktop_.workArea();
-    const auto remembered = rememberedPair(options_, area, desktop_.allScreens(), windows_.panel.width());
+    const auto remembered = rememberedPair(options_, area, desktop_.allScreens(), panelWidth());
     if (!remembered)
         options_.PosX = options_.PosY = options_.DimX = options_.DimY = -1;
     if (!remembered || !(desktop_.reachable(remembered->panel) || desktop_.reachable(remembered->map))) {
@@ -56,7 +56,7 @@ void WindowPlaces::ToggleMapMaximised() {
     const bool inset = MapMaximised;
     // Off while the windows move, so that the map is not taken along by the panel.
     MapMaximised = true;
-    place(maximisedPair(desktop_.workArea(), windows_.panel.width(), inset));
+    place(maximisedPair(desktop_.workArea(), panelWidth(), inset));
     MapMaximised = !inset;
 }
 
@@ -104,6 +104,10 @@ void WindowPlaces::settle() {
     if (unmoved)
         restored_ = wanted();
     settling_.start();
+}
+
+int WindowPlaces::panelWidth() const {
+    return windows_.panel.maximumWidth();
 }
 
 WindowPair WindowPlaces::wanted() const {

@@ -47,6 +47,8 @@ class WindowPlaces : public QObject {
   private:
     void place(const WindowPair& pair);
     void endAppearing();
+    // Its own: a window manager that tiles makes the panel as wide as the screen.
+    int panelWidth() const;
     WindowPair wanted() const;
     // Looks where the windows really are, and puts them side by side.
     void settle();

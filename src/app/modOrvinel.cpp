@@ -145,7 +145,6 @@ void Program::showWindows() {
     applyAlwaysOnTop();
     desktop_.processPendingEvents();
     taskBar_->showOutside(desktop_.allScreens());
-    panel_->activateWindow();
 }
 
 void Program::OpenWithShell(const QString& target) {

@@ -4,6 +4,7 @@
 Exit code 77: a tool is missing here.
 """
 
+import ctypes
 import os
 import re
 import shutil
@@ -12,12 +13,13 @@ import time
 
 import journeys
 from journeys import Player, in_marsh, make_world
-from screen import click, has_focus, hover, keys, run, until, windows
+from screen import Running, click, has_focus, hover, keys, run, until, windows
 
 MANAGERS = ["openbox", "xfwm4", "kwin_x11", "marco"]
 MINIMISING = ["openbox"]  # they minimise any window that they are asked to
 CALM = 0.5  # seconds
 MONITOR = 1280  # pixels wide; there are two of them
+BAR = 40  # pixels high
 MAXIMISE, MINIMISE = 26, 42  # pixels from the map's right edge
 FIRST_SKILL = (60, 358)  # in the panel
 MOTIF_MINIMISE, MOTIF_MAXIMISE = 8, 16  # what a window lets the window manager do
@@ -71,6 +73,17 @@ def task_bar(folder):
             run("xdotool", "windowactivate", str(player.button.number))
             until("all windows back", lambda: len(player.shown()) == 3)
             all_have(player, {"SKIP_TASKBAR"})
+
+
+def calm_start(folder):
+    """After the start the keyboard is in the panel, and the task bar's button asks for nothing."""
+    make_world(folder)
+    in_marsh(folder)
+    for _ in range(2):
+        with Desktop(folder) as player:
+            steady("the keyboard in the panel", lambda: has_focus(player.panel))
+            until("a calm button", lambda: "DEMANDS_ATTENTION" not in state(player.button.number))
+            player.quit()
 
 
 def is_iconic(window):
@@ -164,6 +177,25 @@ def unmanaged(folder):
         player.quit()
 
 
+def tiled(folder):
+    """Where windows are tiled and none is minimised, they stay, and the map keeps a width that can be used."""
+    make_world(folder)
+    with Running(folder) as player:
+        def main_windows():
+            return sorted((w for w in windows(player.process.pid) if w.title == "Orvinel"), key=lambda w: w.width)
+
+        def rest():
+            steady("panel and map", lambda: len(main_windows()) == 2)
+            return main_windows()[0]  # the map: the panel is as wide as the screen
+
+        before = rest()
+        before.click(before.width - MINIMISE, 10)
+        for smaller in False, True, False:
+            after = rest()
+            assert after.width > MONITOR and (after.width < before.width - 100) == smaller, f"{after.width} of {before.width}"
+            after.click(after.width - MAXIMISE, 10)
+
+
 def always_on_top(folder):
     make_world(folder)
     in_marsh(folder)
@@ -196,9 +228,7 @@ def places(player):
 def second_monitor(folder):
     make_world(folder)
     in_marsh(folder)
-    for name, left, output in (("left", 0, "screen"), ("right", MONITOR, "none")):
-        run("xrandr", "--setmonitor", name, f"{MONITOR}/300x900/200+{left}+0", output)
-
+    two_monitors()
     with Desktop(folder) as player:
         assert player.map.x + player.map.width <= MONITOR, "more than the first monitor is filled"
         player.map.click(player.map.width - MAXIMISE, 10)
@@ -221,6 +251,60 @@ def second_monitor(folder):
         assert player.end() == 0
     with Desktop(folder) as player:
         until(f"the windows at {stood}", lambda: places(player) == stood)
+
+
+class Bar:
+    """A bar along the upper edge of the left monitor, as a desktop's own."""
+
+    def __enter__(self):
+        x = self.x = ctypes.CDLL("libX11.so.6")
+        x.XOpenDisplay.restype = x.XDefaultRootWindow.restype = x.XInternAtom.restype = ctypes.c_ulong
+        x.XCreateSimpleWindow.restype = ctypes.c_ulong
+        display = self.display = ctypes.c_void_p(x.XOpenDisplay(None))
+        root = ctypes.c_ulong(x.XDefaultRootWindow(display))
+        window = ctypes.c_ulong(x.XCreateSimpleWindow(display, root, 0, 0, MONITOR, BAR, 0, 0, 0x404040))
+
+        def atom(name):
+            return ctypes.c_ulong(x.XInternAtom(display, name.encode(), 0))
+
+        def have(name, kind, *values):
+            data = (ctypes.c_ulong * len(values))(*values)
+            x.XChangeProperty(display, window, atom(name), atom(kind), 32, 0, data, len(values))
+        have("_NET_WM_WINDOW_TYPE", "ATOM", atom("_NET_WM_WINDOW_TYPE_DOCK").value)
+        have("_NET_WM_STRUT", "CARDINAL", 0, 0, BAR, 0)
+        have("_NET_WM_STRUT_PARTIAL", "CARDINAL", 0, 0, BAR, 0, 0, 0, 0, 0, 0, MONITOR - 1, 0, 0)
+        x.XMapWindow(display, window)
+        x.XMoveWindow(display, window, 0, 0)
+        x.XFlush(display)
+        until("the room below the bar", lambda: f", {BAR}, " in run("xprop", "-root", "_NET_WORKAREA") or
+              f", {BAR}, " in run("xprop", "-root", "_GTK_WORKAREAS_D0"))
+        return self
+
+    def __exit__(self, *_):
+        self.x.XCloseDisplay(self.display)
+
+
+def two_monitors():
+    for name, left, output in (("left", 0, "screen"), ("right", MONITOR, "none")):
+        run("xrandr", "--setmonitor", name, f"{MONITOR}/300x900/200+{left}+0", output)
+
+
+def below_the_bar(folder):
+    """With two monitors and a bar on the first, the first start fills what the bar leaves of that one."""
+    make_world(folder)
+    two_monitors()
+    with Bar(), Desktop(folder) as player:
+        wanted = [(0, BAR, journeys.PANEL_WIDTH, 900 - BAR),
+                  (journeys.PANEL_WIDTH, BAR, MONITOR - journeys.PANEL_WIDTH, 900 - BAR)]
+        for _ in range(2):
+            try:
+                steady("room filled", lambda: places(player) == wanted)
+            except AssertionError:
+                raise AssertionError(f"{places(player)} instead of {wanted}") from None
+            player.map.click(player.map.width - MAXIMISE, 10)
+            until("smaller windows", lambda: places(player)[0][0] > 0)
+            x, y, width, _ = places(player)[1]
+            click(x + width - MAXIMISE, y + 10)
 
 
 def lower_edge(folder):
@@ -290,13 +374,14 @@ def hasty_click(folder):
         until("the windows at their new place", lambda: [p[:2] for p in places(player)] == [(140, 70), (357, 70)])
 
 
-ERRANDS = [task_bar, comes_back, goes_along, always_on_top, second_monitor, lower_edge, dragged_past_the_edge, hasty_click]
+ERRANDS = [task_bar, calm_start, comes_back, goes_along, always_on_top, second_monitor, below_the_bar, lower_edge,
+           dragged_past_the_edge, hasty_click]
+SPECIAL = {"none": [unmanaged], "i3": [tiled]}
 
 
 def main():
     if "ORVINEL_JOURNEYS" in os.environ:
-        managed = os.environ["ORVINEL_WINDOW_MANAGER"] != "none"
-        return journeys.main(__file__, ERRANDS if managed else [unmanaged])
+        return journeys.main(__file__, SPECIAL.get(os.environ["ORVINEL_WINDOW_MANAGER"], ERRANDS))
     if not shutil.which("xrandr"):
         print("skipped, not installed: xrandr")
         return 77
@@ -304,7 +389,7 @@ def main():
     if missing:
         print("skipped, not installed:", ", ".join(missing))
     results = []
-    for manager in [*filter(shutil.which, MANAGERS), "none"]:
+    for manager in [*filter(shutil.which, [*MANAGERS, "i3"]), "none"]:
         print(f"under {manager}", flush=True)
         os.environ.update(ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{2 * MONITOR}x900")
         results.append(journeys.main(__file__, ERRANDS))

@@ -9,6 +9,7 @@
 #include "ui/platform/SmallCheckBox.h"
 #include "ui/platform/TextRun.h"
 #include "ui/platform/Windows.h"
+#include "ui/platform/WorkArea.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -297,6 +298,23 @@ TEST(DialogPlace, overAnotherWindowKeepsOffThePanelToo) {
     EXPECT_EQ(QPoint(1280 + 225, 224), at({1505, 200, 330, 200}));
     EXPECT_EQ(QPoint(1280 + 574, 424), at({1497 + 83, 0, 1000, 1000}));
     EXPECT_EQ(2560 - 450, at({2500, 0, 400, 1000}).x());
+}
+
+TEST(WorkArea, isWhatTheBarsOfItsMonitorLeave) {
+    const QRect left(0, 0, 1280, 900);
+    const QRect right(1280, 0, 1280, 900);
+    const QRect below(0, 32, 1280, 868);
+    const ToldAreas each{{below, right}, QRect(0, 32, 2560, 868)};
+    EXPECT_EQ(below, workAreaIn(left, each));
+    EXPECT_EQ(right, workAreaIn(right, each));
+
+    const ToldAreas oneForAll{{}, QRect(0, 0, 2560, 860)};
+    EXPECT_EQ(QRect(1280, 0, 1280, 860), workAreaIn(right, oneForAll));
+
+    const QRect tall(2560, 0, 1280, 1800);
+    EXPECT_EQ(std::nullopt, workAreaIn(tall, oneForAll)) << "as high as the lowest monitor";
+    EXPECT_EQ(std::nullopt, workAreaIn(tall, each));
+    EXPECT_EQ(std::nullopt, workAreaIn(left, {}));
 }
 
 TEST(SmallCheckBox, aScreenReaderSwitchesItsValue) {

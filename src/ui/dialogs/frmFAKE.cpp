@@ -61,6 +61,9 @@ void frmFAKE::showOutside(QSize screens) {
     show();
     // Some window managers pull a new window onto the screen, but leave it where it is moved to afterwards.
     move(outside_);
+    QTimer::singleShot(settleEveryMs, this, [this] { wantNoAttention(*this); });
+    keyboard_ = &group_.panel;
+    settleKeyboard();
 }
 
 void frmFAKE::showEvent(QShowEvent* event) {

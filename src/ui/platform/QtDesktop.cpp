@@ -2,6 +2,7 @@
 
 #include "ui/platform/DialogPlace.h"
 #include "ui/platform/SpokenRole.h"
+#include "ui/platform/WorkArea.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -113,7 +114,7 @@ bool QtDesktop::openWithShell(const QString& target) {
 }
 
 QRect QtDesktop::workArea() const {
-    return QGuiApplication::primaryScreen()->availableGeometry();
+    return workAreaOf(*QGuiApplication::primaryScreen());
 }
 
 QSize QtDesktop::allScreens() const {

@@ -53,17 +53,18 @@ void sendToRoot(xcb_connection_t* connection, const Event& event) {
                    XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT, bytes.data());
 }
 
-// The window manager owns the state of a window that is shown, so it is asked to add to it.
-void askWindowManager(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t state, xcb_atom_t added) {
-    constexpr uint32_t add = 1;
+enum class Ask : uint32_t { Remove = 0, Add = 1 };
+
+// The window manager owns the state of a window that is shown, so it is asked to change it.
+void askWindowManager(xcb_connection_t* connection, xcb_window_t window, Ask what, xcb_atom_t state) {
     constexpr uint32_t fromApplication = 1;
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
     event.window = window;
-    event.type = state;
-    event.data.data32[0] = add;
-    event.data.data32[1] = added;
+    event.type = atom(connection, "_NET_WM_STATE");
+    event.data.data32[0] = static_cast<uint32_t>(what);
+    event.data.data32[1] = state;
     event.data.data32[3] = fromApplication;
     sendToRoot(connection, event);
 }
@@ -88,7 +89,7 @@ void writeState(const QWindow& window) {
     for (const char* name : names) {
         const xcb_atom_t added = atom(connection, name);
         if (isMapped(connection, id))
-            askWindowManager(connection, id, state, added);
+            askWindowManager(connection, id, Ask::Add, added);
         else
             xcb_change_property(connection, XCB_PROP_MODE_APPEND, id, state, XCB_ATOM_ATOM, 32, 1, &added);
     }
@@ -125,6 +126,15 @@ void keepOffTaskBar(QWidget& window) {
     if (!handle->isExposed())
         new AgainWhenSeen(handle);
     writeState(*handle);
+}
+
+void wantNoAttention(const QWidget& window) {
+    xcb_connection_t* connection = x11Connection();
+    if (!connection || !window.windowHandle())
+        return;
+    askWindowManager(connection, static_cast<xcb_window_t>(window.windowHandle()->winId()), Ask::Remove,
+                     atom(connection, "_NET_WM_STATE_DEMANDS_ATTENTION"));
+    xcb_flush(connection);
 }
 
 bool isIconic(const QWidget& window) {
@@ -192,6 +202,9 @@ void keepOffTaskBar(QWidget&) {
 #endif
 
 #ifndef ORVINEL_X11
+void wantNoAttention(const QWidget&) {
+}
+
 bool isIconic(const QWidget& window) {
     return window.isMinimized();
 }

@@ -57,6 +57,10 @@ void moveShown(QWidget& window, QPoint to);
 // Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
 void keepOffTaskBar(QWidget& window);
 
+// The window's button on the task bar is to be calm: some desktops have it flash for a window that appears
+// without becoming active.
+void wantNoAttention(const QWidget& window);
+
 // The window manager has made the window, which is minimised, an icon; True also where nobody can be asked.
 bool isIconic(const QWidget& window);
 
