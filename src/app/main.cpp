@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QSessionManager>
 
+#include <cstdio>
+
 int main(int, char** argv) {
     // The program takes no options; Qt would take its own from them.
     int argc = 1;
@@ -16,6 +18,12 @@ int main(int, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     const std::future<void> faces = orvinel::readFacesAhead();
     QApplication application(argc, argv);
+    if (!orvinel::displayFound()) {
+        std::fputs("orvinel: no display. It needs X11; on a Wayland desktop install Xwayland (the package "
+                   "xwayland).\n",
+                   stderr);
+        return 1;
+    }
     orvinel::applyAppearance(application);
 
     const QString folder = QCoreApplication::applicationDirPath() + u'/';

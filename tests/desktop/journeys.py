@@ -330,8 +330,19 @@ def bad_pictures(folder):
             player.quit()
 
 
+def no_display(folder):
+    make_world(folder)
+    blind = {name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
+    for _ in range(2):  # no lock is left behind
+        started = subprocess.run([folder / Running.program], env={**blind, "XDG_RUNTIME_DIR": str(folder)}, capture_output=True,
+                                 text=True, timeout=20)
+        assert started.returncode == 1 and "no display" in started.stderr, started
+    with Player(folder) as player:
+        player.quit()
+
+
 ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unknown_campaign, shell,
-           cannot_write, ends_by_signal, bad_pictures]
+           cannot_write, ends_by_signal, bad_pictures, no_display]
 
 
 def main(script, errands):

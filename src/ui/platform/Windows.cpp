@@ -93,6 +93,9 @@ class ProgramStyle : public QProxyStyle {
 // Decoding the icon's pictures takes longer than the windows' first paint, which goes first.
 constexpr int iconDelayMs = 150;
 
+// In this order. The last one shows nothing, but does not end the program with a message for developers.
+constexpr char windowSystems[] = "xcb;wayland;offscreen";
+
 void setProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128})
@@ -130,13 +133,17 @@ QPoint hotSpot(int number) {
 void chooseWindowSystem() {
 #ifdef Q_OS_LINUX
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb;wayland;offscreen");
+        qputenv("QT_QPA_PLATFORM", windowSystems);
 #elif defined(Q_OS_WIN)
     // The system would draw letters of other widths than those that the windows are laid out for.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype");
 #endif
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+bool displayFound() {
+    return QGuiApplication::platformName() != u"offscreen"_s || qgetenv("QT_QPA_PLATFORM") != windowSystems;
 }
 
 QCursor programCursor(Pointer pointer) {

@@ -21,6 +21,10 @@ QCursor programCursor(Pointer pointer);
 // so it is preferred to Wayland.
 void chooseWindowSystem();
 
+// False: there is no display, and nobody asked to run without one. To be asked when the application object is
+// made.
+bool displayFound();
+
 // Light colours and the same widgets on every desktop, texts of the boxes in the player's language;
 // the program icon a moment later, since decoding its pictures takes longer than the windows' first paint.
 void applyAppearance(QApplication& application);
