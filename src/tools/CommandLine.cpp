@@ -1,6 +1,7 @@
 #include "tools/CommandLine.h"
 
 #include <QDir>
+#include <QProcess>
 
 #include <algorithm>
 #include <cstdio>
@@ -49,6 +50,28 @@ void write(std::FILE* stream, const QString& text) {
     const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stream);
 }
+
+#ifdef Q_OS_WIN
+// After a double click the tool has a console for itself, which goes with it: orvinel-beside, which lies
+// beside it, does what a player can want of it, without one.
+bool handOver(const QString& tool) {
+    DWORD users[2];
+    if (GetConsoleProcessList(users, 2) != 1)
+        return false;
+    QProcess beside;
+    beside.setProgram(QCoreApplication::applicationDirPath() + u"/orvinel-beside.exe"_s);
+    beside.setArguments({tool.sliced(u"orvinel-"_s.size())});
+    beside.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments* process) {
+        process->flags &= ~static_cast<unsigned long>(CREATE_NEW_CONSOLE | CREATE_NO_WINDOW);
+        process->flags |= DETACHED_PROCESS;
+    });
+    return beside.startDetached();
+}
+#else
+bool handOver(const QString&) {
+    return false;
+}
+#endif
 
 } // namespace
 
@@ -100,6 +123,8 @@ CommandLine::CommandLine(const ToolTable& table, int argc, char** argv)
 }
 
 std::optional<int> CommandLine::understand(const ToolTable& table, const QStringList& words) {
+    if (words.isEmpty() && handOver(table.name))
+        return exitGood;
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Print this help."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Print the version."_s);
     parser_.addOption(help);

@@ -45,7 +45,8 @@ constexpr std::array builtIn = {"en",
                                 "%1 notes added, %2 were there already",
                                 "%1 notes written to %2",
                                 "Month",
-                                "%1 possible places"};
+                                "%1 possible places",
+                                "This takes a moment ..."};
 static_assert(builtIn.size() == static_cast<size_t>(ToolText::End) - first);
 
 } // namespace

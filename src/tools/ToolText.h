@@ -47,6 +47,7 @@ enum class ToolText {
     NotesExported,
     Month,
     Places,
+    Waiting,
     End
 };
 

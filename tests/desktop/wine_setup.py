@@ -13,6 +13,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import zipfile
 
 import journeys
 import wine
@@ -129,6 +130,12 @@ def holds_version(version, folder, but=()):
     assert not extra, f"too much for version {version}: {sorted(extra)[:5]}"
 
 
+def boxes():
+    """Message boxes on the screen, of whatever program."""
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Orvinel$"], capture_output=True,
+                          text=True).stdout.split()
+
+
 def with_personal(folder):
     (folder / "Personal").mkdir()
     (folder / "Personal/Notes.txt").write_bytes(NOTE)
@@ -184,7 +191,7 @@ def a_players_year(folder):
     entry = listed()
     assert entry["DisplayVersion"] == OLD and int(entry["EstimatedSize"], 16) > 10000, entry
     assert entry["InstallLocation"] == windows_path(place), entry
-    assert {"Orvinel", "Guide", "Uninstall Orvinel"} == set(menu()), menu()
+    assert {"Orvinel", "Guide", "Progress", "Atlas", "Back up", "Uninstall Orvinel"} == set(menu()), menu()
     options(place, Campaign=3, Region=1)
     with Player(place) as player:
         until("a region in many colours", lambda: len(set(zip(*[iter(pixels(*player.view((50, 50)), 300, 300))] * 3))) > 500)
@@ -268,6 +275,32 @@ def by_hand(folder):
     assert not place.exists(), everything(place)
 
 
+def beside_the_program(folder):
+    """The start menu's entries and a double click on a tool: pages and backups without a terminal."""
+    install(NEW, folder)
+    with_personal(folder)
+    shutil.copy(folder / "Data/Characters.txt", folder / "Personal")
+    opened = folder / "opened.txt"
+    for key, value in ((r"HKCR\.html", "Page"), (r"HKCR\Page\shell\open\command", f'cmd /c echo "%1">>{windows_path(opened)}')):
+        subprocess.run(["wine", "reg", "add", key, "/ve", "/d", value, "/f"], stdout=subprocess.DEVNULL, check=True)
+    links = next((wine.PREFIX / "drive_c/users").glob("[!P]*")) / MENU
+    for start, page in ((links / "Progress.lnk", "progress.html"), (links / "Atlas.lnk", "Atlas\\index.html"),
+                        (folder / "orvinel-report.exe", "progress.html")):
+        opened.unlink(missing_ok=True)
+        subprocess.run(["wine", "start", "/unix", str(start)], stderr=subprocess.DEVNULL)
+        until(f"{page} in the browser", lambda: opened.exists() and page in opened.read_text(), 60)
+        assert "</html>" in (folder / "Pages" / page.replace("\\", "/")).read_text()
+    subprocess.run(["wine", "start", "/unix", str(links / "Back up.lnk")], stderr=subprocess.DEVNULL)
+    until("what the backup says", boxes, 60)
+    saved = list((folder / "Backups").glob("*.zip"))
+    assert len(saved) == 1 and "Personal/Notes.txt" in zipfile.ZipFile(saved[0]).namelist(), saved
+    time.sleep(1)
+    keys("Return")
+    until("the end of the box", lambda: not boxes())
+    uninstall(folder)
+    assert {path.split("/")[0] for path in everything(folder)} == {"Personal", "Backups", "opened.txt"}, everything(folder)
+
+
 def while_it_runs(folder):
     install(OLD, folder)
     options(folder, Campaign=1, Region=1)
@@ -347,7 +380,7 @@ def no_place(folder):
         subprocess.run(["umount", str(folder)])
 
 
-ERRANDS = [shown_by_the_system, a_players_year, what_is_the_players, by_hand, while_it_runs, cannot_be_finished, cut_off, no_place]
+ERRANDS = [shown_by_the_system, a_players_year, what_is_the_players, by_hand, beside_the_program, while_it_runs, cannot_be_finished, cut_off, no_place]
 
 
 def main():

@@ -111,6 +111,9 @@ FunctionEnd
 
 Section
   !insertmacro AskToClose ""
+  ${If} ${FileExists} "$INSTDIR\Update.tmp\begun" ; the updater's, which alone can take it back
+    !insertmacro Refuse "$(TextUnfinished)"
+  ${EndIf}
   Call PutBack ; what an earlier setup was not allowed to finish
   Call RefuseOlder
   ClearErrors
@@ -162,6 +165,9 @@ Function FillStartMenu
   RMDir /r "${MENU}" ; entries of another language
   CreateDirectory "${MENU}"
   CreateShortcut "${MENU}\Orvinel.lnk" "$INSTDIR\orvinel.exe"
+  CreateShortcut "${MENU}\$(TextProgress).lnk" "$INSTDIR\orvinel-beside.exe" report
+  CreateShortcut "${MENU}\$(TextAtlas).lnk" "$INSTDIR\orvinel-beside.exe" atlas
+  CreateShortcut "${MENU}\$(TextBackUp).lnk" "$INSTDIR\orvinel-beside.exe" backup
   CreateShortcut "${MENU}\$(TextGuide).lnk" "$INSTDIR\Data\Guide\guide.html"
   CreateShortcut "${MENU}\$(TextUninstall).lnk" "$INSTDIR\Uninstall.exe"
 FunctionEnd
