@@ -46,6 +46,9 @@ World::World(std::string name, const QString& folder)
             break;
     }
     selection.cmbCampaign->select(0);
+    map().beginRest();
+    while (map().picMap().surface() && map().picMap().surface()->drawMoreGround())
+        settle();
     settle();
 }
 

@@ -6,8 +6,10 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <initializer_list>
 #include <limits>
+#include <span>
 
 namespace orvinel {
 
@@ -48,6 +50,10 @@ class TextFile {
     // An empty view beyond the last field.
     QStringView field(size_t position) const {
         return position < fields_.size() ? fields_[position] : QStringView();
+    }
+    // The fields from a position on; none beyond the last one. Valid while the line is.
+    std::span<const QStringView> fieldsFrom(size_t position) const {
+        return std::span(fields_).subspan(std::min(position, fields_.size()));
     }
     QString text(size_t position) const { return field(position).toString(); }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <span>
 #include <vector>
 
 namespace orvinel {
@@ -15,6 +16,14 @@ class TextLines {
         for (const QString& line : lines)
             text_ += line + u'\n';
         text_.squeeze();
+    }
+    TextLines(std::span<const QStringView> lines) {
+        qsizetype length = 0;
+        for (const QStringView line : lines)
+            length += line.size() + 1;
+        text_.reserve(length);
+        for (const QStringView line : lines)
+            text_.append(line).append(u'\n');
     }
     operator std::vector<QString>() const {
         std::vector<QString> lines;

@@ -201,16 +201,27 @@ std::string foldedUnicode(QStringView text) {
 
 } // namespace
 
-// Nearly all texts are ASCII; folding those without the detour counts at the start.
 std::string folded(QStringView text) {
-    std::string result(static_cast<size_t>(text.size()), '\0');
-    char16_t seen = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text.utf16()[i];
+    std::string result;
+    appendFolded(result, text);
+    return result;
+}
+
+// Nearly all texts are ASCII; folding those without the detour counts at the start.
+void appendFolded(std::string& all, QStringView text) {
+    const size_t before = all.size();
+    const auto length = static_cast<size_t>(text.size());
+    all.resize(before + length);
+    const char16_t* const from = text.utf16();
+    char* const to = all.data() + before;
+    unsigned seen = 0;
+    for (size_t i = 0; i < length; ++i) {
+        const unsigned c = from[i];
         seen |= c;
-        result[static_cast<size_t>(i)] = static_cast<char>(c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c);
+        to[i] = static_cast<char>(c + (c - u'A' <= unsigned(u'Z' - u'A') ? u'a' - u'A' : 0));
     }
-    return seen < 0x80 ? result : foldedUnicode(text);
+    if (seen >= 0x80)
+        all.replace(before, length, foldedUnicode(text));
 }
 
 QString withLineBreaks(QStringView text) {

@@ -44,6 +44,8 @@ bool isWholeText(const QByteArray& bytes);
 
 // Lower-cased UTF-8 of a text: one substring search in it is a case-insensitive search in the text.
 std::string folded(QStringView text);
+// Appends folded(text) to `all`.
+void appendFolded(std::string& all, QStringView text);
 
 // "\n" written as backslash and n becomes CR LF.
 QString withLineBreaks(QStringView text);

@@ -14,16 +14,20 @@ void Collector::setRequest(const QString& text) {
     FoldedRequest = folded(text);
 }
 
-void Collector::addObject(const QString& name, int handMask, const std::vector<QString>& stats) {
-    CollectorObject object{name, handMask, stats, 0, 0, 0};
-    object.FoldedName = static_cast<int>(FoldedObjects.size());
-    FoldedObjects += folded(name) + textEnd;
-    object.FoldedStats = static_cast<int>(FoldedObjects.size());
-    for (const QString& line : stats)
+void Collector::addObject(QStringView name, int handMask, std::span<const QStringView> stats) {
+    const auto end = [this] { return static_cast<int>(FoldedObjects.size()); };
+    const auto fold = [this](QStringView text) {
+        appendFolded(FoldedObjects, text);
+        FoldedObjects += textEnd;
+    };
+    Objects.push_back({name.toString(), handMask, TextLines(stats), end(), 0, 0});
+    CollectorObject& object = Objects.back();
+    fold(name);
+    object.FoldedStats = end();
+    for (const QStringView line : stats)
         if (!line.trimmed().isEmpty())
-            FoldedObjects += folded(line) + textEnd;
-    object.FoldedEnd = static_cast<int>(FoldedObjects.size());
-    Objects.push_back(std::move(object));
+            fold(line);
+    object.FoldedEnd = end();
 }
 
 } // namespace orvinel

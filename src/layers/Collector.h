@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -35,7 +36,7 @@ struct Collector {
     std::string FoldedObjects; // names and stat lines that are not blank, each ended by 0xFF
 
     void setRequest(const QString& text);
-    void addObject(const QString& name, int handMask, const std::vector<QString>& stats);
+    void addObject(QStringView name, int handMask, std::span<const QStringView> stats);
 
     bool operator==(const Collector&) const = default;
 };

@@ -142,7 +142,7 @@ class LocationFile {
 // Bosses that stand there only during an event, and those with code "D", carry no green items; one boss does
 // whatever its line says.
 bool carriesGreens(const MapLocation& at) {
-    return (!at.Note.toLower().startsWith(u"only during") && at.MarkerCode != u"D") ||
+    return ((at.Note.isEmpty() || !at.Note.toLower().startsWith(u"only during")) && at.MarkerCode != u"D") ||
            at.Boss == u"Quillon Brackfin";
 }
 

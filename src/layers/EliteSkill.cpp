@@ -16,7 +16,8 @@ void EliteSkill::setAttribute(const QString& attribute) {
 }
 
 int EliteSkill::addLocation(MapLocation location) {
-    FoldedBosses += location.FoldedBoss + '\n';
+    FoldedBosses += location.FoldedBoss;
+    FoldedBosses += '\n';
     return Locations.append(std::move(location));
 }
 

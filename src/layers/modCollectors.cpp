@@ -21,6 +21,8 @@ namespace {
 
 // Loading
 
+constexpr size_t usualObjects = 4; // of a collector: no growing in steps for most of them
+
 class CollectorReader {
   public:
     CollectorReader(Content& state, TextFile& file, QSet<QString>& requestTypes)
@@ -46,6 +48,7 @@ class CollectorReader {
             return false;
         Collector collector;
         collector.Exists = true;
+        collector.Objects.reserve(usualObjects);
         collector.Name = file_.text(1);
         collector.IsArmour = file_.field(2) == u"1";
         collector.Level = *level;
@@ -77,13 +80,9 @@ class CollectorReader {
                 file_.skip({}, u"more than %1 rewards"_s.arg(largestIdentifier));
                 continue;
             }
-            std::vector<QString> stats;
-            stats.reserve(file_.fieldCount() - 2);
-            for (size_t i = 2; i < file_.fieldCount(); ++i)
-                stats.push_back(file_.text(i));
             // Without a name there would be nothing to choose in a list; without rewards it is in none.
             if (!collector.Name.isEmpty())
-                collector.addObject(file_.text(0), *mask, stats);
+                collector.addObject(file_.field(0), *mask, file_.fieldsFrom(2));
         }
     }
 

@@ -82,7 +82,7 @@ void LoadGreens(Content& state, const Disk& disk, Complaints* complaints) {
 }
 
 std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss) {
-    const auto found = state.GreensOfBosses.find(folded(boss.trimmed()));
+    const auto found = state.GreensOfBosses.find(folded(QStringView(boss).trimmed()));
     if (found == state.GreensOfBosses.end())
         return {};
     for (const int green : found->second) {
