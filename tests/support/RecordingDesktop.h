@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace orvinel {
 
 // A desktop that writes down what it is asked and answers as told.
@@ -15,6 +17,7 @@ class RecordingDesktop : public Desktop {
     QRect work{0, 0, 1280, 1000};
     QSize screens{1280, 1024};
     QDate now{2026, 3, 7};
+    std::function<void()> pending = [] {}; // what waits to be processed
     QString dateFormat = QStringLiteral("dd/MM/yyyy");
 
     void message(MessageIcon icon, const QString& title, const QString& text) override;
@@ -27,7 +30,7 @@ class RecordingDesktop : public Desktop {
     QDate today() const override { return now; }
     QString shortDate(const QDate& date) const override { return date.toString(dateFormat); }
     void wait(int milliseconds) override;
-    void processPendingEvents() override {}
+    void processPendingEvents() override { pending(); }
     void setHourglass(bool on) override;
     void setAlwaysOnTop(QWidget& window, bool on) override;
 };

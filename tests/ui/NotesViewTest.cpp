@@ -50,6 +50,38 @@ TEST_F(NotesViewTest, theMapShinesThroughTheWindowOnceAlsoBesideASmallRegion) {
     EXPECT_EQ(blended(0xDD, 0), window.pixelColor(250, 8).red());
 }
 
+TEST_F(NotesViewTest, theWheelScrollsAWindowThatIsHigherThanTheMap) {
+    startOnFjord();
+    state.Notes[1].setTexts(u"Alpha"_s, QString(u"line\r\n"_s).repeated(100));
+    hover(alpha);
+    InformationWindow& window = notes->window();
+    MapViewport& view = map->picMap();
+    ASSERT_GT(window.height(), view.height());
+    const auto wheel = [&](QWidget& over, QPoint at, int notches) {
+        QWheelEvent event(at, over.mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&over, &event);
+    };
+    EXPECT_EQ(0, window.y());
+    wheel(window, {20, 20}, -1);
+    EXPECT_EQ(-64, window.y());
+    wheel(window, {20, 200}, -1000);
+    EXPECT_EQ(view.height(), window.y() + window.height());
+    wheel(view, view.toWidget(QRect(alpha, QSize(1, 1))).topLeft(), 1000);
+    EXPECT_EQ(0, window.y());
+    EXPECT_TRUE(window.isVisible());
+    wheel(view, {view.width() - 1, view.height() - 1}, -1);
+    EXPECT_FALSE(window.isVisible()) << "scrolls the map";
+}
+
+TEST_F(NotesViewTest, aNoteBesideASmallPictureIsPinnedAtItsEdge) {
+    startOnFjord();
+    chooseRegion(u"Glacier"_s); // 300 x 200
+    doubleClick({350, 150});
+    choose("mnuNoteInsert");
+    EXPECT_EQ((MapPoint{299, 150}), request.at);
+}
+
 TEST_F(NotesViewTest, aNewNoteIsPinnedWhereTheMapWasDoubleClicked) {
     startOnFjord();
     map->CenterMapOn(500, 400);
@@ -158,6 +190,34 @@ TEST_F(RegionMenuTest, anEntryChoosesItsRegionInThePanelAndOnTheMap) {
     EXPECT_EQ(2, map->MapRegion());
     EXPECT_TRUE(panel->MenuReady);
     EXPECT_EQ(QStringList{u"Beta"_s}, texts(lstNotes()));
+}
+
+// Counts how often the viewport is painted, and how often without a region.
+struct PaintCount : QObject {
+    MapViewport& view;
+    int all = 0;
+    int empty = 0;
+
+    explicit PaintCount(MapViewport& watched) : view(watched) { view.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        all += event->type() == QEvent::Paint;
+        empty += event->type() == QEvent::Paint && !view.surface();
+        return false;
+    }
+};
+
+TEST_F(RegionMenuTest, anEntryOfAnotherCampaignShowsNothingInBetween) {
+    disk.put(u"/o/Campaign.01.Ash/Regions.txt"_s, "8\tCoast\r\n");
+    disk.put(u"/o/Campaign.01.Ash/8.jpg"_s, jpeg({300, 200}, QColor(1, 2, 3)));
+    startOnFjord();
+    desktop.pending = [] { QCoreApplication::processEvents(); };
+    PaintCount paints(map->picMap());
+    inMap<QAction>("mnuC0Region(1)").trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(1, map->MapCampaign());
+    EXPECT_TRUE(map->mapLoaded());
+    EXPECT_GT(paints.all, 0);
+    EXPECT_EQ(0, paints.empty);
 }
 
 TEST_F(RegionMenuTest, opensWithTheRightButtonOnEmptyMapOnly) {

@@ -275,6 +275,29 @@ TEST(Label, showsEveryLetterOfItsCaptionWhateverItNames) {
     EXPECT_EQ(u"Type & hand"_s, named.accessibleDescription()) << "in place of the label";
 }
 
+TEST(Label, keepsWhatIsTooWideInsideItsPlaceButNotFromThoseWhoListen) {
+    const QString word(60, u'W');
+    Label wrapped(u"lbl"_s, nullptr);
+    wrapped.setWrapWidth(100);
+    wrapped.setCaption(u"a "_s + word + u" b"_s);
+    const int letters = wrapped.fontMetrics().horizontalAdvance(word);
+    EXPECT_GE(wrapped.height(), (letters / 100 + 2) * wrapped.fontMetrics().height());
+    EXPECT_EQ(100, wrapped.width());
+    EXPECT_EQ(u"a "_s + word + u" b"_s, wrapped.text());
+    const int broken = wrapped.height();
+    wrapped.setCaption(u"short"_s);
+    EXPECT_LT(wrapped.height(), broken);
+
+    Label line(u"lbl"_s, nullptr);
+    line.setLongest(100);
+    line.setCaption(word);
+    EXPECT_LE(line.width(), 100);
+    EXPECT_GT(line.width(), 80);
+    EXPECT_EQ(word, QAccessible::queryAccessibleInterface(&line)->text(QAccessible::Name));
+    line.setCaption(u"short"_s);
+    EXPECT_LT(line.width(), 60);
+}
+
 TEST(DialogPlace, isBesideThePanelNearTheRowAndNeverOutsideTheScreen) {
     const QRect screen(0, 0, 1280, 1024);
     const QRect panel(0, 0, 217, 1000);

@@ -80,6 +80,7 @@ EliteWindow::EliteWindow(const ProgramState& state, frmMap& map)
       lblExtCaptionNote_(informationLabel(u"lblExtCaptionNote"_s, arial(points8_25), captionColour, *this)),
       lblExtNote_(informationLabel(u"lblExtNote"_s, arial(points8_25), white, *this)) {
     lblExtEliteName_->move(left, nameTop);
+    lblExtEliteName_->setLongest(textWidth);
     lblExtEliteName_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lblExtDescription_->move(left, descriptionTop);
     lblExtDescription_->setWrapWidth(textWidth);
@@ -125,7 +126,9 @@ void EliteWindow::alignValues() {
         }
         return windowWidth - left - (x + widest + columnGap);
     };
-    align({type_, attribute_, campaign_}, besidePicture);
+    const int beside = align({type_, attribute_, campaign_}, besidePicture);
+    for (const Row& row : {type_, attribute_, campaign_})
+        row.value->setLongest(beside);
     const int width = align({boss_, zone_}, left);
     boss_.value->setWrapWidth(width);
     zone_.value->setWrapWidth(width);
@@ -177,6 +180,7 @@ void EliteWindow::fillSkill(const EliteTooltip& tip, const QImage& picture) {
 }
 
 void EliteWindow::fillCost(const Cost& cost, const std::optional<QString>& text, bool seen, int x) {
+    cost.value->setLongest(windowWidth - left - (x + iconSize + 3));
     cost.value->setCaption(text.value_or(QString()));
     cost.icon->move(x, costTop);
     cost.value->move(x + iconSize + 3, costTextTop);

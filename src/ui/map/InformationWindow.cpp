@@ -4,6 +4,10 @@
 #include "ui/map/MapViewport.h"
 #include "ui/platform/SpokenRole.h"
 
+#include <QWheelEvent>
+
+#include <algorithm>
+
 namespace orvinel {
 
 namespace {
@@ -24,6 +28,7 @@ InformationWindow::InformationWindow(const QString& name, int width, MapViewport
     setBackground(ground);
     resize(width, 40);
     hide();
+    map.installEventFilter(this);
 }
 
 void InformationWindow::dismiss() {
@@ -40,28 +45,57 @@ void InformationWindow::tellScreenReaders() {
 }
 
 void InformationWindow::frameWithBand(Colour band, int bandHeight, const QRect& marker) {
-    clear();
-    Drawing(&surface()).filledBox(bandInset, bandInset, width() - 7, bandHeight, band);
+    band_ = {band, bandHeight};
     frame(marker);
 }
 
 void InformationWindow::frameWithoutBand(const QRect& marker) {
-    clear();
+    band_.reset();
     frame(marker);
 }
 
 void InformationWindow::frame(const QRect& marker) {
+    marker_ = marker;
+    separators_.clear();
     move(PlaceTooltip(size(), marker, map_.size()));
-    const int w = width() - 1;
-    const int h = height() - 1;
-    Drawing drawing(&surface());
-    drawing.painter().drawImage(0, 0, translucentMap());
-    drawing.outline(0, 0, w, h, outerLine);
-    drawing.outline(bandInset, bandInset, w - bandInset, h - bandInset, innerLine);
-    update();
+    draw();
     show();
     raise();
     tellScreenReaders();
+}
+
+void InformationWindow::draw() {
+    clear();
+    const int w = width() - 1;
+    const int h = height() - 1;
+    Drawing drawing(&surface());
+    if (band_)
+        drawing.filledBox(bandInset, bandInset, width() - 7, band_->height, band_->colour);
+    drawing.painter().drawImage(0, 0, translucentMap());
+    drawing.outline(0, 0, w, h, outerLine);
+    drawing.outline(bandInset, bandInset, w - bandInset, h - bandInset, innerLine);
+    for (const int y : separators_)
+        drawSeparator(drawing, y);
+    update();
+}
+
+bool InformationWindow::scroll(const QWheelEvent& wheel) {
+    if (height() <= map_.height())
+        return false;
+    move(x(), std::clamp(y() + MapViewport::wheeled(wheel).y(), map_.height() - height(), 0));
+    draw(); // other parts of the map shine through now
+    return true;
+}
+
+void InformationWindow::wheelEvent(QWheelEvent* event) {
+    event->setAccepted(scroll(*event));
+}
+
+bool InformationWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Wheel || isHidden())
+        return PictureBox::eventFilter(watched, event);
+    const auto& wheel = static_cast<const QWheelEvent&>(*event);
+    return marker_.contains(wheel.position().toPoint()) && scroll(wheel);
 }
 
 // As one picture: several paintings, each translucent, would darken what lies under them several times.
@@ -78,8 +112,14 @@ QImage InformationWindow::translucentMap() {
 }
 
 void InformationWindow::separator(int y) {
-    Drawing(&surface()).line(separatorInset, y, width() - 1 - separatorInset, y, innerLine);
+    separators_.push_back(y);
+    Drawing drawing(&surface());
+    drawSeparator(drawing, y);
     update();
+}
+
+void InformationWindow::drawSeparator(Drawing& drawing, int y) {
+    drawing.line(separatorInset, y, width() - 1 - separatorInset, y, innerLine);
 }
 
 Label* informationLabel(const QString& name, const QFont& font, Colour colour, InformationWindow& window) {

@@ -6,6 +6,9 @@
 #include <QRect>
 #include <QString>
 
+#include <optional>
+#include <vector>
+
 namespace orvinel {
 
 class MapViewport;
@@ -16,7 +19,7 @@ inline constexpr Colour paleCaption = 0xBED2DC;
 inline constexpr Colour whiteText = 0xFFFFFF;
 
 // A layer's information window: a box over the map with the details of the item under the mouse. Hidden until
-// shown.
+// shown. One that is higher than the map's view is scrolled by the wheel over it or over its marker.
 class InformationWindow : public PictureBox {
     Q_OBJECT
   public:
@@ -38,9 +41,21 @@ class InformationWindow : public PictureBox {
   protected:
     // Kept from the map below.
     void mouseMoveEvent(QMouseEvent*) override {}
+    void wheelEvent(QWheelEvent* event) override;
+    // Of the map.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    struct Band {
+        Colour colour;
+        int height;
+    };
+
     void frame(const QRect& marker);
+    void draw();
+    // False where all of the window is in view.
+    bool scroll(const QWheelEvent& wheel);
+    void drawSeparator(Drawing& drawing, int y);
     // What the map shows under the box.
     QImage translucentMap();
     // The map is described by what the window tells.
@@ -48,6 +63,9 @@ class InformationWindow : public PictureBox {
 
     MapViewport& map_;
     QString tag_;
+    QRect marker_;
+    std::optional<Band> band_;
+    std::vector<int> separators_;
 };
 
 // A child label of an information window: plain, in the given font, placed by the window.

@@ -8,6 +8,7 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvinel {
@@ -74,9 +75,17 @@ void MapMenus::buildRegionMenu() {
         for (const ListEntry& region : campaign.regions) {
             const QAction* entry = addEntry(*submenu, arrayName(name, ++i), region.text);
             connect(entry, &QAction::triggered, this,
-                    [this, c = campaign.campaign, r = region.data] { actions_.chooseRegion(c, r); });
+                    [this, c = campaign.campaign, r = region.data] { chooseRegion(c, r); });
         }
     }
+}
+
+// Choosing the campaign clears the map, which nobody is to see before the region is there.
+void MapMenus::chooseRegion(int campaign, int region) {
+    MapViewport& view = with_.map.picMap();
+    view.setUpdatesEnabled(false);
+    actions_.chooseRegion(campaign, region);
+    view.setUpdatesEnabled(true);
 }
 
 void MapMenus::openRegionMenu(QPoint global) {
@@ -86,7 +95,10 @@ void MapMenus::openRegionMenu(QPoint global) {
 
 void MapMenus::openNoteMenu(int note, MapPoint at, QPoint global) {
     note_ = note;
-    at_ = at;
+    // Beside a small picture a note would be kept, but never drawn.
+    const QSize picture = with_.map.picMap().view().picture();
+    at_ = {std::clamp(at.x, 0, std::max(0, picture.width() - 1)),
+           std::clamp(at.y, 0, std::max(0, picture.height() - 1))};
     const bool there = with_.state.Notes.has(note);
     mnuNoteInsert_->setEnabled(!there);
     mnuNoteEdit_->setEnabled(there);

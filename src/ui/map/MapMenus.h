@@ -60,6 +60,7 @@ class MapMenus : public QObject {
   private:
     void buildNoteMenu();
     void buildRegionMenu();
+    void chooseRegion(int campaign, int region);
     void editNote();
     void askToDelete();
 

@@ -144,10 +144,14 @@ void MapViewport::mouseDoubleClickEvent(QMouseEvent* event) {
         emit doubleClicked();
 }
 
+QPoint MapViewport::wheeled(const QWheelEvent& event) {
+    const QPoint by =
+        event.pixelDelta().isNull() ? event.angleDelta() * wheelStep / notch : event.pixelDelta();
+    return event.modifiers() & Qt::ShiftModifier ? by.transposed() : by;
+}
+
 void MapViewport::wheelEvent(QWheelEvent* event) {
-    QPoint by = event->pixelDelta().isNull() ? event->angleDelta() * wheelStep / notch : event->pixelDelta();
-    if (event->modifiers() & Qt::ShiftModifier)
-        by = by.transposed();
+    const QPoint by = wheeled(*event);
     emit scrollWanted(-by.x(), -by.y());
     event->accept();
 }

@@ -4,8 +4,30 @@
 
 #include <QEvent>
 #include <QMouseEvent>
+#include <QStylePainter>
 
 namespace orvinel {
+
+namespace {
+
+// With a line break in each word that is wider than `width` wherever its next letter would be too much.
+QString withWordsBroken(const QString& text, const QFontMetrics& metrics, int width) {
+    QString broken;
+    qsizetype first = 0; // of the present word, or of what of it stands in the present line
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i].isSpace()) {
+            first = i + 1;
+        } else if (i > first && !text[i].isLowSurrogate() && !text[i].isMark() &&
+                   metrics.horizontalAdvance(text.mid(first, i + 1 - first)) > width) {
+            broken += u'\n';
+            first = i;
+        }
+        broken += text[i];
+    }
+    return broken;
+}
+
+} // namespace
 
 Label::Label(const QString& name, QWidget* parent) : QLabel(parent) {
     setObjectName(name);
@@ -46,6 +68,11 @@ void Label::setWrapWidth(int pixels) {
     fit();
 }
 
+void Label::setLongest(int pixels) {
+    longest_ = pixels;
+    fit();
+}
+
 void Label::setColour(Colour colour) {
     QPalette colours = palette();
     colours.setColor(QPalette::Active, QPalette::WindowText, toQColor(colour));
@@ -54,15 +81,35 @@ void Label::setColour(Colour colour) {
 }
 
 void Label::fit() {
+    seen_.clear();
+    if (wrapWidth_ > 0)
+        return fitWrapped();
     const QFontMetrics metrics = fontMetrics();
-    if (wrapWidth_ > 0) {
-        const int height = text().isEmpty() ? metrics.height() : heightForWidth(wrapWidth_);
-        resize(wrapWidth_, height);
+    if (longest_ > 0 && metrics.horizontalAdvance(text()) >= longest_)
+        seen_ = metrics.elidedText(text(), Qt::ElideRight, longest_ - 1);
+    // One pixel more than the text: the last letter of some faces hangs over.
+    const QSize area = metrics.size(0, seen_.isEmpty() ? text() : seen_);
+    resize(area.width() + 1, std::max(area.height(), metrics.height()));
+}
+
+void Label::fitWrapped() {
+    const QFontMetrics metrics = fontMetrics();
+    const QString broken = withWordsBroken(text(), metrics, wrapWidth_);
+    if (broken == text()) {
+        resize(wrapWidth_, text().isEmpty() ? metrics.height() : heightForWidth(wrapWidth_));
         return;
     }
-    // One pixel more than the text: the last letter of some faces hangs over.
-    const QSize area = metrics.size(0, text());
-    resize(area.width() + 1, std::max(area.height(), metrics.height()));
+    seen_ = broken;
+    const QRect room(0, 0, wrapWidth_, QWIDGETSIZE_MAX);
+    resize(wrapWidth_, metrics.boundingRect(room, Qt::TextWordWrap, seen_).height());
+}
+
+void Label::paintEvent(QPaintEvent* event) {
+    if (seen_.isEmpty())
+        return QLabel::paintEvent(event);
+    QStylePainter painter(this);
+    painter.drawItemText(rect(), static_cast<int>(alignment()) | (wrapWidth_ > 0 ? Qt::TextWordWrap : 0),
+                         palette(), isEnabled(), seen_, foregroundRole());
 }
 
 void Label::mousePressEvent(QMouseEvent* event) {

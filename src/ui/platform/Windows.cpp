@@ -52,10 +52,22 @@ class ProgramStyle : public QProxyStyle {
     }
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
+        if (control == CC_ScrollBar)
+            return drawScrollBar(*option, painter, widget);
         if (control != CC_ComboBox)
             return QProxyStyle::drawComplexControl(control, option, painter, widget);
         const auto shown = withFocusShown<QStyleOptionComboBox>(*option);
         QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+    }
+    // Fusion's groove looks like the handle in it.
+    void drawScrollBar(const QStyleOptionComplex& option, QPainter* painter, const QWidget* widget) const {
+        auto part = static_cast<const QStyleOptionSlider&>(option);
+        part.subControls = SC_ScrollBarGroove;
+        part.palette.setColor(QPalette::Button, part.palette.color(QPalette::Button).darker(118));
+        QProxyStyle::drawComplexControl(CC_ScrollBar, &part, painter, widget);
+        part.palette = option.palette;
+        part.subControls = option.subControls & ~SC_ScrollBarGroove;
+        QProxyStyle::drawComplexControl(CC_ScrollBar, &part, painter, widget);
     }
     // The narrow drop-down lists of the panel would cut off the end of "<<< Tutti >>>" otherwise.
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
