@@ -5,6 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvinel::bench {
 
 namespace {
@@ -14,7 +16,7 @@ struct Case {
     explicit Case(World& world)
         : zones(world.state(), art), shown(world.map().shown(0)),
           picture(loadPicture(world.disk(), world.picture(world.campaign(), world.region()))),
-          sets{allMarkers(world.state(), shown), allMarkers(world.state(), shown, QStringLiteral("ar"))},
+          sets{allMarkers(world.state(), shown), allMarkers(world.state(), shown, u"ar"_s)},
           visible(world.map().picMap().view().visible()) {}
 
     MapSurface surface() {

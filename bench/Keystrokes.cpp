@@ -9,6 +9,8 @@
 
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvinel::bench {
 
 namespace {
@@ -81,7 +83,7 @@ void addScan(World& world) {
     })->Unit(benchmark::kMicrosecond);
     benchmark::RegisterBenchmark(("search/ours/" + world.name()).c_str(), [&world](benchmark::State& run) {
         EliteChoice choice;
-        choice.nameText = QStringLiteral("qx");
+        choice.nameText = u"qx"_s;
         for (auto _ : run)
             benchmark::DoNotOptimize(eliteEntries(world.state(), choice));
     })->Unit(benchmark::kMicrosecond);

@@ -7,6 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvinel::bench {
 
 namespace {
@@ -40,7 +42,7 @@ void addLoading(World& world) {
             loadTablesOnce(world);
     })->Unit(benchmark::kMillisecond);
     QStringList files;
-    QDirIterator walk(world.folder(), {QStringLiteral("*.txt")}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator walk(world.folder(), {u"*.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext())
         files << walk.next();
     benchmark::RegisterBenchmark(("load/limit/" + world.name()).c_str(), [files](benchmark::State& run) {

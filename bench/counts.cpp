@@ -13,6 +13,8 @@
 
 #include <valgrind/callgrind.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvinel::bench {
 
 namespace {
@@ -41,12 +43,12 @@ void countTables(World& world) {
     const ProgramState& state = world.state();
     count("search-skills", [&] {
         EliteChoice choice;
-        choice.nameText = QStringLiteral("qx");
+        choice.nameText = u"qx"_s;
         eliteEntries(state, choice);
     });
     count("search-collectors", [&] {
         CollectorChoice choice;
-        choice.searchText = QStringLiteral("qx");
+        choice.searchText = u"qx"_s;
         collectorEntries(state, choice);
     });
     count("list-skills", [&] { eliteEntries(state, {}); });
@@ -76,7 +78,7 @@ void countMap(World& world) {
     count("recompose", [&] {
         for (int round = 0; round < 2; ++round) {
             few = !few;
-            surface.setMarkers(allMarkers(world.state(), shown, few ? QStringLiteral("a") : QString()));
+            surface.setMarkers(allMarkers(world.state(), shown, few ? u"a"_s : QString()));
             surface.composed(visible);
         }
     });

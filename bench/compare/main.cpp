@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvinel::bench {
 
 namespace {
@@ -27,7 +29,7 @@ int runBare(const QString& folder, const QString& picture) {
     const FileDisk disk(folder);
     QStringList texts;
     for (int i = 0; i < 40; ++i)
-        texts << QStringLiteral("Entry %1").arg(i);
+        texts << u"Entry %1"_s.arg(i);
     Bare bare(loadPicture(disk, folder + picture), texts);
     showFilling(bare);
     return QApplication::exec();

@@ -4,6 +4,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QByteArray hashOf(const QByteArray& bytes) {
@@ -21,7 +23,7 @@ QString backupName(const QString& path, int n) {
 }
 
 QString tooManyBackups() {
-    return QStringLiteral("%1 .bak files exist already").arg(mostBackups);
+    return u"%1 .bak files exist already"_s.arg(mostBackups);
 }
 
 SaveResult failed(const QString& path, const QString& reason) {

@@ -4,6 +4,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 ReadResult RationedDisk::read(const QString& path) const {
     // Asked first: what is refused need not pass through the memory.
     if (disk_.length(path) <= left_) {
@@ -13,7 +15,7 @@ ReadResult RationedDisk::read(const QString& path) const {
     }
     if (std::find(refused_.begin(), refused_.end(), path) == refused_.end())
         refused_.push_back(path);
-    return {ReadResult::Outcome::Failed, {}, QStringLiteral("all data files together are too large")};
+    return {ReadResult::Outcome::Failed, {}, u"all data files together are too large"_s};
 }
 
 } // namespace orvinel

@@ -20,17 +20,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int deepestFolder = 8;
-const QString sumsName = QStringLiteral("SHA256SUMS");
-const QString zipExtension = QStringLiteral(".zip");
-const QString tarExtension = QStringLiteral(".tar");
+const QString sumsName = u"SHA256SUMS"_s;
+const QString zipExtension = u".zip"_s;
+const QString tarExtension = u".tar"_s;
 #ifdef ORVINEL_ZIP
 const QString newExtension = zipExtension;
 #else
 const QString newExtension = tarExtension;
 #endif
-const QString datedPrefix = QStringLiteral("orvinel-");
-const QString optionsName = QStringLiteral("Data/Options.txt");
-const QString personalName = QStringLiteral("Personal");
+const QString datedPrefix = u"orvinel-"_s;
+const QString optionsName = u"Data/Options.txt"_s;
+const QString personalName = u"Personal"_s;
 
 QByteArray sumsOf(const std::vector<ArchivedFile>& files) {
     QByteArray sums;

@@ -7,8 +7,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Nothing is loaded and nothing runs, whatever slips into the page.
-const QString policy = QStringLiteral("default-src 'none'; style-src 'unsafe-inline'; img-src data:; "
-                                      "base-uri 'none'; form-action 'none'");
+const QString policy = u"default-src 'none'; style-src 'unsafe-inline'; img-src data:; "
+                       "base-uri 'none'; form-action 'none'"_s;
 
 QString commonStyle() {
     return uR"(:root { color-scheme: light dark; --paper: #fbfaf7; --ink: #22211e; --soft: #5c574c; --line: #d8d2c4;

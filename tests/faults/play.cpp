@@ -6,13 +6,15 @@
 
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 int main(int argc, char** argv) {
     using namespace orvinel;
     if (argc != 4)
         return 2;
     const QString folder = QString::fromLocal8Bit(argv[1]) + u'/';
     FileDisk disk(folder);
-    if (!disk.folderExists(folder + QStringLiteral("Data")))
+    if (!disk.folderExists(folder + u"Data"_s))
         for (const auto& [path, content] : faultWorld())
             if (disk.replace(folder + path, content))
                 return 2;

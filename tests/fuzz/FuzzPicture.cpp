@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     orvinel::MemoryDisk disk;
-    const QString path = QStringLiteral("/o/1.jpg");
+    const QString path = u"/o/1.jpg"_s;
     disk.put(path, QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
     const QImage picture = orvinel::loadPicture(disk, path);
     if (picture.sizeInBytes() > orvinel::largestRegion)

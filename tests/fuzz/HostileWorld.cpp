@@ -80,7 +80,7 @@ constexpr HostileFile files[] = {
 };
 #undef SUNHOLLOW
 
-const QString folder = QStringLiteral("/o/");
+const QString folder = u"/o/"_s;
 const QDateTime archiveTime(QDate(2026, 3, 7), QTime(12, 0));
 
 QString pathOf(const HostileFile& file) {

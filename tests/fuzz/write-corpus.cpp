@@ -7,12 +7,14 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool write(const QString& folder, const char* reader, const QByteArray& bytes) {
     const QString name = folder + u'/' + QLatin1String(reader);
     QDir().mkpath(name);
-    QFile out(name + QStringLiteral("/healthy"));
+    QFile out(name + u"/healthy"_s);
     return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
 }
 

@@ -13,6 +13,8 @@
 #include <sys/resource.h>
 
 namespace orvinel {
+
+using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Pieces that readers decide on.
@@ -79,34 +81,34 @@ TEST(HostileData, mutatedFilesBreakNothing) {
 
 TEST(HostileData, listsEndWhereNoWorldNeedsThem) {
     MemoryDisk disk;
-    disk.put(QStringLiteral("/o/Personal/Notes.txt"), QByteArray("a\t\t0\t0\t0\t0\n").repeated(66'000));
-    disk.put(QStringLiteral("/o/Campaign.01.Ash/Greens.txt"),
+    disk.put(u"/o/Personal/Notes.txt"_s, QByteArray("a\t\t0\t0\t0\t0\n").repeated(66'000));
+    disk.put(u"/o/Campaign.01.Ash/Greens.txt"_s,
              "Ring\tUlf" + QByteArray("\t").repeated(300) + "\nBow\tUlf\n");
     ProgramState state;
-    state.AppPath = QStringLiteral("/o/");
+    state.AppPath = u"/o/"_s;
     PlayerFiles files(disk);
     loadTables(state, files);
     EXPECT_EQ(largestIdentifier, state.Notes.count());
     EXPECT_EQ(2, state.GreenItems.count());
     EXPECT_LE(state.GreenItems[1].Stats.size(), 253u);
     ASSERT_TRUE(SaveNotes(state, files).saved());
-    EXPECT_TRUE(disk.exists(QStringLiteral("/o/Personal/Notes.txt.bak"))); // the notes that found no room
+    EXPECT_TRUE(disk.exists(u"/o/Personal/Notes.txt.bak"_s)); // the notes that found no room
 }
 
 TEST(HostileData, longLinesArePassedOverAndNoNoteGrowsThatLong) {
     MemoryDisk disk;
     const QByteArray texts(longestLine, 'x');
-    disk.put(QStringLiteral("/o/Personal/Notes.txt"), "a\t" + texts + "\t0\t0\t0\t0\nb\t\t0\t0\t0\t0\n");
+    disk.put(u"/o/Personal/Notes.txt"_s, "a\t" + texts + "\t0\t0\t0\t0\nb\t\t0\t0\t0\t0\n");
     ProgramState state;
-    state.AppPath = QStringLiteral("/o/");
+    state.AppPath = u"/o/"_s;
     PlayerFiles files(disk);
     loadTables(state, files);
     ASSERT_EQ(1, state.Notes.count());
-    NoteEdit edit{1, QStringLiteral("b"), QString(longestLine, u'\n'), 0, 0, 0, 0};
-    EXPECT_EQ(QStringLiteral("the note is too long"), storeNote(state, files, edit).reason);
-    edit.body = QStringLiteral("short");
+    NoteEdit edit{1, u"b"_s, QString(longestLine, u'\n'), 0, 0, 0, 0};
+    EXPECT_EQ(u"the note is too long"_s, storeNote(state, files, edit).reason);
+    edit.body = u"short"_s;
     ASSERT_TRUE(storeNote(state, files, edit).saved());
-    EXPECT_TRUE(disk.exists(QStringLiteral("/o/Personal/Notes.txt.bak"))); // the long one
+    EXPECT_TRUE(disk.exists(u"/o/Personal/Notes.txt.bak"_s)); // the long one
 }
 
 TEST(HostileData, manyLargeFilesAreLeftOutTogetherAndToldOnce) {
@@ -114,24 +116,24 @@ TEST(HostileData, manyLargeFilesAreLeftOutTogetherAndToldOnce) {
     const QByteArray comments = QByteArray(";").repeated(99'999) + '\n';
     for (const char* name :
          {"Campaign.01.A/Zones.txt", "Campaign.01.A/Greens.txt", "Campaign.02.B/Greens.txt"})
-        disk.put(QStringLiteral("/o/") + QString::fromLatin1(name), comments.repeated(100));
-    const QString notes = QStringLiteral("/o/Personal/Notes.txt");
+        disk.put(u"/o/"_s + QString::fromLatin1(name), comments.repeated(100));
+    const QString notes = u"/o/Personal/Notes.txt"_s;
     disk.put(notes, "a\tdeep\t1\t1\t1\t1\n" + comments.repeated(100));
-    disk.put(QStringLiteral("/o/Personal/Characters.txt"), "01\tAda\r\n");
+    disk.put(u"/o/Personal/Characters.txt"_s, "01\tAda\r\n");
     const QByteArray before = disk.content(notes);
     ProgramState state;
-    state.AppPath = QStringLiteral("/o/");
+    state.AppPath = u"/o/"_s;
     PlayerFiles files(disk);
     RecordingDesktop desktop;
     LoadAll(state, files, desktop);
     EXPECT_EQ(1, desktop.log.size());
-    EXPECT_TRUE(desktop.log[0].contains(QStringLiteral("larger than")));
-    EXPECT_EQ(QStringLiteral("Ada"), state.Characters[1]);
+    EXPECT_TRUE(desktop.log[0].contains(u"larger than"_s));
+    EXPECT_EQ(u"Ada"_s, state.Characters[1]);
     EXPECT_EQ(0, state.Notes.count());
     // Notes that were not read are not taken for none: nobody replaces them unasked, and then they are kept.
     EXPECT_EQ(SaveResult::Outcome::ChangedOutside, SaveNotes(state, files).outcome);
     ASSERT_TRUE(SaveNotes(state, files, true).saved());
-    EXPECT_EQ(before, disk.content(notes + QStringLiteral(".bak")));
+    EXPECT_EQ(before, disk.content(notes + u".bak"_s));
 }
 
 // In kB; what the process has held at most so far.
@@ -144,12 +146,12 @@ long peakMemory() {
 TEST(HostileData, longFilesDoNotMultiplyEachOther) {
     constexpr int lines = 20'000;
     MemoryDisk disk;
-    disk.put(QStringLiteral("/o/Campaign.01.Ash/EliteLocations.txt"),
+    disk.put(u"/o/Campaign.01.Ash/EliteLocations.txt"_s,
              QByteArray("0\t1\t9\t9\tUlf\t\t5\r\n").repeated(lines));
-    disk.put(QStringLiteral("/o/Campaign.01.Ash/Greens.txt"), QByteArray("Ring\tUlf\r\n").repeated(lines));
+    disk.put(u"/o/Campaign.01.Ash/Greens.txt"_s, QByteArray("Ring\tUlf\r\n").repeated(lines));
     const long before = peakMemory();
     ProgramState state;
-    state.AppPath = QStringLiteral("/o/");
+    state.AppPath = u"/o/"_s;
     PlayerFiles files(disk);
     loadTables(state, files);
     EXPECT_EQ(lines, state.EliteSkills[0].Locations.count());
@@ -158,19 +160,19 @@ TEST(HostileData, longFilesDoNotMultiplyEachOther) {
 
 TEST(HostileData, oneLineWithTheHighestNumberDoesNotEatTheMemory) {
     MemoryDisk disk;
-    disk.put(QStringLiteral("/o/Data/Language.txt"), "65535\tx\r\n");
+    disk.put(u"/o/Data/Language.txt"_s, "65535\tx\r\n");
     for (const char* folder : {"/o/Campaign.00.A/", "/o/Campaign.04.B/"}) {
         const QString at = QString::fromLatin1(folder);
-        disk.put(at + QStringLiteral("EliteList.txt"), "65535\t255\tSpark\r\n");
-        disk.put(at + QStringLiteral("Collectors.txt"), "65535\tSmith\t1\r\nx\r\n1 y\r\n");
-        disk.put(at + QStringLiteral("PetsList.txt"), "65535\tWolf\tx\r\n");
-        disk.put(at + QStringLiteral("Regions.txt"), "255\tFar\r\n");
-        disk.put(at + QStringLiteral("Professions.txt"), "255\tMage\t1\tM\r\n");
+        disk.put(at + u"EliteList.txt"_s, "65535\t255\tSpark\r\n");
+        disk.put(at + u"Collectors.txt"_s, "65535\tSmith\t1\r\nx\r\n1 y\r\n");
+        disk.put(at + u"PetsList.txt"_s, "65535\tWolf\tx\r\n");
+        disk.put(at + u"Regions.txt"_s, "255\tFar\r\n");
+        disk.put(at + u"Professions.txt"_s, "255\tMage\t1\tM\r\n");
     }
-    disk.put(QStringLiteral("/o/Personal/Characters.txt"), "99\tAda\r\n");
+    disk.put(u"/o/Personal/Characters.txt"_s, "99\tAda\r\n");
     const long before = peakMemory();
     ProgramState state;
-    state.AppPath = QStringLiteral("/o/");
+    state.AppPath = u"/o/"_s;
     PlayerFiles files(disk);
     LoadLanguage(state, disk);
     loadTables(state, files);

@@ -2,6 +2,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 QByteArray bytes(const char* text) {
     return QByteArray(text);
 }
@@ -71,22 +73,22 @@ DiskError MemoryDisk::change(const QString& what) {
     log.push_back(what);
     ++changes_;
     if (failAt > 0 && (changes_ == failAt || (changes_ > failAt && !failOnce)))
-        return QStringLiteral("the disk is full");
+        return u"the disk is full"_s;
     return std::nullopt;
 }
 
 DiskError MemoryDisk::replace(const QString& path, const QByteArray& content) {
-    if (const DiskError error = change(QStringLiteral("replace ") + path))
+    if (const DiskError error = change(u"replace "_s + path))
         return error;
     put(path, content);
     return std::nullopt;
 }
 
 DiskError MemoryDisk::rename(const QString& from, const QString& to) {
-    if (const DiskError error = change(QStringLiteral("rename ") + from + QStringLiteral(" ") + to))
+    if (const DiskError error = change(u"rename "_s + from + u" "_s + to))
         return error;
     if (!entries_.contains(from.toLower()) || entries_.contains(to.toLower()))
-        return QStringLiteral("no such file, or the new name is taken");
+        return u"no such file, or the new name is taken"_s;
     std::map<QString, Entry> moved;
     for (const auto& [key, entry] : entries_) {
         const bool inside = key == from.toLower() || key.startsWith(from.toLower() + u'/');
@@ -98,28 +100,28 @@ DiskError MemoryDisk::rename(const QString& from, const QString& to) {
 }
 
 DiskError MemoryDisk::remove(const QString& path) {
-    if (const DiskError error = change(QStringLiteral("remove ") + path))
+    if (const DiskError error = change(u"remove "_s + path))
         return error;
-    return entries_.erase(path.toLower()) ? std::nullopt : DiskError(QStringLiteral("no such file"));
+    return entries_.erase(path.toLower()) ? std::nullopt : DiskError(u"no such file"_s);
 }
 
 DiskError MemoryDisk::makeRunnable(const QString& path) {
-    return change(QStringLiteral("runnable ") + path);
+    return change(u"runnable "_s + path);
 }
 
 DiskError MemoryDisk::createFolder(const QString& path) {
-    if (const DiskError error = change(QStringLiteral("folder ") + path))
+    if (const DiskError error = change(u"folder "_s + path))
         return error;
     putFolder(path);
     return std::nullopt;
 }
 
 DiskError MemoryDisk::removeFolder(const QString& path) {
-    if (const DiskError error = change(QStringLiteral("remove folder ") + path))
+    if (const DiskError error = change(u"remove folder "_s + path))
         return error;
     if (!list(path).empty())
-        return QStringLiteral("the folder is not empty");
-    return entries_.erase(path.toLower()) ? std::nullopt : DiskError(QStringLiteral("no such folder"));
+        return u"the folder is not empty"_s;
+    return entries_.erase(path.toLower()) ? std::nullopt : DiskError(u"no such folder"_s);
 }
 
 } // namespace orvinel

@@ -15,10 +15,10 @@ namespace {
 
 RegionRecipe smallRecipe(quint32 seed, Theme theme) {
     using enum SiteRole;
-    RegionRecipe recipe{seed, QSize(460, 360), theme, int(seed % 5), QStringLiteral("Trial"), {}};
-    recipe.sites = {{QStringLiteral("First"), Town, SiteNear::Coast},
-                    {QStringLiteral("Second"), Outpost, SiteNear::Ridge},
-                    {QStringLiteral("Third"), DungeonEntrance, SiteNear::Forest}};
+    RegionRecipe recipe{seed, QSize(460, 360), theme, int(seed % 5), u"Trial"_s, {}};
+    recipe.sites = {{u"First"_s, Town, SiteNear::Coast},
+                    {u"Second"_s, Outpost, SiteNear::Ridge},
+                    {u"Third"_s, DungeonEntrance, SiteNear::Forest}};
     return recipe;
 }
 

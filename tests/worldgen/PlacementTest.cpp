@@ -57,7 +57,7 @@ TEST(PlaceFinder, dependsOnItsSeedAlone) {
     EXPECT_EQ(QPoint(443, 348), place);
 }
 
-/// Two regions with a town each; forty bosses live in the first town.
+// Two regions with a town each; forty bosses live in the first town.
 WorldSource crowdedWorld() {
     WorldSource world;
     world.regions = {{1, 1, u"1"_s, u"West"_s, Theme::Frost, QSize(800, 600), 9},

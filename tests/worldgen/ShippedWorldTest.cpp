@@ -28,8 +28,8 @@ struct Loud : orvinel::Complaints {
     }
 };
 
-/// The shipped tables, written at made-up places (painting takes minutes) and read by the program's own
-/// loaders.
+// The shipped tables, written at made-up places (painting takes minutes) and read by the program's own
+// loaders.
 struct ShippedWorld : testing::Test {
     static QString folder() { return QString::fromUtf8(WORLDGEN_WORLD); }
 
@@ -45,15 +45,13 @@ struct ShippedWorld : testing::Test {
         WorldPlaces places(source);
         for (const SourceRegion& region : source.regions) {
             std::vector<QPoint> sites;
-            for (std::size_t i = 0; i < recipeFor(source, region).sites.size(); ++i) {
+            for (std::size_t i = 0; i < recipeFor(source, region).sites.size(); ++i)
                 sites.emplace_back(200 + 320 * int(i % 4), 200 + 300 * int(i / 4));
-            }
             placeRegion(source, region, {sites, [](QPoint) { return true; }}, places);
         }
         for (const SourceCampaign& campaign : source.campaigns) {
-            for (const auto& [name, bytes] : campaignFiles(source, places, campaign, problems)) {
+            for (const auto& [name, bytes] : campaignFiles(source, places, campaign, problems))
                 disk.put(u"/o/"_s + campaignFolder(campaign) + u'/' + name, bytes);
-            }
         }
         putData();
         state.AppPath = u"/o/"_s;
@@ -208,9 +206,8 @@ TEST_F(ShippedWorld, givesEveryCollectorFilterHitsAndMisses) {
                      "hand " + std::to_string(hand));
     }
     QStringList words{state.text(orvinel::Caption::NoAttribute)};
-    for (const SourceProfession& profession : source.professions) {
+    for (const SourceProfession& profession : source.professions)
         words += profession.attributes;
-    }
     for (const QString& word : words) {
         expectReward(
             [&](const SourceReward& reward) {

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A folder of tables as small as they can be, which each test changes a little.
+// A folder of tables as small as they can be, which each test changes a little.
 struct SourceTables : testing::Test {
     QTemporaryDir folder;
     QStringList problems;
@@ -153,9 +153,8 @@ TEST_F(SourceTables, multipliedReferToTheirOwnCopies) {
     ASSERT_EQ(6U, world.zones.size());
     ASSERT_EQ(6U, world.bosses.size());
     std::set<int> zoneIds;
-    for (const SourceZone& zone : world.zones) {
+    for (const SourceZone& zone : world.zones)
         zoneIds.insert(zone.id);
-    }
     EXPECT_EQ(6U, zoneIds.size());
     EXPECT_EQ(u"Nán 3"_s, world.bosses[4].name);
     EXPECT_EQ(u"Heath 3"_s, world.zones[std::size_t(world.bosses[4].zone)].name);
@@ -196,9 +195,8 @@ TEST(ShippedTables, giveProfessionsColoursThatStayApartForColourBlindEyes) {
     QStringList problems;
     std::vector<QRgb> colours{qRgb(0xAA, 0xAA, 0xAA)}; // bosses without a skill
     const QString world = QString::fromUtf8(WORLDGEN_WORLD);
-    for (const SourceProfession& profession : readWorldSource(world, u"None"_s, problems).professions) {
+    for (const SourceProfession& profession : readWorldSource(world, u"None"_s, problems).professions)
         colours.push_back(profession.colour);
-    }
     ASSERT_EQ(11U, colours.size());
     for (const Matrix& vision : visions) {
         for (std::size_t i = 0; i < colours.size(); ++i) {

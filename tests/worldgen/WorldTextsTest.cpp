@@ -18,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// What the hand-written tables say, as players read it in lists and boxes.
+// What the hand-written tables say, as players read it in lists and boxes.
 struct WorldTexts : testing::Test {
     QStringList problems;
     WorldSource source = readWorldSource(QString::fromUtf8(WORLDGEN_WORLD), u"No attribute"_s, problems);
@@ -59,21 +59,19 @@ TEST_F(WorldTexts, fitTheirLists) {
     }
 }
 
-/// The numbers in a text, in no order: languages put them where they like.
+// The numbers in a text, in no order: languages put them where they like.
 std::multiset<QString> numbers(const QString& text) {
     static const QRegularExpression number(u"\\d+(\\.\\.\\.\\d+)?"_s);
     std::multiset<QString> found;
-    for (const QRegularExpressionMatch& match : number.globalMatch(text)) {
+    for (const QRegularExpressionMatch& match : number.globalMatch(text))
         found.insert(match.captured());
-    }
     return found;
 }
 
 TEST_F(WorldTexts, sayTheSameAndFitInEveryLanguage) {
     int widest = 0;
-    for (const SourceSkill& skill : source.skills) {
+    for (const SourceSkill& skill : source.skills)
         widest = std::max(widest, width(skill.description));
-    }
     for (std::size_t language = 0; language < std::size(WorldLanguages); ++language) {
         const WorldSource other = translated(source, QString::fromUtf8(WORLDGEN_WORLD), language, problems);
         EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
@@ -126,39 +124,32 @@ TEST_F(WorldTexts, repaintOnlyWhatTheyChange) {
 
 TEST_F(WorldTexts, nameNoZoneLikeASkill) {
     std::set<QString> skills;
-    for (const SourceSkill& skill : source.skills) {
+    for (const SourceSkill& skill : source.skills)
         skills.insert(skill.name);
-    }
     for (const SourceZone& zone : source.zones) {
         EXPECT_EQ(0U, skills.count(zone.name)) << zone.name.toStdString();
     }
 }
 
-/// Every text that a player reads, with what it belongs to.
+// Every text that a player reads, with what it belongs to.
 std::vector<std::pair<QString, QString>> sentences(const WorldSource& source) {
     std::vector<std::pair<QString, QString>> all;
-    for (const SourceSkill& skill : source.skills) {
+    for (const SourceSkill& skill : source.skills)
         all.emplace_back(skill.name, skill.name + u' ' + skill.description);
-    }
-    for (const SourceBoss& boss : source.bosses) {
+    for (const SourceBoss& boss : source.bosses)
         all.emplace_back(boss.name, boss.name + u' ' + boss.note);
-    }
-    for (const SourceZone& zone : source.zones) {
+    for (const SourceZone& zone : source.zones)
         all.emplace_back(zone.name, zone.name);
-    }
-    for (const SourcePet& pet : source.pets) {
+    for (const SourcePet& pet : source.pets)
         all.emplace_back(pet.name, pet.remark);
-    }
     for (const SourceCollector& collector : source.collectors) {
         QString text = collector.whereabouts + u' ' + collector.request;
-        for (const SourceReward& reward : collector.rewards) {
+        for (const SourceReward& reward : collector.rewards)
             text += u' ' + reward.name + u' ' + reward.stats.join(u' ');
-        }
         all.emplace_back(collector.name, text);
     }
-    for (const SourceGreen& green : source.greens) {
+    for (const SourceGreen& green : source.greens)
         all.emplace_back(green.name, green.name + u' ' + green.stats.join(u' '));
-    }
     return all;
 }
 

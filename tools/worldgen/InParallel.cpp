@@ -13,9 +13,8 @@ void inParallel(std::size_t count, const std::function<void(std::size_t)>& work)
     const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
     for (std::size_t i = 0; i < std::min(count, processors); ++i) {
         workers.emplace_back([&] {
-            for (std::size_t item = next++; item < count; item = next++) {
+            for (std::size_t item = next++; item < count; item = next++)
                 work(item);
-            }
         });
     }
 }

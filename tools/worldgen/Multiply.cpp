@@ -6,7 +6,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Appends `factor` - 1 changed copies of every record.
+// Appends `factor` - 1 changed copies of every record.
 template <typename Record, typename Change>
 void multiply(std::vector<Record>& records, int factor, const Change& change) {
     const std::size_t originals = records.size();

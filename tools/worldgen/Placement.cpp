@@ -7,12 +7,12 @@ namespace worldgen {
 
 namespace {
 
-constexpr int BorderGap = 36;     ///< the painted frame, and room for half a marker
-constexpr int MarkerSpacing = 16; ///< one pixel more than the widest marker
+constexpr int BorderGap = 36;     // the painted frame, and room for half a marker
+constexpr int MarkerSpacing = 16; // one pixel more than the widest marker
 constexpr int ZoneSpacing = 60;
 constexpr int MarkerHalf = 8;
 constexpr int NameHeight = 16;
-constexpr int ChestReach = 200; ///< hidden things lie farther from the villages than people stand
+constexpr int ChestReach = 200; // hidden things lie farther from the villages than people stand
 constexpr int CollectorReach = 110;
 constexpr int BossReach = 200;
 constexpr int PetReach = 210;
@@ -60,7 +60,7 @@ bool liesIn(const SourceRegion& region, const SourceZone& zone) {
     return zone.campaign == region.campaign && zone.region == region.number;
 }
 
-/// Places the markers of one region layer after layer.
+// Places the markers of one region layer after layer.
 class RegionFiller {
   public:
     RegionFiller(const WorldSource& source, const SourceRegion& region, const Ground& ground,
@@ -85,9 +85,8 @@ class RegionFiller {
 
 QPoint RegionFiller::place(QPoint near, int reach, int spacing) {
     for (int wanted = spacing; wanted > 0; wanted /= 2) {
-        if (const auto found = finder_.placeNear(near, reach, wanted)) {
+        if (const auto found = finder_.placeNear(near, reach, wanted))
             return *found;
-        }
     }
     return near;
 }
@@ -114,9 +113,8 @@ template <typename Records>
 void RegionFiller::fill(const Records& records, int reach, std::vector<QPoint>& places) {
     for (std::size_t i = 0; i < records.size(); ++i) {
         const int zone = records[i].zone;
-        if (zone >= 0 && liesIn(region_, source_.zones[std::size_t(zone)])) {
+        if (zone >= 0 && liesIn(region_, source_.zones[std::size_t(zone)]))
             places[i] = place(places_.zones[std::size_t(zone)], reach, MarkerSpacing);
-        }
     }
 }
 
@@ -141,8 +139,8 @@ std::vector<QPoint>& PlaceFinder::cellOf(QPoint place) {
                   std::size_t(place.x() / CellSize)];
 }
 
-/// Markers are squares: apart along one axis is apart. A spacing is never larger than a cell, so that the
-/// neighbouring cells hold all that can be too near.
+// Markers are squares: apart along one axis is apart. A spacing is never larger than a cell, so that the
+// neighbouring cells hold all that can be too near.
 bool PlaceFinder::isCrowded(QPoint place, int spacing) const {
     const auto tooNear = [&](QPoint other) {
         const QPoint gap = other - place;
@@ -154,9 +152,8 @@ bool PlaceFinder::isCrowded(QPoint place, int spacing) const {
     for (int y = std::max(0, row - 1); y <= std::min(rows - 1, row + 1); ++y) {
         for (int x = std::max(0, column - 1); x <= std::min(columns_ - 1, column + 1); ++x) {
             const std::vector<QPoint>& cell = taken_[std::size_t(y) * std::size_t(columns_) + std::size_t(x)];
-            if (std::any_of(cell.begin(), cell.end(), tooNear)) {
+            if (std::any_of(cell.begin(), cell.end(), tooNear))
                 return true;
-            }
         }
     }
     return false;
@@ -168,16 +165,15 @@ bool PlaceFinder::isFree(QPoint place, int spacing) const {
            !isCrowded(place, spacing) && land_(place);
 }
 
-/// Draws points from the square around the centre and keeps those inside the circle: whole numbers only, so
-/// that no machine rounds differently.
+// Draws points from the square around the centre and keeps those inside the circle: whole numbers only, so
+// that no machine rounds differently.
 std::optional<QPoint> PlaceFinder::tryRing(QPoint centre, int reach, int spacing) {
     const quint32 side = quint32(2 * reach + 1);
     for (int i = 0; i < TriesPerRing; ++i) {
         const QPoint offset(int(random() % side) - reach, int(random() % side) - reach);
         const bool inCircle = offset.x() * offset.x() + offset.y() * offset.y() <= reach * reach;
-        if (inCircle && isFree(centre + offset, spacing)) {
+        if (inCircle && isFree(centre + offset, spacing))
             return centre + offset;
-        }
     }
     return std::nullopt;
 }
@@ -190,26 +186,22 @@ std::optional<QPoint> PlaceFinder::searchAll(QPoint centre, int spacing) const {
             const QPoint place(x, y);
             const bool nearer =
                 !best || (place - centre).manhattanLength() < (*best - centre).manhattanLength();
-            if (nearer && isFree(place, spacing)) {
+            if (nearer && isFree(place, spacing))
                 best = place;
-            }
         }
     }
     return best;
 }
 
 std::optional<QPoint> PlaceFinder::placeNear(QPoint centre, int reach, int spacing) {
-    if (spacing >= fullFrom_) {
+    if (spacing >= fullFrom_)
         return std::nullopt;
-    }
     const int farthest = std::max(inner_.width(), inner_.height());
     std::optional<QPoint> found;
-    for (int radius = reach; !found && radius < 2 * farthest; radius += radius / 2 + 1) {
+    for (int radius = reach; !found && radius < 2 * farthest; radius += radius / 2 + 1)
         found = tryRing(centre, radius, spacing);
-    }
-    if (!found) {
+    if (!found)
         found = searchAll(centre, spacing);
-    }
     if (found) {
         cellOf(*found).push_back(*found);
     } else {

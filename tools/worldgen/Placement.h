@@ -10,19 +10,19 @@
 
 namespace worldgen {
 
-/// Hands out free places for the markers of one region. The same questions in the same order give the same
-/// places on every machine.
+// Hands out free places for the markers of one region. The same questions in the same order give the same
+// places on every machine.
 class PlaceFinder {
   public:
-    /// `land` tells whether a marker may stand at a point of the picture.
+    // `land` tells whether a marker may stand at a point of the picture.
     PlaceFinder(QSize picture, std::function<bool(QPoint)> land, quint64 seed);
 
-    /// Keeps marker centres out of `area` (pixels).
+    // Keeps marker centres out of `area` (pixels).
     void block(const QRect& area) { blocked_.push_back(area); }
 
-    /// A point of land at least `spacing` pixels, along x or y, from every place given out so far, outside
-    /// all blocked areas, and as close to `centre` as chance and room allow: first within `reach` pixels,
-    /// then farther and farther. Nothing when the whole region has no such point.
+    // A point of land at least `spacing` pixels, along x or y, from every place given out so far, outside
+    // all blocked areas, and as close to `centre` as chance and room allow: first within `reach` pixels,
+    // then farther and farther. Nothing when the whole region has no such point.
     std::optional<QPoint> placeNear(QPoint centre, int reach, int spacing);
 
   private:
@@ -38,11 +38,11 @@ class PlaceFinder {
     quint64 state_;
     std::vector<QRect> blocked_;
     int columns_;
-    std::vector<std::vector<QPoint>> taken_; ///< by cell, row after row
-    int fullFrom_;                           ///< no place is left for this spacing or a larger one
+    std::vector<std::vector<QPoint>> taken_; // by cell, row after row
+    int fullFrom_;                           // no place is left for this spacing or a larger one
 };
 
-/// Coordinates (pixels of the region picture) for the tables of a WorldSource, entry by entry.
+// Coordinates (pixels of the region picture) for the tables of a WorldSource, entry by entry.
 struct WorldPlaces {
     explicit WorldPlaces(const WorldSource& source);
 
@@ -53,23 +53,23 @@ struct WorldPlaces {
     std::vector<QPoint> petPlaces;
 };
 
-/// The part of the picture that a zone's marker and name cover.
+// The part of the picture that a zone's marker and name cover.
 QRect zoneFootprint(const SourceZone& zone, QPoint place);
 
-/// What the painter is asked for. The wishes follow the order of the region's painted zones.
+// What the painter is asked for. The wishes follow the order of the region's painted zones.
 RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region);
 
-/// What placing needs to know of a painted region.
+// What placing needs to know of a painted region.
 struct Ground {
-    std::vector<QPoint> sites; ///< of the region's painted zones, in their order
+    std::vector<QPoint> sites; // of the region's painted zones, in their order
     std::function<bool(QPoint)> land;
 };
 
-/// Markers stand with their feet dry all around. `survey` must live as long.
+// Markers stand with their feet dry all around. `survey` must live as long.
 Ground groundOf(const SurveyedRegion& survey);
 
-/// Fills in all places that lie in `region`, and no others, so that regions may be done side by side.
-/// Spacing is given up, step by step, only where a region is full (in scaled worlds).
+// Fills in all places that lie in `region`, and no others, so that regions may be done side by side.
+// Spacing is given up, step by step, only where a region is full (in scaled worlds).
 void placeRegion(const WorldSource& source, const SourceRegion& region, const Ground& ground,
                  WorldPlaces& places);
 

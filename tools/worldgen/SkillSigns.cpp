@@ -10,13 +10,11 @@ SignBook readSigns(const std::vector<SourceRow>& rows, QStringList& problems) {
         std::vector<SignPart> parts;
         for (qsizetype i = 1; i + 1 < row.fields.size(); i += 2) {
             parts.push_back({row.fields[i], row.fields[i + 1]});
-            if (!isSignMaterial(row.fields[i])) {
+            if (!isSignMaterial(row.fields[i]))
                 problems.append(row.place + u": no such material: "_s + row.fields[i]);
-            }
         }
-        if (row.fields.size() % 2 == 0 || isSignManner(row.fields[0]) || book.contains(row.fields[0])) {
+        if (row.fields.size() % 2 == 0 || isSignManner(row.fields[0]) || book.contains(row.fields[0]))
             problems.append(row.place + u": material without shape, or name taken: "_s + row.fields[0]);
-        }
         book.insert(row.fields[0], parts);
     }
     return book;
@@ -36,9 +34,8 @@ std::vector<PlacedSign> placedSigns(const QString& text, const SignBook& book, c
                 problems.append(place + u": no such sign: "_s + word);
             }
         }
-        if (sign.parts.empty()) {
+        if (sign.parts.empty())
             problems.append(place + u": a picture without a sign"_s);
-        }
         signs.push_back(sign);
     }
     return signs;

@@ -13,9 +13,8 @@ namespace {
 QStringList splitFields(const QString& line) {
     QStringList fields = line.split(u'\t');
     for (QString& field : fields) {
-        if (field == u'-') {
+        if (field == u'-')
             field.clear();
-        }
     }
     return fields;
 }
@@ -33,9 +32,8 @@ QStringList readLines(const QString& path, QStringList& problems) {
     }
     QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
     for (QString& line : lines) {
-        if (line.endsWith(u'\r')) {
+        if (line.endsWith(u'\r'))
             line.chop(1);
-        }
     }
     return lines;
 }
@@ -47,9 +45,8 @@ std::vector<SourceRow> readTable(const QString& path, int fewest, QStringList& p
     const QStringList lines = readLines(path, problems);
     for (int i = 0; i < lines.size(); ++i) {
         const QString& line = lines[i];
-        if (line.trimmed().isEmpty() || line.startsWith(u'#')) {
+        if (line.trimmed().isEmpty() || line.startsWith(u'#'))
             continue;
-        }
         if (line.startsWith(u'[') && line.endsWith(u']')) {
             section = line.mid(1, line.size() - 2);
             continue;

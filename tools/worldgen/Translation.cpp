@@ -11,16 +11,15 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// "Fire 6–10, requires 3 Embers" as "Fire §–§, requires § ~": numbers and attributes stay as they are, in
-/// their order.
+// "Fire 6–10, requires 3 Embers" as "Fire §–§, requires § ~": numbers and attributes stay as they are, in
+// their order.
 class Pattern {
   public:
     explicit Pattern(const WorldSource& source) {
         QStringList attributes;
         for (const SourceProfession& profession : source.professions) {
-            for (const QString& attribute : profession.attributes) {
+            for (const QString& attribute : profession.attributes)
                 attributes.append(QRegularExpression::escape(attribute));
-            }
         }
         kept_.setPattern(u"\\d+|\\b(?:%1)\\b"_s.arg(attributes.join(u'|')));
     }
@@ -57,9 +56,8 @@ class Translator {
 
     void phrase(QString& text) const;
     void phrases(QStringList& texts) const {
-        for (QString& text : texts) {
+        for (QString& text : texts)
             phrase(text);
-        }
     }
     void description(SourceSkill& skill) const;
 
@@ -75,18 +73,15 @@ Translator::Translator(const WorldSource& source, const QString& worldFolder, st
     : pattern_(source), problems_(problems) {
     const qsizetype column = 1 + qsizetype(language);
     const QString folder = worldFolder + u"/source/texts/"_s;
-    for (const SourceRow& row : readTable(folder + u"phrases.txt"_s, 3, problems)) {
+    for (const SourceRow& row : readTable(folder + u"phrases.txt"_s, 3, problems))
         phrases_.insert(row.fields[0], row.fields[column]);
-    }
-    for (const SourceRow& row : readTable(folder + u"skills.txt"_s, 3, problems)) {
+    for (const SourceRow& row : readTable(folder + u"skills.txt"_s, 3, problems))
         descriptions_.insert(row.fields[0].toInt(), row.fields[column]);
-    }
 }
 
 void Translator::phrase(QString& text) const {
-    if (text.isEmpty()) {
+    if (text.isEmpty())
         return;
-    }
     QStringList kept;
     QString pattern = pattern_.of(text, kept);
     if (phrases_.contains(text)) { // with a number that belongs to it, as "number 412"
@@ -119,28 +114,22 @@ WorldSource translated(const WorldSource& source, const QString& worldFolder, st
         translator.phrase(skill.type);
         translator.description(skill);
     }
-    for (SourceBoss& boss : world.bosses) {
+    for (SourceBoss& boss : world.bosses)
         translator.phrase(boss.note);
-    }
     for (SourceCollector& collector : world.collectors) {
         translator.phrase(collector.whereabouts);
         translator.phrase(collector.request);
-        for (SourceReward& reward : collector.rewards) {
+        for (SourceReward& reward : collector.rewards)
             translator.phrases(reward.stats);
-        }
     }
-    for (SourceGreen& green : world.greens) {
+    for (SourceGreen& green : world.greens)
         translator.phrases(green.stats);
-    }
-    for (SourceChest& chest : world.chests) {
+    for (SourceChest& chest : world.chests)
         translator.phrase(chest.name);
-    }
-    for (SourcePet& pet : world.pets) {
+    for (SourcePet& pet : world.pets)
         translator.phrase(pet.remark);
-    }
-    for (SourcePetPlace& place : world.petPlaces) {
+    for (SourcePetPlace& place : world.petPlaces)
         translator.phrase(place.remark);
-    }
     return world;
 }
 

@@ -27,9 +27,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int JpegQuality = 90;
-const QString StampKey = u"Painted"_s; ///< in a picture's comment: what it was painted from
+const QString StampKey = u"Painted"_s; // in a picture's comment: what it was painted from
 
-/// Pictures of another painter are painted again.
+// Pictures of another painter are painted again.
 QByteArray painterStamp() {
     QFile program(QCoreApplication::applicationFilePath());
     QCryptographicHash hash(QCryptographicHash::Sha1);
@@ -58,21 +58,19 @@ QString recipeText(const SkillPicture& picture) {
     QString text = u"%1 %2 %3"_s.arg(picture.seed).arg(picture.professionColour).arg(picture.attribute);
     for (const PlacedSign& sign : picture.signs) {
         text += u'|' + sign.manner.join(u' ');
-        for (const SignPart& part : sign.parts) {
+        for (const SignPart& part : sign.parts)
             text += u'|' + part.material + u' ' + part.shape;
-        }
     }
     return text;
 }
 
 QString recipeText(const AnimalPicture& animal) {
     QString text = animal.ground;
-    for (const AnimalPart& part : animal.parts) {
+    for (const AnimalPart& part : animal.parts)
         text += u"|%1 %2 %3"_s.arg(part.kind).arg(part.colour).arg(part.shape);
-    }
     return text;
 }
-constexpr int WithoutAttribute = 5; ///< for the painter of skills
+constexpr int WithoutAttribute = 5; // for the painter of skills
 
 class Builder {
   public:
@@ -92,7 +90,7 @@ class Builder {
     void writeTables();
     void writeTranslations();
     void save(const QString& name, const QByteArray& bytes);
-    /// Paints unless the picture is there already, painted from the same `recipe` by the same program.
+    // Paints unless the picture is there already, painted from the same `recipe` by the same program.
     void renewPicture(const QString& name, const QString& recipe, const std::function<QImage()>& paint);
     void savePicture(const QString& name, const QImage& picture, const QString& stamp = {});
     void reuse(const QString& name, const QString& original);
@@ -103,7 +101,7 @@ class Builder {
     const WorldSource& source_;
     QString worldFolder_;
     QString outFolder_;
-    QString part_; ///< of the names of the pictures to paint; empty: all
+    QString part_; // of the names of the pictures to paint; empty: all
     WorldPlaces places_;
     QByteArray painterStamp_ = painterStamp();
     std::mutex problemsLock_;
@@ -123,21 +121,18 @@ QString Builder::folderOf(int campaign) const {
 
 void Builder::save(const QString& name, const QByteArray& bytes) {
     QSaveFile file(outFolder_ + name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
         file.cancelWriting();
-    }
-    if (!file.commit()) {
+    if (!file.commit())
         problem(file.fileName() + u": "_s + file.errorString());
-    }
 }
 
 void Builder::renewPicture(const QString& name, const QString& recipe, const std::function<QImage()>& paint) {
     const QByteArray whole = painterStamp_ + recipe.toUtf8();
     const QString stamp =
         QString::fromLatin1(QCryptographicHash::hash(whole, QCryptographicHash::Sha1).toHex());
-    if (QImageReader(outFolder_ + name).text(StampKey) != stamp) {
+    if (QImageReader(outFolder_ + name).text(StampKey) != stamp)
         savePicture(name, paint(), stamp);
-    }
 }
 
 void Builder::savePicture(const QString& name, const QImage& picture, const QString& stamp) {
@@ -145,9 +140,8 @@ void Builder::savePicture(const QString& name, const QImage& picture, const QStr
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "jpg");
     writer.setQuality(JpegQuality);
-    if (!stamp.isEmpty()) {
+    if (!stamp.isEmpty())
         writer.setText(StampKey, stamp);
-    }
     if (!writer.write(picture)) {
         problem(name + u": "_s + writer.errorString());
         return;
@@ -167,9 +161,8 @@ void Builder::reuse(const QString& name, const QString& original) {
 void Builder::makeFolders() {
     const QDir out(outFolder_);
     out.mkpath(u"Data"_s);
-    for (const SourceCampaign& campaign : source_.campaigns) {
+    for (const SourceCampaign& campaign : source_.campaigns)
         out.mkpath(campaignFolder(campaign) + u"/imgElite"_s);
-    }
     out.mkpath(folderOf(0) + u"imgPets"_s);
 }
 
@@ -179,9 +172,8 @@ void Builder::copyData() {
     while (files.hasNext()) {
         const QString name = data.relativeFilePath(files.next());
         QFile file(files.filePath());
-        if (name.compare(u"Options.txt", Qt::CaseInsensitive) == 0) {
+        if (name.compare(u"Options.txt", Qt::CaseInsensitive) == 0)
             continue;
-        }
         if (!file.open(QIODevice::ReadOnly)) {
             problem(file.fileName() + u": "_s + file.errorString());
             continue;
@@ -195,9 +187,8 @@ void Builder::paintRegions() {
     inParallel(source_.regions.size(), [this](std::size_t i) {
         const SourceRegion& region = source_.regions[i];
         const QString name = folderOf(region.campaign) + region.fileNumber + u".jpg"_s;
-        if (!isWanted(name)) {
+        if (!isWanted(name))
             return;
-        }
         const RegionRecipe recipe = recipeFor(source_, region);
         const SurveyedRegion survey = surveyRegion(recipe);
         placeRegion(source_, region, groundOf(survey), places_);
@@ -231,9 +222,8 @@ void Builder::paintPets() {
     const QString folder = folderOf(0) + u"imgPets/"_s;
     for (const SourcePet& pet : source_.pets) {
         const QString name = folder + pet.idText + u".jpg"_s;
-        if (!isWanted(name)) {
+        if (!isWanted(name))
             continue;
-        }
         if (pet.pictureOf.isEmpty()) {
             renewPicture(name, pet.idText + recipeText(pet.animal),
                          [&] { return paintPet(pet.idText.toUInt(), pet.animal); });
@@ -245,13 +235,12 @@ void Builder::paintPets() {
 
 void Builder::writeTables() {
     for (const SourceCampaign& campaign : source_.campaigns) {
-        for (const auto& [name, bytes] : campaignFiles(source_, places_, campaign, problems_)) {
+        for (const auto& [name, bytes] : campaignFiles(source_, places_, campaign, problems_))
             save(campaignFolder(campaign) + u'/' + name, bytes);
-        }
     }
 }
 
-/// The tables that hold texts, once more in each language, for players to copy over the English ones.
+// The tables that hold texts, once more in each language, for players to copy over the English ones.
 void Builder::writeTranslations() {
     const QStringList withTexts{u"EliteList.txt"_s,    u"EliteLocations.txt"_s, u"Collectors.txt"_s,
                                 u"Greens.txt"_s,       u"Treasures.txt"_s,      u"PetsList.txt"_s,
@@ -262,9 +251,8 @@ void Builder::writeTranslations() {
         for (const SourceCampaign& campaign : world.campaigns) {
             QDir(outFolder_).mkpath(folder + campaignFolder(campaign));
             for (const auto& [name, bytes] : campaignFiles(world, places_, campaign, problems_)) {
-                if (withTexts.contains(name)) {
+                if (withTexts.contains(name))
                     save(folder + campaignFolder(campaign) + u'/' + name, bytes);
-                }
             }
         }
     }
@@ -326,13 +314,11 @@ QStringList paintPictures(const WorldSource& source, const QString& outFolder, c
 QString noAttributeCaption(const QString& worldFolder) {
     QFile file(worldFolder + u"/Data/Language.txt"_s);
     QString text;
-    if (file.open(QIODevice::ReadOnly)) {
+    if (file.open(QIODevice::ReadOnly))
         text = QStringDecoder("windows-1252").decode(file.readAll());
-    }
     for (const QString& line : text.split(u"\r\n"_s)) {
-        if (line.startsWith(u"45\t")) {
+        if (line.startsWith(u"45\t"))
             return line.section(u'\t', 1, 1);
-        }
     }
     return u"No attribute"_s;
 }

@@ -4,21 +4,21 @@
 
 namespace worldgen {
 
-/// Paints all pictures, places all markers and writes the program's world into `outFolder`, which is made
-/// when it is missing. Files of the same names are replaced; nothing else in the folder is touched, and never
-/// what the player owns (the folder "Personal", "Data/Options.txt"). Regions are painted side by side on all
-/// processors. Returns what went wrong, empty when the whole world was written.
+// Paints all pictures, places all markers and writes the program's world into `outFolder`, which is made
+// when it is missing. Files of the same names are replaced; nothing else in the folder is touched, and never
+// what the player owns (the folder "Personal", "Data/Options.txt"). Regions are painted side by side on all
+// processors. Returns what went wrong, empty when the whole world was written.
 QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder);
 
-/// Paints those pictures alone whose name in the world's folder contains `part`, and writes no tables: for
-/// looking at them.
+// Paints those pictures alone whose name in the world's folder contains `part`, and writes no tables: for
+// looking at them.
 QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part);
 
-/// Writes a CrowdedWorld with its picture and its player's notes; the rest as buildWorld does.
+// Writes a CrowdedWorld with its picture and its player's notes; the rest as buildWorld does.
 QStringList buildCrowdedWorld(int scale, const QString& worldFolder, const QString& outFolder);
 
-/// Caption of the attribute-less choice in `worldFolder`/Data/Language.txt, or an English one when there is
-/// none.
+// Caption of the attribute-less choice in `worldFolder`/Data/Language.txt, or an English one when there is
+// none.
 QString noAttributeCaption(const QString& worldFolder);
 
 } // namespace worldgen

@@ -13,10 +13,10 @@ QString field(int number) {
     return QString::number(number);
 }
 
-/// Collects the lines of one file.
+// Collects the lines of one file.
 class Lines {
   public:
-    /// `remark` opens the file, but for itself makes no file.
+    // `remark` opens the file, but for itself makes no file.
     explicit Lines(const QString& remark = {}) : remark_(remark) {}
 
     void add(const QStringList& fields) { lines_.append(fields.join(u'\t')); }
@@ -28,9 +28,8 @@ class Lines {
         for (const QString& line : remark_.isEmpty() ? lines_ : QStringList(remark_) + lines_) {
             QStringEncoder codePage("windows-1252");
             all += QByteArray(codePage.encode(line)) + "\r\n";
-            if (!codePage.isValid() || codePage.hasError()) {
+            if (!codePage.isValid() || codePage.hasError())
                 problems.append(fileName + u": not in the code page: "_s + line);
-            }
         }
         return all;
     }
@@ -40,7 +39,7 @@ class Lines {
     QStringList lines_;
 };
 
-/// One campaign's share of the world, file by file.
+// One campaign's share of the world, file by file.
 class CampaignWriter {
   public:
     CampaignWriter(const WorldSource& source, const WorldPlaces& places, const SourceCampaign& campaign)
@@ -94,7 +93,7 @@ Lines CampaignWriter::zones() const {
     return lines;
 }
 
-/// Red lies in the low byte of a colour of the program.
+// Red lies in the low byte of a colour of the program.
 QString colourField(QRgb colour) {
     const QString digits = u"%1%2%3"_s.arg(qBlue(colour), 2, 16, QLatin1Char('0'))
                                .arg(qGreen(colour), 2, 16, QLatin1Char('0'))
@@ -137,12 +136,10 @@ Lines CampaignWriter::bosses() const {
     Lines lines;
     for (std::size_t i = 0; i < source_.bosses.size(); ++i) {
         const SourceBoss& boss = source_.bosses[i];
-        if (!isMine(boss)) {
+        if (!isMine(boss))
             continue;
-        }
-        if (lines.isEmpty() && !campaign_.version.isEmpty()) {
+        if (lines.isEmpty() && !campaign_.version.isEmpty())
             lines.addLine(u";[Version] "_s + campaign_.version);
-        }
         QStringList fields{field(boss.skill),
                            field(zone(boss.zone).region),
                            bossCoordinate(places_.bosses[i].x()),
@@ -150,9 +147,8 @@ Lines CampaignWriter::bosses() const {
                            boss.name,
                            boss.code,
                            field(zone(boss.zone).id)};
-        if (!boss.note.isEmpty()) {
+        if (!boss.note.isEmpty())
             fields.append(boss.note);
-        }
         lines.add(fields);
     }
     return lines;
@@ -162,9 +158,8 @@ Lines CampaignWriter::collectors() const {
     Lines lines(
         u"; number, name, armour, level; whereabouts; request; rewards: name, hands, what they do; an empty line"_s);
     for (const SourceCollector& collector : source_.collectors) {
-        if (!isMine(collector)) {
+        if (!isMine(collector))
             continue;
-        }
         lines.add(
             {field(collector.id), collector.name, field(collector.armour ? 1 : 0), field(collector.level)});
         lines.addLine(collector.whereabouts);
@@ -226,14 +221,12 @@ Lines CampaignWriter::petPlaces() const {
     for (std::size_t i = 0; i < source_.petPlaces.size(); ++i) {
         const SourcePetPlace& petPlace = source_.petPlaces[i];
         const QPoint place = places_.petPlaces[i];
-        if (!isMine(petPlace)) {
+        if (!isMine(petPlace))
             continue;
-        }
         QStringList fields{petPlace.pet, field(zone(petPlace.zone).region), field(zone(petPlace.zone).id),
                            field(place.x()), field(place.y())};
-        if (!petPlace.remark.isEmpty()) {
+        if (!petPlace.remark.isEmpty())
             fields.append(petPlace.remark);
-        }
         lines.add(fields);
     }
     return lines;
@@ -259,9 +252,8 @@ std::map<QString, QByteArray> campaignFiles(const WorldSource& source, const Wor
     };
     std::map<QString, QByteArray> files;
     for (const auto& [name, lines] : tables) {
-        if (!lines.isEmpty()) {
+        if (!lines.isEmpty())
             files[name] = lines.bytes(campaignFolder(campaign) + u'/' + name, problems);
-        }
     }
     return files;
 }

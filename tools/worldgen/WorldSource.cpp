@@ -17,7 +17,7 @@ namespace {
 
 constexpr int HighestNumber = NumberStep - 1;
 
-/// Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
+// Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
 bool kindFitsCampaign(ZoneKind kind, int campaign) {
     switch (kind) {
     case ZoneKind::Challenge:
@@ -29,7 +29,7 @@ bool kindFitsCampaign(ZoneKind kind, int campaign) {
     }
 }
 
-/// Bosses of dungeons and of passing events drop no green items, but for the one that is at home in both.
+// Bosses of dungeons and of passing events drop no green items, but for the one that is at home in both.
 bool carriesGreens(const SourceBoss& boss) {
     const bool passing = boss.note.startsWith(u"only during", Qt::CaseInsensitive) || boss.code == u"D";
     return !passing || boss.name == AlwaysGenerous;
@@ -110,15 +110,14 @@ class SourceReader {
     QString noAttribute_;
     QStringList& problems_;
     WorldSource world_;
-    QHash<QString, int> skillIds_;              ///< by name
-    QHash<std::pair<int, QString>, int> zones_; ///< by campaign and name
+    QHash<QString, int> skillIds_;              // by name
+    QHash<std::pair<int, QString>, int> zones_; // by campaign and name
 };
 
 std::vector<SourceRow> SourceReader::rows(const QString& name, int fewest) {
     std::vector<SourceRow> table = readTable(folder_ + name, fewest, problems_);
-    for (SourceRow& row : table) {
+    for (SourceRow& row : table)
         row.fields.replaceInStrings(u"@45"_s, noAttribute_);
-    }
     return table;
 }
 
@@ -129,9 +128,8 @@ std::vector<SourceRow> SourceReader::rows(int campaign, QStringView name, int fe
 template <typename Words>
 auto SourceReader::word(const SourceRow& row, int field, const Words& words) {
     for (const auto& [text, value] : words) {
-        if (row.fields[field] == text) {
+        if (row.fields[field] == text)
             return value;
-        }
     }
     problem(row, u"unknown word "_s + row.fields[field]);
     return words[0].second;
@@ -174,9 +172,8 @@ void SourceReader::readProfessions() {
         profession.colour = row.fields[3].toUInt(&isColour, 16) | 0xFF000000U;
         profession.abbreviation = row.fields[4];
         profession.attributes = row.fields.mid(5);
-        if (!isColour) {
+        if (!isColour)
             problem(row, u"no colour: "_s + row.fields[3]);
-        }
         world_.professions.push_back(profession);
     }
 }
@@ -185,9 +182,8 @@ void SourceReader::readSkills() {
     const SignBook signs = readSigns(rows(u"signs.txt"_s, 3), problems_);
     const QDir folder(folder_ + u"skills"_s);
     for (const QString& name : folder.entryList({u"*.txt"_s}, QDir::Files, QDir::Name)) {
-        for (const SourceRow& row : rows(u"skills/"_s + name, 12)) {
+        for (const SourceRow& row : rows(u"skills/"_s + name, 12))
             readSkill(row, signs);
-        }
     }
 }
 
@@ -208,16 +204,14 @@ void SourceReader::readSkill(const SourceRow& row, const SignBook& signs) {
     for (const SourceProfession& profession : world_.professions) {
         if (profession.name == row.section) {
             skill.profession = profession.number;
-            if (skill.attribute != noAttribute_ && !profession.attributes.contains(skill.attribute)) {
+            if (skill.attribute != noAttribute_ && !profession.attributes.contains(skill.attribute))
                 problem(row, u"no attribute of the profession: "_s + skill.attribute);
-            }
         }
     }
     const bool idTaken = std::any_of(world_.skills.begin(), world_.skills.end(),
                                      [&](const SourceSkill& other) { return other.id == skill.id; });
-    if (skill.profession == 0 || skillIds_.contains(skill.name) || idTaken) {
+    if (skill.profession == 0 || skillIds_.contains(skill.name) || idTaken)
         problem(row, u"unknown profession, or name or number used twice: "_s + skill.name);
-    }
     skillIds_.insert(skill.name, skill.id);
     world_.skills.push_back(skill);
 }
@@ -232,9 +226,8 @@ void SourceReader::readRegions(int campaign) {
         region.theme = word(row, 2, ThemeWords);
         region.size = QSize(numberIn(row, 3, 200, 4000, problems_), numberIn(row, 4, 200, 4000, problems_));
         region.seed = quint32(numberIn(row, 5, 1, 1'000'000, problems_));
-        if (row.fields.size() > 6) {
+        if (row.fields.size() > 6)
             region.landform = word(row, 6, LandformWords);
-        }
         world_.regions.push_back(region);
     }
 }
@@ -246,9 +239,8 @@ void SourceReader::readZones(int campaign) {
         zone.campaign = campaign;
         zone.nearTo = word(row, 1, NearWords);
         zone.name = row.fields[2];
-        if (row.fields.size() > 3) {
+        if (row.fields.size() > 3)
             zone.landmark = word(row, 3, LandmarkWords);
-        }
         const auto* kind = std::find_if(std::begin(ZoneWords), std::end(ZoneWords),
                                         [&](const ZoneWord& known) { return known.word == row.fields[0]; });
         const auto region =
@@ -287,14 +279,13 @@ void SourceReader::readBosses(int campaign) {
         boss.code = row.fields[2];
         boss.zone = zoneNamed(row, campaign, row.fields[3]);
         boss.note = row.fields.value(4);
-        if (boss.skill == 0 && !row.fields[1].isEmpty()) {
+        if (boss.skill == 0 && !row.fields[1].isEmpty())
             problem(row, u"no such skill: "_s + row.fields[1]);
-        }
         world_.bosses.push_back(boss);
     }
 }
 
-/// A collector is a "[name]" line, one row of particulars and one row per reward.
+// A collector is a "[name]" line, one row of particulars and one row per reward.
 void SourceReader::readCollectors(int campaign) {
     QString name;
     for (const SourceRow& row : rows(campaign, u"collectors.txt", 2)) {
@@ -327,9 +318,8 @@ void SourceReader::readGreens(int campaign) {
             std::any_of(world_.bosses.begin(), world_.bosses.end(), [&](const SourceBoss& boss) {
                 return boss.name == row.fields[1] && carriesGreens(boss);
             });
-        if (!dropped) {
+        if (!dropped)
             problem(row, u"no boss that drops green items: "_s + row.fields[1]);
-        }
         world_.greens.push_back({campaign, row.fields[0], row.fields[1], row.fields.mid(2)});
     }
 }
@@ -346,9 +336,8 @@ void SourceReader::readPets() {
         numberIn(row, 0, 1, HighestNumber, problems_);
         world_.pets.push_back(
             {row.fields[0], row.fields[1], animals.value(row.fields[2]), row.fields[3], {}});
-        if (!animals.contains(row.fields[2])) {
+        if (!animals.contains(row.fields[2]))
             problem(row, u"no such animal: "_s + row.fields[2]);
-        }
     }
 }
 

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int Frame = 20;
-constexpr int Grid = 8; ///< every eighth pixel along and down is looked at
+constexpr int Grid = 8; // every eighth pixel along and down is looked at
 
 std::vector<QPoint> placesIn(const WorldSource& source, const SourceRegion& region,
                              const WorldPlaces& places) {
@@ -21,15 +21,13 @@ std::vector<QPoint> placesIn(const WorldSource& source, const SourceRegion& regi
     };
     const auto add = [&](const auto& records, const std::vector<QPoint>& at) {
         for (std::size_t i = 0; i < records.size(); ++i) {
-            if (isHere(records[i].zone)) {
+            if (isHere(records[i].zone))
                 all.push_back(at[i]);
-            }
         }
     };
     for (std::size_t i = 0; i < source.zones.size(); ++i) {
-        if (isHere(int(i))) {
+        if (isHere(int(i)))
             all.push_back(places.zones[i]);
-        }
     }
     add(source.bosses, places.bosses);
     add(source.collectors, places.collectors);
@@ -44,9 +42,8 @@ double emptyShare(const SurveyedRegion& survey, QSize size, const std::vector<QP
     for (int y = Frame; y < size.height() - Frame; y += Grid) {
         for (int x = Frame; x < size.width() - Frame; x += Grid) {
             const QPoint here(x, y);
-            if (survey.distanceToWater(here) <= 0) {
+            if (survey.distanceToWater(here) <= 0)
                 continue;
-            }
             ++land;
             const bool near = std::any_of(places.begin(), places.end(), [&](QPoint place) {
                 const QPoint gap = place - here;
@@ -67,12 +64,10 @@ RegionFinding look(const WorldSource& source, const SourceRegion& region) {
     const QRect inner = QRect(QPoint(), region.size).adjusted(Frame, Frame, -Frame, -Frame);
     for (std::size_t i = 0; i < recipe.sites.size(); ++i) {
         const SiteWish& wish = recipe.sites[i];
-        if (!survey.offers(survey.sites[i], wish.near)) {
+        if (!survey.offers(survey.sites[i], wish.near))
             finding.problems.append(wish.name + u": the ground is not what the name says"_s);
-        }
-        if (!inner.contains(nameBox(survey.sites[i], wish, region.campaign))) {
+        if (!inner.contains(nameBox(survey.sites[i], wish, region.campaign)))
             finding.problems.append(wish.name + u": the name lies on the frame"_s);
-        }
     }
     finding.emptyShare = emptyShare(survey, region.size, placesIn(source, region, places));
     return finding;

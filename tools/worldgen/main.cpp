@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int HighestScale = 100;
@@ -33,16 +35,14 @@ std::optional<Order> readOrder(const QStringList& arguments) {
             return std::nullopt;
         }
     }
-    if (order.outFolder.isEmpty() || order.scale < 1 || order.scale > HighestScale) {
+    if (order.outFolder.isEmpty() || order.scale < 1 || order.scale > HighestScale)
         return std::nullopt;
-    }
     return order;
 }
 
 int tell(const QStringList& problems) {
-    for (const QString& problem : problems) {
+    for (const QString& problem : problems)
         std::fprintf(stderr, "worldgen: %s\n", qUtf8Printable(problem));
-    }
     return problems.isEmpty() ? 0 : 1;
 }
 
@@ -51,12 +51,10 @@ int survey(const worldgen::WorldSource& source) {
     for (const worldgen::RegionFinding& finding : worldgen::surveyWorld(source)) {
         std::printf("%s: %.0f %% of the land is far from everything\n", qUtf8Printable(finding.region),
                     100 * finding.emptyShare);
-        for (const QString& problem : finding.problems) {
-            problems.append(finding.region + QStringLiteral(": ") + problem);
-        }
-        if (finding.emptyShare > worldgen::MostEmpty) {
-            problems.append(finding.region + QStringLiteral(": an empty half"));
-        }
+        for (const QString& problem : finding.problems)
+            problems.append(finding.region + u": "_s + problem);
+        if (finding.emptyShare > worldgen::MostEmpty)
+            problems.append(finding.region + u": an empty half"_s);
     }
     return tell(problems);
 }
@@ -68,15 +66,12 @@ int run(const Order& order) {
     QStringList problems;
     const worldgen::WorldSource source =
         worldgen::readWorldSource(worldFolder, worldgen::noAttributeCaption(worldFolder), problems);
-    if (!problems.isEmpty()) {
+    if (!problems.isEmpty())
         return tell(problems);
-    }
-    if (order.outFolder == u"--survey") {
+    if (order.outFolder == u"--survey")
         return survey(source);
-    }
-    if (!order.only.isEmpty()) {
+    if (!order.only.isEmpty())
         return tell(worldgen::paintPictures(source, order.outFolder, order.only));
-    }
     return tell(
         worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder));
 }

@@ -36,8 +36,8 @@ class frmFAKE : public QWidget {
   public:
     explicit frmFAKE(TaskBarGroup group);
 
-    // The last of the windows to appear; the keyboard is in the panel then, as some window managers do not leave
-    // it. `screens`: the size of all screens together, pixels.
+    // The last of the windows to appear; the keyboard is in the panel then, as some window managers do not
+    // leave it. `screens`: the size of all screens together, pixels.
     void showOutside(QSize screens);
     // Minimises the program. Where the window manager knows no such thing its windows stay.
     void minimise();

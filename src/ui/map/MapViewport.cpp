@@ -12,6 +12,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int keyStep = 48;   // pixels per arrow key
@@ -30,7 +32,7 @@ void countInScreenPixels(QPainter& painter) {
 } // namespace
 
 MapViewport::MapViewport(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("picMap"));
+    setObjectName(u"picMap"_s);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

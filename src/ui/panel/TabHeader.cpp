@@ -12,6 +12,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class TabHeaderAccessible : public QAccessibleWidget {
@@ -49,7 +51,7 @@ void installTabAccessibility() {
 
 TabHeader::TabHeader(Tab tab, const QString& caption, Colour textColour, QWidget* parent)
     : QAbstractButton(parent), textColour_(textColour) {
-    setObjectName(arrayName(QStringLiteral("lblTab"), static_cast<int>(tab)));
+    setObjectName(arrayName(u"lblTab"_s, static_cast<int>(tab)));
     setText(caption);
     setFont(arial(points8_25, true));
     setFocusPolicy(Qt::NoFocus);

@@ -8,6 +8,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr QRect designPlace(-1, 194, 219, 541);
@@ -15,7 +17,7 @@ constexpr QRect designPlace(-1, 194, 219, 541);
 } // namespace
 
 TabPage::TabPage(Tab tab, QWidget* parent) : QWidget(parent), inner_(new QWidget(this)) {
-    setObjectName(arrayName(QStringLiteral("picTab"), static_cast<int>(tab)));
+    setObjectName(arrayName(u"picTab"_s, static_cast<int>(tab)));
     setGeometry(designPlace);
     setSpokenRole(*this, QAccessible::Pane);
     setCursor(programCursor(Pointer::Usual));

@@ -8,6 +8,8 @@
 
 namespace orvinel {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // With a line break in each word that is wider than `width` wherever its next letter would be too much.
@@ -41,7 +43,7 @@ void Label::setCaption(const QString& text) {
     // Given a text with "&" while it has a buddy, it would underline a letter for good.
     setBuddy(nullptr);
     // CR LF would be two line breaks.
-    setText(QString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    setText(QString(text).replace(u"\r\n"_s, u"\n"_s));
     tellName();
     fit();
 }

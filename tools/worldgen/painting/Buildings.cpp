@@ -40,7 +40,7 @@ void castShadow(QPainter& p, double rx, double ry) {
     p.drawEllipse(QPointF(rx * 0.45, ry * 0.45), rx, ry);
 }
 
-/// Long side to the south-west, gable to the south-east.
+// Long side to the south-west, gable to the south-east.
 void gabled(QPainter& p, const Materials& m, double roofSweep) {
     castShadow(p, 5, 2.2);
     face(p, {{-4, -0.4}, {1.5, 1}, {1.5, -2}, {-4, -3}}, m.wall.times(0.98));

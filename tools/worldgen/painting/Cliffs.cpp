@@ -6,7 +6,7 @@ namespace worldgen {
 
 namespace {
 
-/// Height in pixels of the cliff above a shore that looks south; 0: a beach.
+// Height in pixels of the cliff above a shore that looks south; 0: a beach.
 int cliffAt(const Landscape& land, int x, int y) {
     const double rise = land.height.clamped(x, y - 16) + land.height.clamped(x, y - 34);
     const double steep = rise + 0.16 * land.noises.c.fbm(x / 70.0, y / 70.0, 3);

@@ -11,12 +11,12 @@ constexpr double kExchange = 0.3;
 constexpr int kLifetime = 42;
 constexpr double kDropsPerCell = 0.19; // more melts the peaks
 
-/// One drop of rain on its way down: it takes ground along where it runs fast and leaves it where it slows.
+// One drop of rain on its way down: it takes ground along where it runs fast and leaves it where it slows.
 class Drop {
   public:
     Drop(Field& height, double x, double y) : height_(height), x_(x), y_(y) {}
 
-    /// False when the drop has come to rest, to the border or to the sea.
+    // False when the drop has come to rest, to the border or to the sea.
     bool advance();
 
   private:

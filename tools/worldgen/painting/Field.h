@@ -6,7 +6,7 @@
 
 namespace worldgen {
 
-/// A grid of numbers over the picture, row by row.
+// A grid of numbers over the picture, row by row.
 class Field {
   public:
     Field() = default;
@@ -22,11 +22,11 @@ class Field {
     float& operator[](int index) { return values_[std::size_t(index)]; }
     float operator[](int index) const { return values_[std::size_t(index)]; }
 
-    /// The nearest cell's value for a point outside.
+    // The nearest cell's value for a point outside.
     float clamped(int x, int y) const {
         return at(std::clamp(x, 0, width_ - 1), std::clamp(y, 0, height_ - 1));
     }
-    /// Between cells; the border's value outside.
+    // Between cells; the border's value outside.
     double sampled(double x, double y) const;
 
   private:
@@ -35,15 +35,15 @@ class Field {
     std::vector<float> values_;
 };
 
-/// Box blur; the border is continued outward.
+// Box blur; the border is continued outward.
 Field blurred(const Field& source, int radius);
 
-/// For every cell the distance in cells to the nearest zero cell of \a seeds (any other value counts as far
-/// away).
+// For every cell the distance in cells to the nearest zero cell of \a seeds (any other value counts as far
+// away).
 Field distances(Field seeds);
 
-/// \a value(x, y) in picture pixels, computed at every \a step-th pixel only: for patterns far wider than
-/// that.
+// \a value(x, y) in picture pixels, computed at every \a step-th pixel only: for patterns far wider than
+// that.
 template <typename Function>
 Field coarseLayer(int width, int height, int step, Function value) {
     Field layer((width + step - 1) / step + 1, (height + step - 1) / step + 1);

@@ -9,13 +9,15 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 const QColor kGold(168, 136, 78);
 
 QFont titleFace(int pixels) {
-    const QString face = QStringLiteral("Z003");
-    QFont font(QFontDatabase::hasFamily(face) ? face : QStringLiteral("Liberation Serif"));
+    const QString face = u"Z003"_s;
+    QFont font(QFontDatabase::hasFamily(face) ? face : u"Liberation Serif"_s);
     font.setItalic(true);
     font.setPixelSize(pixels);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -95,7 +97,7 @@ void paintRose(QPainter& painter, double radius) {
             painter.restore();
         }
     QPainterPath north;
-    north.addText(0, 0, titleFace(int(radius * 0.34)), QStringLiteral("N"));
+    north.addText(0, 0, titleFace(int(radius * 0.34)), u"N"_s);
     north.translate(-north.boundingRect().center().x(), -radius * 1.08 - north.boundingRect().bottom());
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(222, 198, 142, 230));

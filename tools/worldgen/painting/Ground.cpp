@@ -8,16 +8,16 @@ namespace {
 
 constexpr double kRelief = 34; // how much steeper than its map scale the land is lit
 
-/// The patterns that vary slowly enough to be computed once per few pixels.
+// The patterns that vary slowly enough to be computed once per few pixels.
 struct GroundLayers {
     explicit GroundLayers(const Landscape& land);
 
-    Field shoal;  ///< wobble of the sea's depth bands
-    Field swell;  ///< long streaks on the water
-    Field jitter; ///< frays every border between two ground colours
-    Field upland; ///< where low land takes the colour of the heights
-    Field shade;  ///< darker patches: heath, low woods
-    Field meadow; ///< lighter patches
+    Field shoal;  // wobble of the sea's depth bands
+    Field swell;  // long streaks on the water
+    Field jitter; // frays every border between two ground colours
+    Field upland; // where low land takes the colour of the heights
+    Field shade;  // darker patches: heath, low woods
+    Field meadow; // lighter patches
 };
 
 GroundLayers::GroundLayers(const Landscape& land) {
@@ -58,7 +58,7 @@ Colour soilColour(const Landscape& land, const GroundLayers& layers, int x, int 
     return mixed(low, heights, smoothStep(0.22, 0.42, height + jitter * 0.8));
 }
 
-/// Brightness of the slope under a light from the north-west; hollows are darker than ridges.
+// Brightness of the slope under a light from the north-west; hollows are darker than ridges.
 double lightOn(const Landscape& land, int x, int y) {
     const double dx = (land.height.clamped(x - 1, y) - land.height.clamped(x + 1, y)) * kRelief;
     const double dy = (land.height.clamped(x, y - 1) - land.height.clamped(x, y + 1)) * kRelief;
@@ -67,7 +67,7 @@ double lightOn(const Landscape& land, int x, int y) {
     return 0.50 + 0.86 * lambert + std::clamp(open * 1.6, -0.22, 0.20);
 }
 
-/// What only one theme has: drifts of snow on frozen land, ripples of sand.
+// What only one theme has: drifts of snow on frozen land, ripples of sand.
 Colour themed(const Landscape& land, const GroundLayers& layers, QPoint at, Colour colour) {
     const Noises& n = land.noises;
     const double height = land.height.at(at.x(), at.y());
@@ -102,7 +102,7 @@ Colour landColour(const Landscape& land, const GroundLayers& layers, int x, int 
     return colour.times(light, light * 0.985 + 0.005, light * 0.95 + 0.03);
 }
 
-/// Running sums over a picture, so that the mean of any square costs four look-ups.
+// Running sums over a picture, so that the mean of any square costs four look-ups.
 class Sums {
   public:
     explicit Sums(const QImage& picture);
@@ -111,7 +111,7 @@ class Sums {
         Colour mean;
         double unrest;
     };
-    /// Of the pixels x0 <= x < x1, y0 <= y < y1.
+    // Of the pixels x0 <= x < x1, y0 <= y < y1.
     Square square(int x0, int y0, int x1, int y1) const;
 
   private:

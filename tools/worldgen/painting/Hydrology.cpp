@@ -30,7 +30,7 @@ bool drainsAway(const Field& height, int cell) {
 
 constexpr float kLakeDepth = 0.006F;
 
-/// Collects the lake around \a start and takes its cells out of \a open.
+// Collects the lake around \a start and takes its cells out of \a open.
 std::vector<int> lakeFrom(const Field& height, int start, std::vector<char>& open) {
     std::vector<int> cells{start};
     open[std::size_t(start)] = 0;
@@ -109,14 +109,14 @@ namespace {
 
 constexpr double kMeanderReach = 5;
 
-/// Cells that must drain through a place before it carries a river.
+// Cells that must drain through a place before it carries a river.
 double riverThreshold(const Landscape& land) {
     if (land.landform == Landform::Fens)
         return 800;
     return land.theme == Theme::Desert ? 2600 : land.theme == Theme::Ash ? 1500 : 1100;
 }
 
-/// Springs, highest first: cells that carry a river while none of the cells above them does.
+// Springs, highest first: cells that carry a river while none of the cells above them does.
 std::vector<int> springs(const Landscape& land, double threshold) {
     const Drainage& drainage = land.drainage;
     std::vector<char> fed(drainage.flow.size(), 0);
@@ -146,13 +146,13 @@ QPointF meander(const Landscape& land, QPointF p) {
             kMeanderReach * n.c.at(p.x() / 31, p.y() / 31) + 2 * n.c.at(p.x() / 13, p.y() / 13)};
 }
 
-/// Which cells carry a river already, or lie so close to one that another would run beside it.
+// Which cells carry a river already, or lie so close to one that another would run beside it.
 class RiverBeds {
   public:
     explicit RiverBeds(const Field& grid)
         : columns_(grid.width()), rows_(grid.height()), nearest_(std::size_t(grid.count()), -1) {}
 
-    /// The river cell that a river arriving at \a cell flows into; -1: none near.
+    // The river cell that a river arriving at \a cell flows into; -1: none near.
     int at(int cell) const { return nearest_[std::size_t(cell)]; }
 
     void add(const std::vector<int>& cells) {
@@ -177,7 +177,7 @@ QPointF pixelOf(const Landscape& land, int cell) {
     return {(cell % columns + 0.5) * kCell, (cell / columns + 0.5) * kCell};
 }
 
-/// Down from a spring to the sea, the border or another river.
+// Down from a spring to the sea, the border or another river.
 std::vector<int> courseFrom(const Landscape& land, int spring, const RiverBeds& beds) {
     std::vector<int> course;
     for (int cell = spring; cell >= 0; cell = land.drainage.downhill[std::size_t(cell)]) {
@@ -200,7 +200,7 @@ River riverAlong(const Landscape& land, const std::vector<int>& course, double t
     return river;
 }
 
-/// Cells: a shorter one would be a hook at the side of another.
+// Cells: a shorter one would be a hook at the side of another.
 constexpr std::size_t kShortest = 60;
 
 } // namespace

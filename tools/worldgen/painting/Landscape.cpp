@@ -8,7 +8,7 @@ namespace worldgen {
 
 namespace {
 
-/// Half-resolution terrain brought to full resolution, with crags and ripples too fine for the erosion.
+// Half-resolution terrain brought to full resolution, with crags and ripples too fine for the erosion.
 Field detailedHeight(const Landscape& land) {
     const Noises& n = land.noises;
     const Field soft = blurred(land.cells, 1);

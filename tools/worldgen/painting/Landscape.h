@@ -9,28 +9,28 @@
 
 namespace worldgen {
 
-/// The noises of one region; which one serves which purpose only keeps patterns from repeating each other.
+// The noises of one region; which one serves which purpose only keeps patterns from repeating each other.
 struct Noises {
     explicit Noises(quint32 seed)
         : a(seed * 8ULL + 1), b(seed * 8ULL + 2), c(seed * 8ULL + 3), d(seed * 8ULL + 4) {}
     Noise a, b, c, d;
 };
 
-/// Terrain is computed at half the picture's resolution.
+// Terrain is computed at half the picture's resolution.
 constexpr int kCell = 2;
 
-/// Where water runs; indices are cells of the terrain grid, row by row.
+// Where water runs; indices are cells of the terrain grid, row by row.
 struct Drainage {
-    Field filled;              ///< height with every hollow filled to its brim
-    std::vector<int> downhill; ///< the next cell on the way to the sea; -1: none
-    std::vector<float> flow;   ///< cells drained through this one, itself included
-    std::vector<int> order;    ///< all cells, each after the one it drains to
+    Field filled;              // height with every hollow filled to its brim
+    std::vector<int> downhill; // the next cell on the way to the sea; -1: none
+    std::vector<float> flow;   // cells drained through this one, itself included
+    std::vector<int> order;    // all cells, each after the one it drains to
 };
 
-/// A river from its spring to the sea or to a larger river, in picture pixels.
+// A river from its spring to the sea or to a larger river, in picture pixels.
 struct River {
     std::vector<QPointF> points;
-    std::vector<double> widths; ///< one per point
+    std::vector<double> widths; // one per point
 };
 
 struct Landscape {
@@ -41,16 +41,16 @@ struct Landscape {
     Landform landform;
     Palette palette;
     Noises noises;
-    Field cells; ///< eroded height per terrain cell
+    Field cells; // eroded height per terrain cell
     Drainage drainage;
-    Field lakes;    ///< 0..1 cover per terrain cell, soft at the shore
-    Field height;   ///< per pixel, sea level 0
-    Field toLand;   ///< pixels from water to land, 0 on land
-    Field toWater;  ///< pixels from land to sea or lake, 0 on water
-    Field toRiver;  ///< cells to the nearest drawn river
-    Field surround; ///< height of the wider neighbourhood per terrain cell
-    Field moisture; ///< coarse layer, kPatch pixels a cell
-    Field woods;    ///< coarse layer, kPatch pixels a cell: trees where > 0.16
+    Field lakes;    // 0..1 cover per terrain cell, soft at the shore
+    Field height;   // per pixel, sea level 0
+    Field toLand;   // pixels from water to land, 0 on land
+    Field toWater;  // pixels from land to sea or lake, 0 on water
+    Field toRiver;  // cells to the nearest drawn river
+    Field surround; // height of the wider neighbourhood per terrain cell
+    Field moisture; // coarse layer, kPatch pixels a cell
+    Field woods;    // coarse layer, kPatch pixels a cell: trees where > 0.16
     std::vector<River> rivers;
 
     static constexpr int kPatch = 4;
@@ -63,18 +63,18 @@ struct Landscape {
     double woodsAt(double x, double y) const { return woods.sampled(x / kPatch, y / kPatch); }
     double surroundAt(double x, double y) const { return surround.sampled(x / kCell, y / kCell); }
     double riverDistance(double x, double y) const { return toRiver.sampled(x / kCell, y / kCell) * kCell; }
-    /// Lets woods grow (or, below 0, go) within \a radius pixels.
+    // Lets woods grow (or, below 0, go) within \a radius pixels.
     void plant(QPoint middle, double radius, double amount);
-    /// Ground that is white or under a mountain's glyph.
+    // Ground that is white or under a mountain's glyph.
     bool highGround(int x, int y) const;
 };
 
 Field raisedLand(const RegionRecipe& recipe, const Noises& noises);
 void erode(Field& height, quint32 seed);
-/// \a wobble makes rivers wind where the land is flat.
+// \a wobble makes rivers wind where the land is flat.
 Drainage drained(const Field& height, const Noise& wobble);
-/// Fills all hollows but the few largest, so that the map shows lakes and not puddles; returns the lakes'
-/// cells as 1.
+// Fills all hollows but the few largest, so that the map shows lakes and not puddles; returns the lakes'
+// cells as 1.
 Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& recipe);
 std::vector<River> tracedRivers(const Landscape& land);
 

@@ -11,12 +11,14 @@
 
 namespace worldgen {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-/// Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
-/// picture's compression.
+// Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
+// picture's compression.
 constexpr double kQuietLuminance = 0.108;
-constexpr int kShadeReach = 32; ///< pixels around a name
+constexpr int kShadeReach = 32; // pixels around a name
 
 std::array<double, 256> linearLight() {
     std::array<double, 256> table;
@@ -38,9 +40,9 @@ double meanLuminance(const QImage& picture) {
     return count == 0 ? 0 : sum / count;
 }
 
-/// 1 under the letters, thinning out around them.
+// 1 under the letters, thinning out around them.
 Field letterShade(const QRect& box, QSize size, const QString& name) {
-    QFont face(QStringLiteral("Liberation Sans")); // as wide as the face of the program's names
+    QFont face(u"Liberation Sans"_s); // as wide as the face of the program's names
     face.setPixelSize(13);
     face.setBold(true);
     face.setHintingPreference(QFont::PreferNoHinting);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-/// Elementary functions whose last bit does not depend on the machine's maths library: pictures must come out
-/// the same everywhere, and only + - * / and sqrt are the same everywhere.
+// Elementary functions whose last bit does not depend on the machine's maths library: pictures must come out
+// the same everywhere, and only + - * / and sqrt are the same everywhere.
 namespace worldgen {
 
 constexpr double kPi = 3.14159265358979323846;
@@ -17,7 +17,7 @@ inline double lerp(double a, double b, double t) {
     return a + (b - a) * t;
 }
 
-/// 0 below \a from, 1 above \a to, smooth between. \a from may be the larger one: the step then falls.
+// 0 below \a from, 1 above \a to, smooth between. \a from may be the larger one: the step then falls.
 inline double smoothStep(double from, double to, double x) {
     const double t = clamp01((x - from) / (to - from));
     return t * t * (3 - 2 * t);
@@ -28,11 +28,11 @@ inline double lengthOf(double x, double y) {
 }
 
 double expOf(double x);
-/// \a x > 0.
+// \a x > 0.
 double log2Of(double x);
-/// \a base >= 0.
+// \a base >= 0.
 double powOf(double base, double exponent);
-/// Radians, |angle| below 1e6.
+// Radians, |angle| below 1e6.
 double sineOf(double angle);
 double cosineOf(double angle);
 

@@ -8,17 +8,17 @@
 
 namespace worldgen {
 
-/// Random numbers of our own: the standard distributions differ between libraries.
+// Random numbers of our own: the standard distributions differ between libraries.
 class Rng {
   public:
-    /// Neighbouring seeds give unrelated numbers.
+    // Neighbouring seeds give unrelated numbers.
     explicit Rng(quint64 seed);
 
     quint32 next();
-    /// 0 <= result < 1.
+    // 0 <= result < 1.
     double unit() { return next() / 4294967296.0; }
     double range(double from, double to) { return from + (to - from) * unit(); }
-    /// Both ends included; \a from <= \a to.
+    // Both ends included; \a from <= \a to.
     int whole(int from, int to) { return from + int((quint64(next()) * quint64(to - from + 1)) >> 32); }
     bool chance(double probability) { return unit() < probability; }
 
@@ -36,16 +36,16 @@ class Rng {
     quint64 state_;
 };
 
-/// Gradient noise on an integer lattice, period 256.
+// Gradient noise on an integer lattice, period 256.
 class Noise {
   public:
     explicit Noise(quint64 seed);
 
-    /// About -1..1, 0 on lattice points, features about one unit wide.
+    // About -1..1, 0 on lattice points, features about one unit wide.
     double at(double x, double y) const;
-    /// Sum of \a octaves, each twice as fine and \a gain as strong; about -1..1.
+    // Sum of \a octaves, each twice as fine and \a gain as strong; about -1..1.
     double fbm(double x, double y, int octaves, double gain = 0.5) const;
-    /// Sharp crests: 0..1.
+    // Sharp crests: 0..1.
     double ridged(double x, double y, int octaves) const;
 
   private:

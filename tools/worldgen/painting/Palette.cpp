@@ -58,11 +58,11 @@ Palette ash() {
     return p;
 }
 
-/// How a campaign's season colours the ground and the leaves.
+// How a campaign's season colours the ground and the leaves.
 struct Season {
-    Colour ground; ///< factors for red, green, blue
+    Colour ground; // factors for red, green, blue
     std::array<QRgb, 3> leaves;
-    double leafShare; ///< how far the leaves turn towards \c leaves
+    double leafShare; // how far the leaves turn towards \c leaves
 };
 
 Season seasonOf(int campaign) {

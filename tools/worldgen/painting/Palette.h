@@ -9,14 +9,14 @@ namespace worldgen {
 
 enum class TreeStyle { Broadleaf, Conifer, SnowConifer, Palm, Scrub, Dead, Jungle };
 
-/// The colours of a region: those of its theme, shifted to the season of its campaign.
+// The colours of a region: those of its theme, shifted to the season of its campaign.
 struct Palette {
     Colour deep, shallow, beach, low, mid, dry, high, rock, snow;
-    std::array<Colour, 3> leaves{}; ///< a tree's colour lies between any two of them
+    std::array<Colour, 3> leaves{}; // a tree's colour lies between any two of them
     Colour needles{};
-    Colour field{}; ///< of a ploughed one
+    Colour field{}; // of a ploughed one
     double moisture = 0;
-    double snowline = 1; ///< height above which snow lies; above 1.2: none
+    double snowline = 1; // height above which snow lies; above 1.2: none
     TreeStyle lowland = TreeStyle::Broadleaf;
     TreeStyle upland = TreeStyle::Conifer;
 };

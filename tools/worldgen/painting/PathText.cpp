@@ -16,7 +16,7 @@ class PathReader {
     QPainterPath read();
 
   private:
-    /// "M-4 6" as "M -4 6".
+    // "M-4 6" as "M -4 6".
     static QString spaced(QLatin1String text);
     double number() { return at_ < words_.size() ? words_[at_++].toDouble() : 0; }
     QPointF point() {

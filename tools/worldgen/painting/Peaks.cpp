@@ -11,12 +11,12 @@ constexpr double kForeshorten = 0.42; // depth on the ground against width
 constexpr double kDepthStep = 0.024;
 constexpr int kDepthSteps = int(2 * kSpan / kDepthStep) + 1;
 
-/// Height of a mountain over its own ground, x and depth in -kSpan..kSpan, 1 at the summit.
+// Height of a mountain over its own ground, x and depth in -kSpan..kSpan, 1 at the summit.
 class PeakModel {
   public:
     PeakModel(PeakStyle style, Rng& rng);
     double heightAt(double x, double depth) const;
-    /// How deep inside a glowing crater, or in the lava that runs from it, the point lies: 0..1.
+    // How deep inside a glowing crater, or in the lava that runs from it, the point lies: 0..1.
     double glowAt(double x, double depth) const;
 
   private:
@@ -44,7 +44,7 @@ PeakModel::PeakModel(PeakStyle style, Rng& rng) : style_(style), noise_(rng.next
     lavaTurn_ = rng.range(-0.35, 0.35);
 }
 
-/// The mountain's mass without its crests.
+// The mountain's mass without its crests.
 double PeakModel::body(double x, double depth) const {
     const double warp = 0.16 * noise_.fbm(x * 1.7 + 3, depth * 1.7, 3);
     const double bulge = style_ == PeakStyle::Mesa ? 0.7 : style_ == PeakStyle::Hill ? 0.9 : 1.12;
@@ -57,7 +57,7 @@ double PeakModel::body(double x, double depth) const {
     return height;
 }
 
-/// Cut off flat, with steps on the way up.
+// Cut off flat, with steps on the way up.
 double PeakModel::mesa(double x, double depth, double height) const {
     height = std::min(height * 1.7, 0.60 + 0.02 * noise_.at(x * 2, depth * 2));
     const double steps = height * 4.2;
@@ -91,8 +91,8 @@ double PeakModel::glowAt(double x, double depth) const {
     return std::max(crater, stream);
 }
 
-/// The model seen from the south: columns are filled from the front to the back, each point hiding what lies
-/// behind.
+// The model seen from the south: columns are filled from the front to the back, each point hiding what lies
+// behind.
 class PeakRaster {
   public:
     PeakRaster(const Palette& palette, const PeakShape& shape, Rng& rng);
@@ -150,7 +150,7 @@ PeakRaster::PeakRaster(const Palette& palette, const PeakShape& shape, Rng& rng)
         paintColumn(column);
 }
 
-/// Lambert's cosine, unclamped.
+// Lambert's cosine, unclamped.
 double PeakRaster::lightAt(int column, int step) const {
     const double steep = shape_.style == PeakStyle::Hill ? 0.55 : 0.9;
     const double e = 2 / half_;
@@ -211,7 +211,7 @@ void PeakRaster::paintColumn(int column) {
         inkSkyline(column, top);
 }
 
-/// A line of ink along the skyline lifts the mountain from what stands behind it.
+// A line of ink along the skyline lifts the mountain from what stands behind it.
 void PeakRaster::inkSkyline(int column, int top) {
     for (int y = top; y < std::min(top + 3, fine_.height()); ++y) {
         QRgb& pixel = reinterpret_cast<QRgb*>(fine_.scanLine(y))[column];

@@ -60,7 +60,7 @@ constexpr std::array Grounds{
         u"bricks", {124, 70, 52}, {166, 100, 70}, {140, 80, 58}, {140, 82, 60}, Undergrowth::None, 0, 1},
 };
 
-/// Bricks in courses, or rock where the walls are not of bricks.
+// Bricks in courses, or rock where the walls are not of bricks.
 double wallLight(const PetGround& ground, const Noise& noise, double u, double v) {
     const double rough = 0.92 + 0.25 * noise.fbm(u / 16, v / 16, 4);
     if (ground.name != QStringView(u"bricks"))
@@ -71,7 +71,7 @@ double wallLight(const PetGround& ground, const Noise& noise, double u, double v
     return mortar ? 0.5 : rough * (0.9 + 0.14 * noise.at(course * 3.7, int(along / 22) * 5.3 + 0.5));
 }
 
-/// Long level streaks where there is water, patches of grass or sand elsewhere.
+// Long level streaks where there is water, patches of grass or sand elsewhere.
 Colour floorAt(const PetGround& ground, const Noise& noise, double u, double v) {
     const double depth = lerp(1.12, 0.66, smoothStep(Horizon, 120, v));
     if (ground.wet) {

@@ -23,7 +23,7 @@ constexpr double kFeet = 98;
 constexpr std::array PartKinds{QStringView(u"far"),  QStringView(u"coat"), QStringView(u"skin"),
                                QStringView(u"mark"), QStringView(u"line"), QStringView(u"eye")};
 
-/// Lit from above and from the left.
+// Lit from above and from the left.
 QBrush rounded(const QPainterPath& shape, Colour colour) {
     const QRectF box = shape.boundingRect();
     QLinearGradient light(box.topLeft(), QPointF(box.left() + box.width() * 0.4, box.bottom()));
@@ -33,7 +33,7 @@ QBrush rounded(const QPainterPath& shape, Colour colour) {
     return light;
 }
 
-/// Short strokes along the coat, lighter above than below.
+// Short strokes along the coat, lighter above than below.
 void combFur(QPainter& painter, const QPainterPath& body, Colour fur, Rng& rng) {
     painter.save();
     painter.setClipPath(body, Qt::IntersectClip);
@@ -64,7 +64,7 @@ class PetPainter {
     QPainter& p_;
     Colour haze_;
     Rng& rng_;
-    QPainterPath lastSolid_; ///< what marks are painted on
+    QPainterPath lastSolid_; // what marks are painted on
 };
 
 void PetPainter::paintShadow() {
@@ -80,7 +80,7 @@ void PetPainter::paintShadow() {
     p_.restore();
 }
 
-/// The low sun draws a bright line along back and head.
+// The low sun draws a bright line along back and head.
 void PetPainter::lightRim(const QPainterPath& body) {
     p_.save();
     p_.setClipPath(body, Qt::IntersectClip);

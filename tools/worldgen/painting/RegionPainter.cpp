@@ -14,7 +14,7 @@ namespace {
 constexpr double kMeanLuminance = 0.13;
 constexpr int kFrame = 20;
 
-/// White where roads and settlements keep nature away.
+// White where roads and settlements keep nature away.
 QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe& recipe,
                    const std::vector<QPoint>& sites) {
     QImage taken(land.size, QImage::Format_Grayscale8);
@@ -63,7 +63,7 @@ bool SurveyedRegion::offers(QPoint site, SiteNear near) const {
     return groundOffers(*landscape, site, near);
 }
 
-/// The woods are as the names say: the land follows where the finder of sites had no better ground.
+// The woods are as the names say: the land follows where the finder of sites had no better ground.
 SurveyedRegion surveyRegion(const RegionRecipe& recipe) {
     const auto land = std::make_shared<Landscape>(recipe);
     SurveyedRegion result;

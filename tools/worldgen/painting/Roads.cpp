@@ -20,7 +20,7 @@ class PathFinder {
   public:
     explicit PathFinder(const Landscape& land);
 
-    /// Empty when there is no way over land. Ways found earlier are cheaper to follow than new ground.
+    // Empty when there is no way over land. Ways found earlier are cheaper to follow than new ground.
     QPolygonF way(QPoint from, QPoint to);
 
   private:
@@ -117,7 +117,7 @@ QPolygonF PathFinder::way(QPoint from, QPoint to) {
     return cost_[std::size_t(end)] > tooFar ? QPolygonF() : traced(end);
 }
 
-/// Pairs of sites that form the shortest net joining all.
+// Pairs of sites that form the shortest net joining all.
 std::vector<std::pair<QPoint, QPoint>> shortestNet(const std::vector<QPoint>& sites) {
     std::vector<std::pair<QPoint, QPoint>> net;
     std::vector<QPoint> open(sites.begin(), sites.end());
@@ -161,7 +161,7 @@ bool wet(const QImage& mask, QPointF p) {
     return mask.rect().contains(p.toPoint()) && qGray(mask.pixel(p.toPoint())) > 0;
 }
 
-/// Where a road enters and leaves a river; a road that follows the river's bed for long gets none.
+// Where a road enters and leaves a river; a road that follows the river's bed for long gets none.
 void addBridges(const QPolygonF& road, const QImage& mask, std::vector<Bridge>& bridges) {
     constexpr double longest = 26;
     int entered = -1;

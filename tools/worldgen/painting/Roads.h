@@ -9,7 +9,7 @@
 namespace worldgen {
 
 struct Bridge {
-    QPointF from, to; ///< both banks
+    QPointF from, to; // both banks
 };
 
 struct RoadNet {
@@ -17,7 +17,7 @@ struct RoadNet {
     std::vector<Bridge> bridges;
 };
 
-/// Roads that join all sites reachable over land, each along the easiest ground.
+// Roads that join all sites reachable over land, each along the easiest ground.
 RoadNet builtRoads(const Landscape& land, const std::vector<QPoint>& sites);
 
 void paintRoads(QImage& picture, const RoadNet& net, Theme theme);

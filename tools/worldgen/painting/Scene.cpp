@@ -20,7 +20,7 @@ void Scene::paint(QImage& picture) const {
 
 namespace {
 
-/// Ready-made sprites of one kind in several sizes, so that no two neighbours are alike.
+// Ready-made sprites of one kind in several sizes, so that no two neighbours are alike.
 class Grove {
   public:
     Grove(Scene& scene, TreeStyle style, const Palette& palette, Rng& rng) {
@@ -154,7 +154,7 @@ bool Nature::crowded(QPointF at, double gap) const {
     });
 }
 
-/// Whether a peak would hide no road and no place that lies behind it.
+// Whether a peak would hide no road and no place that lies behind it.
 bool Nature::openBehind(QPointF at, double scale) const {
     for (const QPointF part : {QPointF(-13, -4), QPointF(13, -4), QPointF(-7, -18), QPointF(7, -18),
                                QPointF(0, -10), QPointF(0, -28), QPointF(0, -38)})

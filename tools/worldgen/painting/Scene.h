@@ -6,10 +6,10 @@
 
 namespace worldgen {
 
-/// Everything that stands on the ground. What stands further south is painted later and hides what is behind.
+// Everything that stands on the ground. What stands further south is painted later and hides what is behind.
 class Scene {
   public:
-    /// Keeps a sprite that stands in many places; valid as long as the scene.
+    // Keeps a sprite that stands in many places; valid as long as the scene.
     const Sprite& keep(Sprite sprite);
     void stand(const Sprite& kept, QPointF at) { things_.push_back({&kept, at}); }
     void standNew(Sprite sprite, QPointF at) { stand(keep(std::move(sprite)), at); }
@@ -24,13 +24,13 @@ class Scene {
     std::vector<Thing> things_;
 };
 
-/// Two pictures as large as the region's.
+// Two pictures as large as the region's.
 struct GroundPlan {
-    const QImage& ground; ///< the land without what stands on it
-    const QImage& taken;  ///< grayscale; nature keeps away where it is not black
+    const QImage& ground; // the land without what stands on it
+    const QImage& taken;  // grayscale; nature keeps away where it is not black
 };
 
-/// Woods, mountains, hills, reeds and rocks.
+// Woods, mountains, hills, reeds and rocks.
 void growNature(Scene& scene, const Landscape& land, const GroundPlan& plan, quint32 seed);
 
 } // namespace worldgen

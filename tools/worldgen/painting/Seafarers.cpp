@@ -11,11 +11,11 @@ namespace {
 
 constexpr QColor kInk(30, 20, 12, 210);
 
-/// How the people of a campaign build their ships.
+// How the people of a campaign build their ships.
 struct Shipyard {
     Colour hull, sail, pennant;
-    bool junk;     ///< battened sails
-    bool longship; ///< one square sail, shields along the side
+    bool junk;     // battened sails
+    bool longship; // one square sail, shields along the side
 };
 
 const Shipyard& shipyardOf(int campaign) {
@@ -42,7 +42,7 @@ void paintSail(QPainter& p, QPointF foot, QSizeF size, const Shipyard& yard) {
         p.drawLine(foot + QPointF(0.3, -up), foot + QPointF(wide * (1.02 - 0.75 * up / high), -up * 0.94));
 }
 
-/// A square sail in stripes, and shields along the side.
+// A square sail in stripes, and shields along the side.
 void paintLongshipRig(QPainter& p, const Shipyard& yard) {
     p.setPen(QPen(kInk, 0.7));
     p.setBrush(inked(yard.sail));
@@ -95,7 +95,7 @@ Sprite paintedShip(const Shipyard& yard, bool mirrored) {
     return canvas.finished();
 }
 
-/// A back, a tail and a spout.
+// A back, a tail and a spout.
 Sprite paintedWhale(bool mirrored) {
     SpriteCanvas canvas(60, 40, {30, 30});
     QPainter& p = canvas.painter();

@@ -86,7 +86,7 @@ class Builder {
     Rng& rng_;
 };
 
-/// Scattered between two ellipses, no two on the same spot.
+// Scattered between two ellipses, no two on the same spot.
 void Builder::houses(int count, QSizeF inner, QSizeF outer, double scale) {
     std::vector<QPointF> built;
     for (int attempt = 0; attempt < count * 14 && int(built.size()) < count; ++attempt) {
@@ -184,7 +184,7 @@ void Builder::raise(Landmark landmark, QPointF at) {
     stand(paintedLandmark(landmark, style_, land_.palette, rng_), at);
 }
 
-/// Bamboo all around, but for the ground of the name.
+// Bamboo all around, but for the ground of the name.
 void Builder::grove() {
     for (int k = 0; k < 150; ++k) {
         const QPointF at =
@@ -195,7 +195,7 @@ void Builder::grove() {
     }
 }
 
-/// A wall of rock to the north.
+// A wall of rock to the north.
 void Builder::cliffs() {
     for (int k = -3; k <= 3; ++k)
         stand(paintedPeak(land_.palette, {PeakStyle::Mesa, rng_.range(0.75, 0.95), 0, {}}, rng_),

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// What a part of a sign is made of: its colour in the light and in the shade.
+// What a part of a sign is made of: its colour in the light and in the shade.
 struct Material {
     QStringView name;
     QRgb light;
@@ -36,7 +36,7 @@ constexpr std::array Materials{
     Material{u"leaf", 0xC6EA78, 0x2E6C24},
 };
 
-/// The cloth of a sign is paler than the ground it lies on, or it would not be seen.
+// The cloth of a sign is paler than the ground it lies on, or it would not be seen.
 Material clothOf(QRgb colour) {
     const Colour cloth = colourOf(colour);
     return {u"cloth", rgbOf(mixed(cloth, Colour{255, 255, 255}, 0.45)),
@@ -55,7 +55,7 @@ struct Placing {
     QPointF at;
 };
 
-/// Where a sign stands that is not alone. The later word of a layer has the last say about the place.
+// Where a sign stands that is not alone. The later word of a layer has the last say about the place.
 constexpr std::array Placings{
     Placing{u"left", 0.60, {-11.5, -3}}, Placing{u"right", 0.60, {11.5, 4}}, Placing{u"up", 0.60, {0, -11}},
     Placing{u"low", 0.64, {0, 9}},       Placing{u"nw", 0.48, {-13, -13}},   Placing{u"ne", 0.48, {13, -13}},

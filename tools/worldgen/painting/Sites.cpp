@@ -12,7 +12,7 @@ constexpr int kBorder = 84; // half of a long name, plus the frame
 constexpr double kNarrowest = 62;
 constexpr int kFrameGap = 26;
 
-/// Markers of towns are large and names hang below them: both ends of that span, per campaign.
+// Markers of towns are large and names hang below them: both ends of that span, per campaign.
 struct Reach {
     int above, below;
 };
@@ -49,7 +49,7 @@ double highestAround(const Landscape& land, QPoint p, int reach) {
     return highest;
 }
 
-/// Heights on two opposite sides, and a way through on the others.
+// Heights on two opposite sides, and a way through on the others.
 bool passBetweenHeights(const Landscape& land, QPoint p) {
     constexpr std::array<QPoint, 4> ways{QPoint(1, 0), QPoint(0, 1), QPoint(1, 1), QPoint(1, -1)};
     const auto rises = [&](QPoint way) {
@@ -61,7 +61,7 @@ bool passBetweenHeights(const Landscape& land, QPoint p) {
     return std::any_of(ways.begin(), ways.end(), [&](QPoint way) { return rises(way) && rises(-way); });
 }
 
-/// Share of the ground around a point that is wooded.
+// Share of the ground around a point that is wooded.
 double woodedShare(const Landscape& land, QPoint p, int reach) {
     int wooded = 0;
     for (int j = -3; j <= 3; ++j)
@@ -106,7 +106,7 @@ QPoint Finder::randomPoint(const SiteWish& wish) {
     return {x, rng_.whole(by, land_.size.height() - by)};
 }
 
-/// Pixels to the nearest site already placed.
+// Pixels to the nearest site already placed.
 double Finder::room(QPoint p) const {
     double nearest = 1e6;
     for (const QPoint& q : taken_)
@@ -161,7 +161,7 @@ double Finder::nearness(QPoint p, SiteNear near) const {
     return 0.5 + 0.25 * smoothStep(150, 30, shore) + 0.25 * smoothStep(120, 30, land_.riverDistance(x, y));
 }
 
-/// Negative where nothing can stand.
+// Negative where nothing can stand.
 double Finder::suitability(QPoint p, const SiteWish& wish) const {
     const int x = p.x();
     const int y = p.y();
@@ -208,7 +208,7 @@ QPoint Finder::place(const SiteWish& wish) {
     return best;
 }
 
-/// Large places choose first: they need the most room.
+// Large places choose first: they need the most room.
 int rankOf(const SiteWish& wish) {
     if (wish.landmark != Landmark::None)
         return 3;

@@ -17,15 +17,15 @@ namespace {
 constexpr int kSide = 64;
 constexpr int kFineSide = kSide * 3;
 
-/// The profession's colour, turned, faded and darkened.
+// The profession's colour, turned, faded and darkened.
 struct Shade {
     double turn;
     double saturation;
     double value;
 };
 
-/// One for each attribute, the last for skills without: the attributes of a profession are told apart by
-/// shade and pattern, and yet belong together.
+// One for each attribute, the last for skills without: the attributes of a profession are told apart by
+// shade and pattern, and yet belong together.
 constexpr std::array<Shade, 6> Shades{
     Shade{0, 1, 0.92},      Shade{0.07, 1.05, 0.52}, Shade{-0.08, 0.75, 0.82},
     Shade{0.02, 0.55, 0.5}, Shade{-0.03, 1.2, 0.68}, Shade{0.5, 0.45, 0.55},
@@ -41,7 +41,7 @@ Colour shaded(Colour colour, const Shade& shade) {
                         .rgb());
 }
 
-/// Brightness of the ground at a point, -1..1 to each side.
+// Brightness of the ground at a point, -1..1 to each side.
 class Pattern {
   public:
     Pattern(int number, Rng& rng) : noise_(rng.next()), number_(number), turn_(rng.range(0, 6)) {}
@@ -67,7 +67,7 @@ class Pattern {
     }
 
   private:
-    /// Sixteen beams from the middle: the octants are folded upon each other, so that no angle is needed.
+    // Sixteen beams from the middle: the octants are folded upon each other, so that no angle is needed.
     static double rays(double u, double v) {
         const double x = std::abs(u);
         const double y = std::abs(v);

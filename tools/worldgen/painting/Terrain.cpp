@@ -9,7 +9,7 @@ namespace {
 
 enum class Shore { OneSide, Corner, Gulf, Island, Isles, Inland };
 
-/// How strongly each kind of country shows in a region; 1 is a region of mountains.
+// How strongly each kind of country shows in a region; 1 is a region of mountains.
 struct Build {
     double mountains, breadth, hills, rise;
 };
@@ -30,8 +30,8 @@ Build buildOf(Landform landform) {
     return {1, 1, 1, 1};
 }
 
-/// Raises the land of one region. Positions are in units of about 1600 pixels, so that a larger picture shows
-/// more land and not larger hills.
+// Raises the land of one region. Positions are in units of about 1600 pixels, so that a larger picture shows
+// more land and not larger hills.
 class LandMaker {
   public:
     LandMaker(const RegionRecipe& recipe, const Noises& noises);
@@ -104,7 +104,7 @@ double LandMaker::spineDistance(double u, double v) const {
     return std::sqrt(nearest);
 }
 
-/// 0 on the given side of the picture, 1 on the opposite one.
+// 0 on the given side of the picture, 1 on the opposite one.
 double LandMaker::edge(double u, double v, int side) const {
     switch (side) {
     case 0:

@@ -16,7 +16,7 @@ void shadow(QPainter& p, QPointF at, double rx, double ry) {
     p.drawEllipse(at + QPointF(rx * 0.45, ry * 0.35), rx, ry);
 }
 
-/// A crown of many small tufts, dark below and bright towards the light.
+// A crown of many small tufts, dark below and bright towards the light.
 void crown(QPainter& p, QPointF middle, double radius, Colour leaf, Rng& rng) {
     p.setBrush(inked(leaf.times(0.36)));
     p.drawEllipse(middle, radius * 1.06, radius * 0.98);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr Colour kFoam{185, 211, 203};
 
-/// Four broken lines that follow the coast, ever fainter towards the open sea.
+// Four broken lines that follow the coast, ever fainter towards the open sea.
 double foamAt(const Landscape& land, int x, int y) {
     constexpr double lines[] = {3, 9, 17, 27};
     const double away = land.toLand.at(x, y);

@@ -60,7 +60,7 @@ Sprite paintedWreck() {
     return canvas.finished();
 }
 
-/// The ribs of something large.
+// The ribs of something large.
 Sprite paintedBones() {
     SpriteCanvas canvas(50, 28, {25, 22});
     QPainter& p = canvas.painter();
@@ -84,7 +84,7 @@ Sprite paintedBones() {
     return canvas.finished();
 }
 
-/// Steam over a cracked cone.
+// Steam over a cracked cone.
 Sprite paintedVent(Rng& rng) {
     SpriteCanvas canvas(34, 44, {16, 37});
     QPainter& p = canvas.painter();
