@@ -285,6 +285,8 @@ class Bar:
 
 
 def two_monitors():
+    if " left " in run("xrandr", "--listmonitors"):
+        return
     for name, left, output in (("left", 0, "screen"), ("right", MONITOR, "none")):
         run("xrandr", "--setmonitor", name, f"{MONITOR}/300x900/200+{left}+0", output)
 
