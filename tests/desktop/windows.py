@@ -387,7 +387,7 @@ def main():
     if not shutil.which("xrandr"):
         print("skipped, not installed: xrandr")
         return 77
-    missing = [manager for manager in MANAGERS if not shutil.which(manager)]
+    missing = [manager for manager in [*MANAGERS, "i3"] if not shutil.which(manager)]
     if missing:
         print("skipped, not installed:", ", ".join(missing))
     results = []
