@@ -63,7 +63,7 @@ class ProgramStyle : public QProxyStyle {
     void drawScrollBar(const QStyleOptionComplex& option, QPainter* painter, const QWidget* widget) const {
         auto part = static_cast<const QStyleOptionSlider&>(option);
         part.subControls = SC_ScrollBarGroove;
-        part.palette.setColor(QPalette::Button, part.palette.color(QPalette::Button).darker(118));
+        part.palette.setColor(QPalette::Button, part.palette.color(QPalette::Button).darker(109));
         QProxyStyle::drawComplexControl(CC_ScrollBar, &part, painter, widget);
         part.palette = option.palette;
         part.subControls = option.subControls & ~SC_ScrollBarGroove;
