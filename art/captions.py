@@ -81,7 +81,7 @@ def unnamed():
     if len(names) < 100:
         yield 'Caption.h: its list is not written as it is read here'
     for number, text in names.items():
-        cut = text.endswith('. ...') and english.get(number, '').startswith(text[:-4])  # longer than a line
+        cut = text.endswith(' ...') and english.get(number, '').startswith(text[:-4])  # longer than a line
         if english.get(number) != text and not cut:
             yield f'Language.txt: {number} is "{english.get(number)}", Caption.h says "{text}"'
         if number not in shown and number not in UNUSED:

@@ -1,6 +1,8 @@
+#include "app/modLanguage.h"
 #include "app/modOrvinel.h"
 #include "base/FileDisk.h"
 #include "base/SingleInstance.h"
+#include "base/UpdateMark.h"
 #include "ui/platform/EndSignals.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/QtDesktop.h"
@@ -10,6 +12,24 @@
 #include <QSessionManager>
 
 #include <cstdio>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Before anything is read: after an update that was cut off, what lies there is of two versions. False when
+// nobody can take it back; the player has been told then and gets what there is.
+bool startRepair(const QString& folder, const orvinel::FileDisk& disk, orvinel::QtDesktop& desktop) {
+    for (const QString& updater : {orvinel::repairingUpdater(folder), folder + u"update.exe"_s})
+        if (desktop.openWithShell(disk.resolve(updater)))
+            return true;
+    desktop.message(orvinel::MessageIcon::Critical, orvinel::programName(),
+                    orvinel::builtInText(orvinel::Caption::UpdaterMissing));
+    return false;
+}
+
+} // namespace
 
 int main(int, char** argv) {
     // The program takes no options; Qt would take its own from them.
@@ -27,11 +47,17 @@ int main(int, char** argv) {
     orvinel::applyAppearance(application);
 
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
-    const orvinel::SingleInstance instance(folder);
-    if (!instance.first())
+    std::optional<orvinel::SingleInstance> instance(std::in_place, folder);
+    if (!instance->first())
         return 0;
     orvinel::FileDisk disk(folder);
     orvinel::QtDesktop desktop(folder);
+    if (disk.length(orvinel::updateMark(folder)) > 0) {
+        instance.reset();
+        if (startRepair(folder, disk, desktop))
+            return 0;
+        instance.emplace(folder);
+    }
     orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
     if (!program.Main())
         return 1;

@@ -144,6 +144,30 @@ enum class Caption : int {
     NobodyLeft = 220,          // "No character is left who could capture this skill."
 
     LanguageCode = 301, // "en"
+
+    UpdateTitle = 251,        // "Update Orvinel"
+    UpdateAsk = 252,          // "Choose the package of the new version that you have ..."
+    UpdatePackage = 253,      // "Package of Orvinel"
+    UpdateBrowse = 254,       // "Browse..."
+    UpdateBegin = 255,        // "Update"
+    UpdateCancel = 256,       // "Cancel"
+    StartOrvinel = 257,       // "Start Orvinel"
+    UpdateChecking = 258,     // "The package is being checked..."
+    UpdateWaiting = 259,      // "Orvinel is still running. The update begins when you ..."
+    UpdateReplacing = 260,    // "Version %1 is being installed..."
+    UpdateDone = 261,         // "Version %1 is installed."
+    UpdateKept = 262,         // "These are yours, or you have changed them. They stayed as they were:"
+    UpdateTakenBack = 263,    // "The update could not be finished:\n%1\n\nEverything is ..."
+    UpdateNotTakenBack = 264, // "An update was cut off and could not be taken ..."
+    UpdateCutOff = 265,       // "An update was cut off. Everything is as it was before it."
+    UpdaterMissing = 266,     // "An update was cut off, and the updater that could take ..."
+    UpdateInTheWay = 267,     // "A folder stands where a file of the new version ..."
+    UpdateBySystem = 268,     // "This Orvinel was installed by the system, which also ..."
+    PackageUnreadable = 269,  // "%1 cannot be read:\n%2"
+    PackageForeign = 270,     // "%1 is not a package of Orvinel."
+    PackageDamaged = 271,     // "%1 is damaged: %2 is not in it as it should be. Please ..."
+    PackageOtherSystem = 272, // "%1 is for another system."
+    PackageOlder = 273,       // "The package holds version %1, which is older than yours ..."
 };
 
 // Every language file has the texts from 1 to this number.

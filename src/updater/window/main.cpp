@@ -1,0 +1,98 @@
+#include "app/Opening.h"
+#include "app/modLanguage.h"
+#include "base/FileDisk.h"
+#include "base/UpdateMark.h"
+#include "ui/platform/QtDesktop.h"
+#include "ui/platform/Windows.h"
+#include "updater/window/Downloads.h"
+#include "updater/window/UpdateWindow.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace orvinel {
+namespace {
+
+// From Update.tmp/repair an update that was cut off is taken back, nothing else.
+const QString repairFolder = u"/Update.tmp/repair"_s;
+
+struct Updater {
+    World state;
+    FileDisk disk;
+    QtDesktop desktop;
+
+    explicit Updater(const QString& folder) : disk(folder), desktop(folder) { state.AppPath = folder; }
+
+    // False, with a word to the player, when it could not be done.
+    bool takeBack() {
+        const DiskError error = putBack(disk, state.AppPath);
+        LoadLanguage(state, disk); // not before: it may be among what was replaced
+        if (error)
+            desktop.message(MessageIcon::Critical, programName(),
+                            state.text(Caption::UpdateNotTakenBack).arg(*error));
+        return !error;
+    }
+
+    int repair() {
+        auto instance = std::make_unique<SingleInstance>(state.AppPath);
+        if (!instance->first()) // an updater at work
+            return 0;
+        if (isHalfUpdated(disk, state.AppPath)) {
+            if (!takeBack())
+                return 1;
+            desktop.message(MessageIcon::None, state.text(Caption::UpdateTitle),
+                            state.text(Caption::UpdateCutOff));
+        }
+        removeLeftovers(disk, state.AppPath);
+        instance.reset();
+        return startOrvinel(state.AppPath) ? 0 : 1;
+    }
+
+    // Where a package manager keeps the program there is nothing to be replaced.
+    int leaveToSystem() {
+        LoadLanguage(state, disk);
+        if (desktop.ask(MessageIcon::Question, state.text(Caption::UpdateTitle),
+                        state.text(Caption::UpdateBySystem)))
+            openAndTell(state, desktop, addressOf(Page::Guide, state, disk));
+        return 0;
+    }
+
+    int update() {
+        bool cutOff = isHalfUpdated(disk, state.AppPath);
+        if (cutOff) {
+            const SingleInstance instance(state.AppPath);
+            if (!instance.first())
+                return 0;
+            cutOff = isHalfUpdated(disk, state.AppPath); // another one may have been done meanwhile
+            if (!takeBack())
+                return 1;
+        }
+        LoadLanguage(state, disk);
+        UpdateWindow window(state, disk, desktop);
+        if (cutOff)
+            window.tell(state.text(Caption::UpdateCutOff));
+        window.offer(newestPackage(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)));
+        window.show();
+        return QApplication::exec();
+    }
+};
+
+} // namespace
+} // namespace orvinel
+
+int main(int, char** argv) {
+    int argc = 1; // no options, neither Qt's
+    orvinel::chooseWindowSystem();
+    QApplication application(argc, argv);
+    orvinel::applyAppearance(application);
+    QString folder = QCoreApplication::applicationDirPath();
+    const bool repairing = folder.endsWith(orvinel::repairFolder, Qt::CaseInsensitive);
+    if (repairing)
+        folder.chop(orvinel::repairFolder.size());
+    orvinel::Updater updater(folder + u'/');
+    if (repairing)
+        return updater.repair();
+    return updater.disk.folderExists(folder + u"/.shipped"_s) ? updater.leaveToSystem() : updater.update();
+}
