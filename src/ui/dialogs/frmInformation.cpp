@@ -114,7 +114,10 @@ frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner, Addr
     for (int i = 0; i < figures; ++i)
         addCaption(i);
     addLink(u"lnkWebPage"_s, WebPage);
-    if (!addresses_.mail.isEmpty())
+    // Without an address the text stands there all the same, but nobody is told of a link.
+    if (addresses_.mail.isEmpty())
+        picOntainer->tell(mailPlace, linkText(Mail));
+    else
         addLink(u"lnkMail"_s, Mail);
     picOntainer->setFocus();
 }
@@ -206,8 +209,7 @@ void frmInformation::DrawInformationText() {
     drawCentred(drawing, dedicationPlace, grey, dedication());
     drawing.setFont(FontCrea(points8_25, true, true));
     drawCentred(drawing, webPlace, lightOrange, linkText(WebPage));
-    if (!addresses_.mail.isEmpty())
-        drawCentred(drawing, mailPlace, lightOrange, linkText(Mail));
+    drawCentred(drawing, mailPlace, lightOrange, linkText(Mail));
     drawing.filledBox(14, 58, 139, 73, darkBrown);
     drawing.setFont(FontCrea(points8_25, false, true));
     drawCentred(drawing, headingPlace, lightGrey, u"Informations"_s);
@@ -261,10 +263,12 @@ void frmInformation::click(QPoint inContainer) {
 frmInformation::Link frmInformation::linkAt(QPoint inContainer) const {
     if (webPlace.adjusted(0, 0, 1, 1).contains(inContainer))
         return WebPage;
-    return !addresses_.mail.isEmpty() && mailPlace.adjusted(0, 0, 1, 1).contains(inContainer) ? Mail : NoLink;
+    return mailPlace.adjusted(0, 0, 1, 1).contains(inContainer) ? Mail : NoLink;
 }
 
 void frmInformation::openLink(Link link) {
+    if (link == Mail && addresses_.mail.isEmpty())
+        return;
     if (link == Mail)
         openAndTell(state(), desktop(), u"mailto:"_s + addresses_.mail);
     else if (addresses_.homePage.isEmpty())
