@@ -24,7 +24,8 @@ UPDATER = PROGRAM.parent / "update.exe"
 TITLE = "Update Orvinel"
 OLD, NEW = "4.0.0", "4.1.0"
 VERSION_ROWS = {OLD: "Orvinel 4.0.0", NEW: "Orvinel 4.1.0, which has a name that makes the menu wider"}
-BULK = 300  # files that make an update last
+BULK = 60  # files that make an update last
+UPDATE = 90  # seconds that it may take on a busy machine
 
 
 class Foreign:
@@ -63,7 +64,7 @@ class StartedByOther(Player):
     """The program, whoever started it."""
 
     def __init__(self, folder):
-        pid = until("the program started again", lambda: running(folder / "orvinel"))[0]
+        pid = until("the program started again", lambda: running(folder / "orvinel"), UPDATE)[0]
         self.main = set()
         self.process = Foreign(pid)
 
@@ -215,8 +216,8 @@ def own_stays(folder):
             assert content(home / "Data/Version.txt") == (OLD + "\n").encode()
             waited_for.process.kill()
             waited_for.process.wait()
-            until("the new version", lambda: content(home / "Data/Version.txt") == (NEW + "\n").encode())
-            until("the end of the update", lambda: not (home / "Update.tmp").exists())
+            until("the new version", lambda: content(home / "Data/Version.txt") == (NEW + "\n").encode(), UPDATE)
+            until("the end of the update", lambda: not (home / "Update.tmp").exists(), UPDATE)
             keys("Return")  # the button that starts the program
             with StartedByOther(home) as player:
                 player.quit()
@@ -239,7 +240,7 @@ def switch_off(home):
     with start(home) as updater:
         keys("Return")
         middle = home / f"Update.tmp/old/Campaign.03.Sunhollow/{BULK // 2:03}.txt"
-        until("the middle of the update", middle.exists)
+        until("the middle of the update", middle.exists, UPDATE)
         updater.process.kill()
         updater.process.wait()
     assert (home / "Update.tmp/begun").exists(), "it was too late"
