@@ -24,6 +24,8 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -221,6 +223,26 @@ QString startWith(const HostileFile& file, const QByteArray& bytes) {
     return rewrite(disk, start);
 }
 
+namespace {
+
+// As a backup's files are called. Names that only a hostile archive has, such as a folder's, need not be
+// written as they were.
+bool isBackupsName(const ArchivedFile& file) {
+    return !file.name.isEmpty() && !file.name.endsWith(u'/') &&
+           std::all_of(file.name.begin(), file.name.end(),
+                       [](QChar c) { return c > u' ' && c < u'\x7f' && c != u'\\'; });
+}
+
+QString rewrittenZip(const ArchiveContent& content) {
+    if (!content.problem.isEmpty() ||
+        !std::all_of(content.files.begin(), content.files.end(), isBackupsName) ||
+        readZip(writeZip(content.files, archiveTime)).files == content.files)
+        return {};
+    return u"an archive changes when it is written again"_s;
+}
+
+} // namespace
+
 QByteArray sealedZip(const QByteArray& entries) {
     const QByteArray seal =
         "Orvinel SHA-256 " + QCryptographicHash::hash(entries, QCryptographicHash::Sha256).toHex();
@@ -228,11 +250,8 @@ QByteArray sealedZip(const QByteArray& entries) {
 }
 
 QString readArchive(const QByteArray& bytes) {
-    if (bytes.startsWith("PK")) {
-        readZip(
-            bytes); // names that only a hostile archive has, such as a folder's, are not written as they were
-        return {};
-    }
+    if (bytes.startsWith("PK"))
+        return rewrittenZip(readZip(bytes));
     const ArchiveContent content = readTar(bytes);
     if (content.problem.isEmpty())
         if (const auto written = writeTar(content.files, archiveTime))
