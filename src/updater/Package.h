@@ -12,6 +12,8 @@ namespace orvinel {
 // The file of the program that players start, and the updater's own.
 QString programFileName();
 inline constexpr QLatin1String updaterFileName("update.exe");
+// What the next start of the program puts into the updater's place.
+inline constexpr QLatin1String pendingUpdater("update.dat");
 
 struct PackageFile {
     QByteArray bytes;

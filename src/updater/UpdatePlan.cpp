@@ -2,6 +2,8 @@
 
 #include "updater/Package.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <set>
 
@@ -13,14 +15,18 @@ namespace {
 
 constexpr QLatin1String languagePath("Data/Language.txt");
 constexpr QLatin1String languagesFolder("Data/Languages/");
-constexpr QLatin1String firstCharacters("Data/Characters.txt");
 constexpr QLatin1String campaignPrefix("Campaign.");
-constexpr QLatin1String pendingUpdater("update.dat");
+constexpr QLatin1String worldsFolder("Data/Worlds/");
 constexpr int deepestFolder = 8;
 
 bool isPlayers(const QString& path) {
     return path.startsWith(u"Personal/"_s) || path.startsWith(u"Backups/"_s) ||
            path.startsWith(u"Pages/"_s) || path == u"Data/Options.txt"_s;
+}
+
+bool isOfFirstCharacters(const QString& path) {
+    static const QRegularExpression names(u"^Data/Char(acters|\\d\\dCapElite)\\.txt$"_s);
+    return names.match(path).hasMatch();
 }
 
 bool isLanguage(const QString& path) {
@@ -35,6 +41,30 @@ QString campaignOf(const QString& path) {
 
 QString campaignNumber(const QString& campaign) {
     return campaign.section(u'.', 1, 1);
+}
+
+// Where the same file of a campaign lies in another language.
+QString translated(const QString& language, const QString& path) {
+    return worldsFolder + language + u'/' + path;
+}
+
+// The languages of the world that a list has.
+std::set<QString> worldLanguages(const FileSums& sums) {
+    std::set<QString> languages;
+    for (auto at = sums.lower_bound(worldsFolder); at != sums.end() && at->first.startsWith(worldsFolder);
+         ++at)
+        languages.insert(at->first.section(u'/', 2, 2));
+    return languages;
+}
+
+// The language in which a list has the file of a campaign with this sum; empty when in none, and for
+// the campaign's own file.
+QString languageOfFile(const FileSums& sums, const QString& path, const QByteArray& sum) {
+    const auto has = [&](const QString& at) { return sums.contains(at) && sums.at(at) == sum; };
+    const std::set<QString> languages = has(path) ? std::set<QString>() : worldLanguages(sums);
+    const auto found = std::find_if(languages.begin(), languages.end(),
+                                    [&](const QString& language) { return has(translated(language, path)); });
+    return found == languages.end() ? QString() : *found;
 }
 
 class Planner {
@@ -55,7 +85,12 @@ class Planner {
 
   private:
     // Null when it is not there; of a file that cannot be read, or a folder, no sum.
-    QByteArray present(const QString& path) const {
+    const QByteArray& present(const QString& path) {
+        const auto known = present_.find(path);
+        return known != present_.end() ? known->second : present_[path] = lookAt(path);
+    }
+
+    QByteArray lookAt(const QString& path) const {
         const ReadResult read = disk_.read(folder_ + path);
         if (read.outcome == ReadResult::Outcome::NotThere)
             return disk_.folderExists(folder_ + path) ? QByteArray("") : QByteArray();
@@ -77,37 +112,73 @@ class Planner {
         }
     }
 
-    // The list knows the campaign's folder, and nothing in it is changed, added or missing.
-    bool isAs(const FileSums& sums, const QString& campaign) const {
+    // The list knows the campaign's folder, and nothing in it is changed, added or missing. A file in another
+    // language of the list is not changed.
+    bool isAs(const FileSums& sums, const QString& campaign) {
         std::set<QString> files;
         gather(campaign, files, 1);
         const bool some = !files.empty();
-        for (const auto& [path, sum] : sums)
-            if (campaignOf(path) == campaign && (!files.erase(path) || present(path) != sum))
+        for (const auto& [path, sum] : sums) {
+            if (campaignOf(path) != campaign)
+                continue;
+            const bool is = present(path) == sum || !languageOfFile(sums, path, present(path)).isEmpty();
+            if (!files.erase(path) || !is)
                 return false;
+        }
         return some && files.empty();
+    }
+
+    // The language of which all of a campaign's files were copied over it, even those that are alike in it.
+    QString languageOfAll(const FileSums& sums, const QString& campaign) {
+        for (const QString& language : worldLanguages(sums)) {
+            const QString folder = translated(language, campaign) + u'/';
+            bool all = true;
+            bool differs = false;
+            for (auto at = sums.lower_bound(folder); at != sums.end() && at->first.startsWith(folder); ++at) {
+                const QString path = campaign + u'/' + at->first.sliced(folder.size());
+                all = all && present(path) == at->second;
+                differs = differs || !sums.contains(path) || sums.at(path) != at->second;
+            }
+            if (all && differs)
+                return language;
+        }
+        return {};
     }
 
     void keepCampaigns() {
         for (const QString& name : disk_.list(folder_)) {
             if (!name.startsWith(campaignPrefix) || !disk_.folderExists(folder_ + name))
                 continue;
-            if (isAs(new_, name) || (old_ && isAs(*old_, name)))
-                continue;
-            keptNumbers_.insert(campaignNumber(name));
-            plan_.kept << name;
+            if (old_ && isAs(*old_, name)) {
+                as_[name] = {&*old_, languageOfAll(*old_, name)};
+            } else if (isAs(new_, name)) {
+                as_[name] = {&new_, languageOfAll(new_, name)};
+            } else {
+                keptNumbers_.insert(campaignNumber(name));
+                plan_.kept << name;
+            }
         }
     }
 
+    // The file of the package that follows the one at the path of a campaign: in the language that it is in.
+    QString following(const QString& campaign, const QString& path) {
+        const auto as = as_.find(campaign);
+        if (as == as_.end())
+            return path;
+        const QString& all = as->second.language;
+        const QString language = all.isEmpty() ? languageOfFile(*as->second.sums, path, present(path)) : all;
+        const QString found = translated(language, path);
+        return !language.isEmpty() && new_.contains(found) ? found : path;
+    }
+
     void consider(const QString& path, const QByteArray& sum) {
-        if (isPlayers(path) || (path == firstCharacters && disk_.folderExists(folder_ + u"Personal"_s)))
+        if (isPlayers(path) || (isOfFirstCharacters(path) && disk_.folderExists(folder_ + u"Personal"_s)))
             return;
-        if (const QString campaign = campaignOf(path);
-            !campaign.isEmpty() && keptNumbers_.contains(campaignNumber(campaign)))
-            return;
+        if (const QString campaign = campaignOf(path); !campaign.isEmpty())
+            return considerCampaign(campaign, path);
         if (path == updaterFileName)
             return considerUpdater(sum);
-        const QByteArray now = present(path);
+        const QByteArray& now = present(path);
         if (path == programFileName() || now.isNull())
             return bring(path, path);
         if (isLanguage(path))
@@ -116,9 +187,17 @@ class Planner {
             bring(path, path);
     }
 
+    void considerCampaign(const QString& campaign, const QString& path) {
+        if (keptNumbers_.contains(campaignNumber(campaign)))
+            return;
+        const QString from = following(campaign, path);
+        if (present(path) != new_.at(from))
+            bring(path, from);
+    }
+
     // A program that runs cannot be replaced on every system: it is swapped in by the next start.
     void considerUpdater(const QByteArray& sum) {
-        const QByteArray now = present(updaterFileName);
+        const QByteArray& now = present(updaterFileName);
         if (now.isNull())
             bring(updaterFileName, updaterFileName);
         else if (now != sum)
@@ -153,9 +232,11 @@ class Planner {
         for (const auto& [path, sum] : new_)
             stays.insert(path.toLower());
         for (const auto& [path, sum] : *old_) {
-            const bool players = isPlayers(path) || path == firstCharacters ||
-                                 plan_.kept.contains(campaignOf(path)) || path == updaterFileName;
-            if (!players && !stays.contains(path.toLower()) && present(path) == sum)
+            const QString campaign = campaignOf(path);
+            const bool players = isPlayers(path) || isOfFirstCharacters(path) ||
+                                 plan_.kept.contains(campaign) || path == updaterFileName;
+            const bool translation = as_.contains(campaign) && !present(path).isNull();
+            if (!players && !stays.contains(path.toLower()) && (translation || present(path) == sum))
                 plan_.gone.push_back(path);
         }
     }
@@ -164,7 +245,14 @@ class Planner {
     QString folder_;
     const FileSums& new_;
     std::optional<FileSums> old_;
+    // A campaign folder that is as the list has it; `language`: that of all its files, else empty.
+    struct Brought {
+        const FileSums* sums;
+        QString language;
+    };
+    std::map<QString, Brought> as_;
     std::set<QString> keptNumbers_;
+    std::map<QString, QByteArray> present_;
     UpdatePlan plan_;
 };
 

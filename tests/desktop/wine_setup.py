@@ -8,6 +8,7 @@ folder. Exit code 77: Wine, the folder or a tool is missing.
 import functools
 import hashlib
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -54,8 +55,10 @@ def old_package(folder):
     (folder / "Data/History.txt").write_text("the old one")
     for path in (folder / "Data/Language.txt", *folder.glob("Data/Languages/*.txt")):
         path.write_bytes(path.read_bytes() + crlf("201\tOld"))
-    zones = folder / NAME / "Zones.txt"
-    zones.write_bytes(zones.read_bytes() + crlf("; old"))
+    for path in (folder / NAME / "Zones.txt", *folder.glob(f"Data/Worlds/*/{NAME}/*.txt")):
+        path.write_bytes(path.read_bytes() + crlf("; old"))
+    for path in folder.glob("Campaign.04.*/**/*.jpg"):  # enough to be in the middle of
+        path.write_bytes(path.read_bytes() + b"old")
     (folder / "licences/Former.txt").write_text("of a library that is used no more")
     (folder / "Campaign.02.Former").mkdir()
     (folder / "Campaign.02.Former/Regions.txt").write_bytes(crlf("1\tGone"))
@@ -122,7 +125,8 @@ def everything(folder):
 def holds_version(version, folder, but=()):
     """All that the version brings is there, and nothing of another; `but`: the files that are the player's."""
     there = everything(folder)
-    wanted = {path: s for path, s in setup(version)[1].items() if path not in but and path != "Data/Characters.txt"}
+    first = "Data/Char"  # the first start's characters, which are no more there then
+    wanted = {path: s for path, s in setup(version)[1].items() if path not in but and not path.startswith(first)}
     extra = {path for path in there if path not in setup(version)[1] and path not in but and path != "Uninstall.exe"
              and not path.startswith("Personal/")}
     wrong = [path for path, s in wanted.items() if there.get(path) != s]
@@ -178,9 +182,9 @@ def shown_by_the_system(folder):
         for wanted in ("Orvinel", "The Orvinel authors", version):
             assert f"\0{wanted}\0" in told, f"{program.name} does not tell {wanted}"
         manifest = kinds[24][0].decode()
-        for wanted in ("true</longPathAware>", "dpiAware>true", 'level="asInvoker"',
-                       "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"):
-            assert wanted in manifest, f"{program.name}: the manifest lacks {wanted}"
+        for wanted in (r"longPathAware\b[^>]*>true<", r"dpiAware\b[^>]*>true", 'level="asInvoker"',
+                       r"\{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a\}"):
+            assert re.search(wanted, manifest), f"{program.name}: the manifest lacks {wanted}"
 
 
 def a_players_year(folder):
@@ -245,6 +249,58 @@ def what_is_the_players(folder):
     assert content(folder / "Data/Language.txt") == crlf("1\tMine")
     uninstall(folder)
     assert set(everything(folder)) == {*changed, "Data/Language.txt", "Personal/Notes.txt"}, everything(folder)
+
+
+def in_other_words(folder):
+    """The world in German over the campaign is no change of the player's: it follows, and goes with the program."""
+    install(OLD, folder)
+    german = folder / "Data/Worlds/Deutsch" / NAME
+    shutil.copytree(german, folder / NAME, dirs_exist_ok=True)
+    (folder / "update.dat").write_bytes(b"an older updater, which the next start would swap in")
+    for _ in range(2):
+        install(NEW, folder)
+        names = [path.name for path in german.iterdir()]
+        assert len(names) > 3 and not any(content(german / name).endswith(b"; old\r\n") for name in names)
+        for name in names:
+            assert content(folder / NAME / name) == content(german / name), name
+        holds_version(NEW, folder, but=[f"{NAME}/{name}" for name in names])
+    uninstall(folder)
+    assert not folder.exists() or everything(folder) == {}, everything(folder)
+
+
+def in_the_way(folder):
+    """A folder of the player's where a file should be: refused, and it is still there."""
+    install(OLD, folder)
+    (folder / "licences/Orvinel.txt").unlink()
+    (folder / "licences/Orvinel.txt").mkdir()
+    (folder / "licences/Orvinel.txt/mine.txt").write_text("mine")
+    before = everything(folder)
+    install(NEW, folder, REFUSED)
+    assert everything(folder) == before
+    uninstall(folder)
+    assert set(everything(folder)) == {"licences/Orvinel.txt/mine.txt"}, everything(folder)
+
+
+def unfinished_update(folder):
+    """Uninstalled between an updater that was cut off and the next start: nothing of it stays but what nobody brought."""
+    for own in ({}, {"old/docs/mine.txt": b"mine"}):
+        place = folder / f"with {len(own)}"
+        install(OLD, place)
+        with_personal(place)
+        work = place / "Update.tmp"
+        package = PROGRAM.parent
+        halves = {"begun": b"+orvinel.exe\n", "new/Data/Installed.txt": content(package / "Data/Installed.txt"),
+                  "new/Data/History.txt": b"half", "repair/update.exe": content(package / "update.exe"),
+                  "old/orvinel.exe": content(place / "orvinel.exe"), f"old/{NAME}/Zones.txt": content(place / NAME / "Zones.txt")}
+        for name, text in {**halves, **own}.items():
+            (work / name).parent.mkdir(parents=True, exist_ok=True)
+            (work / name).write_bytes(text)
+        shutil.copy(package / NAME / "Zones.txt", place / NAME)
+        (place / "New").mkdir()  # not of the new version, so that it is the player's
+        (place / "New/mine.txt").write_text("mine")
+        uninstall(place)
+        left = {f"Update.tmp/{name}" for name in own} | ({"Update.tmp/begun"} if own else set())
+        assert set(everything(place)) == {"Personal/Notes.txt", "New/mine.txt"} | left, everything(place)
 
 
 def by_hand(folder):
@@ -380,7 +436,8 @@ def no_place(folder):
         subprocess.run(["umount", str(folder)])
 
 
-ERRANDS = [shown_by_the_system, a_players_year, what_is_the_players, by_hand, beside_the_program, while_it_runs, cannot_be_finished, cut_off, no_place]
+ERRANDS = [shown_by_the_system, a_players_year, what_is_the_players, in_other_words, in_the_way, unfinished_update, by_hand,
+           beside_the_program, while_it_runs, cannot_be_finished, cut_off, no_place]
 
 
 def main():

@@ -53,6 +53,86 @@ TEST_F(UpdatePlanTest, keepsCampaignsThatThePlayerHasTouchedWhole) {
               plan.kept);
 }
 
+// The world in other languages lies beside it, and players copy it over the campaigns.
+struct TranslatedWorldTest : UpdatePlanTest {
+    Texts old = oldVersion();
+    Texts fresh = newVersion();
+
+    TranslatedWorldTest() {
+        add(old, "old ");
+        add(fresh, "new ");
+        fresh[u"Data/Worlds/Deutsch/Campaign.01.Vale/Pets.txt"_s] = "neue Tiere";
+        fresh[u"Campaign.01.Vale/Pets.txt"_s] = "new pets";
+        old.erase(u"Data/Version.txt"_s);
+        fresh.erase(u"Data/Version.txt"_s);
+        old.erase(installedListPath);
+        fresh.erase(installedListPath);
+        old = packaged(old, "4.0.0");
+        fresh = packaged(fresh, "4.1.0");
+        sums = *readInstalledList(fresh.at(installedListPath));
+        putAll(disk, old);
+    }
+    // "Same.txt" is alike in all languages of the old version, and no more in the new one.
+    static void add(Texts& texts, const QByteArray& age) {
+        for (const char* at : {"", "Data/Worlds/Deutsch/", "Data/Worlds/Italiano/"}) {
+            const QString vale = QLatin1String(at) + u"Campaign.01.Vale/"_s;
+            texts[vale + u"Elites.txt"_s] = age + at;
+            texts[vale + u"Same.txt"_s] = age == "old " ? "same" : age + at;
+        }
+        texts[u"Campaign.01.Vale/Gone.txt"_s] = "in the old one only";
+        if (age == "old ")
+            texts[u"Data/Worlds/Deutsch/Campaign.01.Vale/Gone.txt"_s] = "nur im alten";
+        else
+            texts.erase(u"Campaign.01.Vale/Gone.txt"_s);
+    }
+    void copy(const char* language, const char* name) {
+        const QString path = u"Campaign.01.Vale/"_s + QLatin1String(name);
+        disk.put(home + path, old.at(u"Data/Worlds/"_s + QLatin1String(language) + u'/' + path));
+    }
+    // The language in which the plan brings a file of the campaign.
+    QString language(const UpdatePlan& plan, const char* name) {
+        const QString path = from(plan, (QByteArray("Campaign.01.Vale/") + name).constData());
+        return path.startsWith(u"Data/Worlds/"_s) ? path.section(u'/', 2, 2) : path.section(u'/', 0, 0);
+    }
+};
+
+TEST_F(TranslatedWorldTest, followsInItsLanguageAndBringsNewFilesInIt) {
+    for (const char* name : {"Elites.txt", "Same.txt", "Gone.txt"})
+        copy("Deutsch", name);
+    const UpdatePlan plan = this->plan();
+    EXPECT_EQ(QStringList(), plan.kept);
+    for (const char* name : {"Elites.txt", "Same.txt", "Pets.txt"})
+        EXPECT_EQ(u"Deutsch"_s, language(plan, name)) << name;
+    EXPECT_EQ(u"Campaign.01.Vale"_s, language(plan, "Regions.txt"));
+    EXPECT_EQ(1, std::count(plan.gone.begin(), plan.gone.end(), u"Campaign.01.Vale/Gone.txt"_s))
+        << "else the campaign would be the player's from the next update on";
+}
+
+TEST_F(TranslatedWorldTest, followsFileByFileWhereOnlySomeWereCopied) {
+    copy("Italiano", "Elites.txt");
+    copy("Deutsch", "Gone.txt");
+    const UpdatePlan plan = this->plan();
+    EXPECT_EQ(QStringList(), plan.kept);
+    EXPECT_EQ(u"Italiano"_s, language(plan, "Elites.txt"));
+    EXPECT_EQ(u"Italiano"_s, language(plan, "Same.txt")) << "all that there was in Italian is there";
+    put("Campaign.01.Vale/Same.txt", "mine");
+    EXPECT_EQ(QStringList{u"Campaign.01.Vale"_s}, this->plan().kept);
+}
+
+TEST_F(TranslatedWorldTest, becomesTheOriginalWhereTheNewVersionHasNotTheLanguage) {
+    copy("Italiano", "Elites.txt");
+    std::erase_if(sums, [](const auto& entry) { return entry.first.startsWith(u"Data/Worlds/Italiano/"_s); });
+    EXPECT_EQ(u"Campaign.01.Vale"_s, language(plan(), "Elites.txt"));
+}
+
+TEST_F(TranslatedWorldTest, staysAsItIsWhenTheVersionIsTheSame) {
+    copy("Italiano", "Elites.txt");
+    sums = *readInstalledList(old.at(installedListPath));
+    const UpdatePlan plan = this->plan();
+    EXPECT_EQ(QString(), language(plan, "Elites.txt"));
+    EXPECT_EQ(QStringList(), plan.kept);
+}
+
 TEST_F(UpdatePlanTest, letsTheChosenLanguageFollowAndKeepsAnOwnOne) {
     put("Data/Language.txt", "old German");
     put("Data/Languages/Deutsch.txt", "my German");
@@ -78,9 +158,14 @@ TEST_F(UpdatePlanTest, replacesNothingOfDoubtWithoutAnOldList) {
 }
 
 TEST_F(UpdatePlanTest, bringsTheFirstCharactersOnlyBeforeTheFirstStart) {
-    disk.remove(u"/o/Personal/Notes.txt"_s);
-    disk.removeFolder(u"/o/Personal"_s);
-    EXPECT_FALSE(from(plan(), "Data/Characters.txt").isNull());
+    sums[u"Data/Char01CapElite.txt"_s] = QByteArray(64, '0');
+    for (const char* path : {"Data/Characters.txt", "Data/Char01CapElite.txt"}) {
+        put("Personal/Notes.txt", "mine");
+        EXPECT_TRUE(from(plan(), path).isNull()) << path;
+        disk.remove(u"/o/Personal/Notes.txt"_s);
+        disk.removeFolder(u"/o/Personal"_s);
+        EXPECT_FALSE(from(plan(), path).isNull()) << path;
+    }
 }
 
 TEST_F(UpdatePlanTest, swapsInNoUpdaterOlderThanTheOneThere) {

@@ -1,14 +1,14 @@
 ; Replacing what is there by what was unpacked into ${WORK}\new, all or nothing.
 ;
-; Plan writes two lists: bring.txt, what is to come from "new", and gone.txt, what is to go. While "begun" is there, each
+; The updater of the new version, started in "new", writes two lists: bring.txt, what is to come from there, and gone.txt,
+; what is to go (src/updater/SetupPlan.h). While "begun" is there, each
 ; path of them is in one of these states, and PutBack leads from each of them to the first one:
 ;   in "new", not in "old"     nothing has happened (an old file may be in its place)
 ;   in "new" and in "old"      the old one has been put aside
 ;   neither in "new"           it is in its place; the old one, if any, is in "old"
 ; Deleting "begun" makes the replacement hold.
 
-Var Known  ; the list of what was brought before
-Var Bring  ; the list that is being written
+Var Bring  ; the list that is being read
 Var Failed ; the path that could not be replaced
 
 ; From and to on the stack, below $INSTDIR; the folder is made. Virus scanners and the search index open what has just
@@ -46,182 +46,40 @@ FunctionEnd
 !macroend
 !define Move "!insertmacro Move"
 
-; $0 becomes the NN of the folder name Campaign.NN.Name on the stack.
-Function NumberOf
-  Exch $0
-  ${WordFind} $0 "." "+2" $0
-  ClearErrors
-FunctionEnd
-
-; Marks, in the folders "keep" and "numbers", what stays as it is.
-Function KeepCampaigns
-  FileOpen $List $Known r
-  ${Do}
-    Call NextEntry
-    ${If} $Path == ""
-      ${Break}
-    ${EndIf}
-    ${If} $Campaign != ""
-    ${AndIf} ${FileExists} "$INSTDIR\$Campaign"
-    ${AndIfNot} ${FileExists} "${WORK}\keep\$Campaign"
-      Push "$INSTDIR\$Path"
-      Call SumOf
-      Pop $1
-      ${If} $1 != $Sum
-        CreateDirectory "${WORK}\keep\$Campaign"
-      ${EndIf}
-    ${EndIf}
-  ${Loop}
-  FileClose $List
-  FindFirst $3 $4 "$INSTDIR\Campaign.*"
-  ${DoWhile} $4 != ""
-    Call CountBrought
-    ${GetSize} "$INSTDIR\$4" "/S=0K" $0 $1 $2
-    ${If} $1 != $5
-      CreateDirectory "${WORK}\keep\$4"
-    ${EndIf}
-    ${If} ${FileExists} "${WORK}\keep\$4"
-      Push $4
-      Call NumberOf
-      CreateDirectory "${WORK}\numbers\$0"
-      Pop $0
-    ${EndIf}
-    FindNext $3 $4
-  ${Loop}
-  FindClose $3
-  ClearErrors
-FunctionEnd
-
-; $5: how many files were brought into the campaign folder $4.
-Function CountBrought
-  StrCpy $5 0
-  FileOpen $List $Known r
-  ${Do}
-    Call NextEntry
-    ${If} $Path == ""
-      ${Break}
-    ${EndIf}
-    ${If} $Campaign == $4
-      IntOp $5 $5 + 1
-    ${EndIf}
-  ${Loop}
-  FileClose $List
-FunctionEnd
-
-; The language that was chosen follows; one of the player's own stays. At the first time: that of the setup.
-Function ChooseLanguage
+; At the first time the language of the setup; later the one that was chosen follows.
+Function ChooseFirstLanguage
   StrCpy $2 ""
   ${If} ${FileExists} "$INSTDIR\Data\Language.txt"
-    Push "$INSTDIR\Data\Language.txt"
-    Call SumOf
-    StrCpy $1 $Known
-    Call LanguageOfSum
-    Pop $2
-    ${If} $2 == ""
-      CreateDirectory "${WORK}\keep\Data\Language.txt"
-    ${EndIf}
+    Return
   ${ElseIf} $LANGUAGE = ${LANG_GERMAN}
-    StrCpy $2 "Data\Languages\Deutsch.txt"
+    StrCpy $2 "Deutsch"
   ${ElseIf} $LANGUAGE = ${LANG_ITALIAN}
-    StrCpy $2 "Data\Languages\Italiano.txt"
+    StrCpy $2 "Italiano"
   ${EndIf}
   ${If} $2 != ""
-  ${AndIf} $2 != "Data\Language.txt"
-    System::Call 'kernel32::CopyFileW(w "${WORK}\new\$2", w "${WORK}\new\Data\Language.txt", i 0)'
-  ${EndIf}
-  FindFirst $3 $4 "$INSTDIR\Data\Languages\*.txt"
-  ${DoWhile} $4 != ""
-    Push "$INSTDIR\Data\Languages\$4"
-    Call SumOf
-    StrCpy $1 $Known
-    Call LanguageOfSum
-    Pop $2
-    ${If} $2 == ""
-      CreateDirectory "${WORK}\keep\Data\Languages\$4"
-    ${EndIf}
-    FindNext $3 $4
-  ${Loop}
-  FindClose $3
-  ClearErrors
-FunctionEnd
-
-; $0: 1 when $Path is to be brought.
-Function IsWanted
-  StrCpy $0 0
-  ${If} ${FileExists} "${WORK}\keep\$Path"
-    Return
-  ${EndIf}
-  ${If} $Path == "Data\Characters.txt"
-  ${AndIf} ${FileExists} "$INSTDIR\Personal"
-    Return
-  ${EndIf}
-  ${If} $Campaign != ""
-    ${If} ${FileExists} "${WORK}\keep\$Campaign"
-      Return
-    ${EndIf}
-    Push $Campaign
-    Call NumberOf
-    StrCpy $1 $0
-    Pop $0
-    StrCpy $0 0
-    ${If} ${FileExists} "${WORK}\numbers\$1"
-    ${AndIfNot} ${FileExists} "$INSTDIR\$Campaign"
-      Return
-    ${EndIf}
-  ${EndIf}
-  StrCpy $0 1
-FunctionEnd
-
-; $0: 1 when the new version has no $Path, and the player has not made it his own.
-Function IsGone
-  StrCpy $0 0
-  ${If} ${FileExists} "${WORK}\new\$Path"
-  ${OrIfNot} ${FileExists} "$INSTDIR\$Path"
-    Return
-  ${EndIf}
-  ${If} $Campaign != ""
-  ${AndIf} ${FileExists} "${WORK}\keep\$Campaign"
-    Return
-  ${EndIf}
-  Push "$INSTDIR\$Path"
-  Call SumOf
-  Pop $1
-  ${If} $1 == $Sum
-    StrCpy $0 1
+    System::Call 'kernel32::CopyFileW(w "${WORK}\new\Data\Languages\$2.txt", w "${WORK}\new\Data\Language.txt", i 0)'
   ${EndIf}
 FunctionEnd
 
-; LIST is gone through; the paths for which TEST says so are written to OUT.
-!macro Select LIST TEST OUT LAST
-  FileOpen $List "${LIST}" r
-  FileOpen $Bring "${WORK}\${OUT}" w
-  ${Do}
-    Call NextEntry
-    ${If} $Path == ""
-      ${Break}
-    ${EndIf}
-    Call ${TEST}
-    ${If} $0 = 1
-      FileWrite $Bring "$Path$\r$\n"
-    ${EndIf}
-  ${Loop}
-  FileWrite $Bring "${LAST}"
-  FileClose $Bring
-  FileClose $List
-!macroend
-
+; $Failed stays empty when it works.
 Function Plan
-  StrCpy $Known "$INSTDIR\${LIST}"
-  ${IfNot} ${FileExists} $Known
-    StrCpy $Known "${WORK}\new\${LIST}"
-  ${EndIf}
+  StrCpy $Failed ""
   CreateDirectory "${WORK}\old"
-  CreateDirectory "${WORK}\keep"
-  CreateDirectory "${WORK}\numbers"
-  Call KeepCampaigns
-  Call ChooseLanguage
-  !insertmacro Select "${WORK}\new\${LIST}" IsWanted bring.txt "Uninstall.exe$\r$\n${LIST}$\r$\n"
-  !insertmacro Select "$Known" IsGone gone.txt ""
+  Call ChooseFirstLanguage
+  ClearErrors
+  ExecWait '"${WORK}\new\update.exe"' $0
+  ${If} ${Errors}
+  ${OrIf} $0 <> 0
+    StrCpy $Failed "update.exe"
+  ${EndIf}
+  ClearErrors
+  FileOpen $List "${WORK}\inTheWay.txt" r
+  ${IfNot} ${Errors}
+    FileRead $List $Failed
+    FileClose $List
+    ${TrimNewLines} $Failed $Failed
+  ${EndIf}
+  ClearErrors
 FunctionEnd
 
 ; What is in the place of $Path goes to "old".
@@ -232,7 +90,7 @@ Function PutAside
   ${EndIf}
 FunctionEnd
 
-; Calls ACTION for each $Path of a list that Select has written, until ACTION sets the error flag.
+; Calls ACTION for each $Path of a list of the plan, until ACTION sets the error flag.
 !macro ForEachPath LIST ACTION
   FileOpen $Bring "${WORK}\${LIST}" r
   ${Do}

@@ -127,7 +127,9 @@ Section
   SetOutPath "$INSTDIR" ; the folder where a setup stands cannot be removed
   Call Plan
   !insertmacro AskToClose ""
-  Call Replace
+  ${If} $Failed == ""
+    Call Replace
+  ${EndIf}
   ${If} $Failed != ""
     Call PutBack
     !insertmacro Refuse "$(TextFailed)"
@@ -179,5 +181,8 @@ Section Uninstall
   DeleteRegKey HKCU "${LISTED}"
   ${If} ${FileExists} "$INSTDIR\Personal"
     MessageBox MB_OK|MB_ICONINFORMATION "$(TextPersonalStays)$\r$\n$\r$\n$INSTDIR\Personal" /SD IDOK
+  ${EndIf}
+  ${If} ${FileExists} "${UPDATE}"
+    MessageBox MB_OK|MB_ICONINFORMATION "$(TextUpdateStays)$\r$\n$\r$\n${UPDATE}" /SD IDOK
   ${EndIf}
 SectionEnd

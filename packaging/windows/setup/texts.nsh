@@ -38,3 +38,7 @@
   "Your characters, marks and notes were kept. They lie in" \
   "Deine Charaktere, Einträge und Notizen sind erhalten geblieben. Sie liegen in" \
   "I tuoi personaggi, i segni e le note sono rimasti. Si trovano in"
+!insertmacro Text UpdateStays \
+  "An update was cut off. What it had put aside and was not brought with Orvinel was kept. It lies in" \
+  "Eine Aktualisierung wurde unterbrochen. Was sie beiseite gelegt hatte und nicht mit Orvinel kam, ist erhalten geblieben. Es liegt in" \
+  "Un aggiornamento è stato interrotto. Ciò che aveva messo da parte e non era arrivato con Orvinel è rimasto. Si trova in"

@@ -4,6 +4,7 @@
 #include "base/UpdateMark.h"
 #include "ui/platform/QtDesktop.h"
 #include "ui/platform/Windows.h"
+#include "updater/SetupPlan.h"
 #include "updater/window/Downloads.h"
 #include "updater/window/UpdateWindow.h"
 
@@ -15,7 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace orvinel {
 namespace {
 
-// From Update.tmp/repair an update that was cut off is taken back, nothing else.
+// What it does depends on where it lies: in the program's folder it updates, in Setup.tmp/new it plans for
+// the setup, in Update.tmp/repair an update that was cut off is taken back, nothing else.
 const QString repairFolder = u"/Update.tmp/repair"_s;
 
 struct Updater {
@@ -88,10 +90,16 @@ int main(int, char** argv) {
     QApplication application(argc, argv);
     orvinel::applyAppearance(application);
     QString folder = QCoreApplication::applicationDirPath();
-    const bool repairing = folder.endsWith(orvinel::repairFolder, Qt::CaseInsensitive);
-    if (repairing)
-        folder.chop(orvinel::repairFolder.size());
+    const auto isBelow = [&folder](const QString& part) {
+        const bool below = folder.endsWith(part, Qt::CaseInsensitive);
+        folder.chop(below ? part.size() : 0);
+        return below;
+    };
+    const bool repairing = isBelow(orvinel::repairFolder);
+    const bool planning = isBelow(u'/' + orvinel::setupNewFolder);
     orvinel::Updater updater(folder + u'/');
+    if (planning)
+        return orvinel::planSetup(updater.disk, updater.state.AppPath) ? 1 : 0;
     if (repairing)
         return updater.repair();
     return updater.disk.folderExists(folder + u"/.shipped"_s) ? updater.leaveToSystem() : updater.update();
