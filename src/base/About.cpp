@@ -2,6 +2,10 @@
 
 namespace orvinel {
 
+QString programVersion() {
+    return QStringLiteral(ORVINEL_VERSION);
+}
+
 QString homePage() {
     return QStringLiteral(ORVINEL_HOME_PAGE);
 }

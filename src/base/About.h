@@ -15,6 +15,9 @@ inline QString byLine() {
     return QStringLiteral("by ") + authorName();
 }
 
+// As "4.0.0".
+QString programVersion();
+
 // Set when the program is built (ORVINEL_HOME_PAGE, ORVINEL_MAIL); empty when the project has none.
 QString homePage();
 QString mailAddress();

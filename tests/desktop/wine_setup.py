@@ -78,7 +78,8 @@ def setup(version):
     return output, sums
 
 
-OLD, NEW = "3.9.0", "4.0.0"
+VERSION = PROGRAM.parent / "Data/Version.txt"
+OLD, NEW = "3.9.0", VERSION.read_text().strip() if VERSION.exists() else ""
 
 
 # What a player does
@@ -173,13 +174,12 @@ def resources(program):
 
 def shown_by_the_system(folder):
     """Icon, version and manifest of every program."""
-    version = content(PROGRAM.parent / "Data/Version.txt").decode().strip()
     for program in (*PROGRAM.parent.glob("*.exe"), setup(NEW)[0]):
         kinds = resources(program)
         sizes = {kinds[14][0][6 + 14 * i] for i in range(kinds[14][0][4])}
         assert {16, 32, 48, 0} <= sizes, f"{program.name}: icons of {sizes} pixels; 0 is 256"
         told = kinds[16][0].decode("utf-16-le", "replace")
-        for wanted in ("Orvinel", "The Orvinel authors", version):
+        for wanted in ("Orvinel", "The Orvinel authors", NEW):
             assert f"\0{wanted}\0" in told, f"{program.name} does not tell {wanted}"
         manifest = kinds[24][0].decode()
         for wanted in (r"longPathAware\b[^>]*>true<", r"dpiAware\b[^>]*>true", 'level="asInvoker"',

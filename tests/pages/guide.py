@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""guide.py WRITE-GUIDE WRITE-HISTORY: writes the pages that are delivered and follows every link in them; or
+"""guide.py WRITE-GUIDE: writes the pages that are delivered and follows every link in them; or
 guide.py FOLDER: follows those of the pages that lie there."""
 
 import html.parser
@@ -67,13 +67,12 @@ def translated(folder, pages, language, name):
         yield f"{language}/{name}.html: other chapters, entries or pictures than the English page"
 
 
-def main(first, history=None):
-    if not history:
+def main(first):
+    if pathlib.Path(first).is_dir():
         return report(faults(pathlib.Path(first).resolve()))
     if not shutil.which("cmark-gfm"):
         print("cmark-gfm is not installed: left out")
         return SKIPPED
-    subprocess.run([history, "--check"], check=True)
     with tempfile.TemporaryDirectory() as work:
         folder = pathlib.Path(work).resolve() / "Guide"
         subprocess.run([first, folder], check=True)

@@ -29,7 +29,7 @@ constexpr Colour pureBlue = 0xFF0000;
 constexpr Colour white = 0xFFFFFF;
 
 QString titleText() {
-    return u"Orvinel v4.0.0    "_s + byLine();
+    return u"Orvinel v%1    "_s.arg(programVersion()) + byLine();
 }
 
 // Turns MenuReady off for a while; whatever happens it ends as it was.
