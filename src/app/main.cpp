@@ -29,6 +29,16 @@ bool startRepair(const QString& folder, const orvinel::FileDisk& disk, orvinel::
     return false;
 }
 
+// A system that runs a program lets nobody remove it: what took an update back goes at a later start.
+void removeRepairer(const QString& folder, orvinel::FileDisk& disk) {
+    const QString updater = orvinel::repairingUpdater(folder);
+    if (disk.length(updater) < 1 || disk.remove(updater))
+        return;
+    for (const QString& emptied : {folder + u"Update.tmp/repair"_s, folder + u"Update.tmp"_s})
+        if (!disk.list(emptied).empty() || disk.removeFolder(emptied))
+            return;
+}
+
 } // namespace
 
 int main(int, char** argv) {
@@ -57,6 +67,8 @@ int main(int, char** argv) {
         if (startRepair(folder, disk, desktop))
             return 0;
         instance.emplace(folder);
+    } else {
+        removeRepairer(folder, disk);
     }
     orvinel::Program program(folder, disk, desktop, [](int code) { QCoreApplication::exit(code); });
     if (!program.Main())

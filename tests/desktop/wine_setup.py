@@ -5,14 +5,11 @@ PROGRAM lies in the folder that packaging/windows/build has made; a version that
 folder. Exit code 77: Wine, the folder or a tool is missing.
 """
 
-import functools
-import hashlib
 import pathlib
 import re
 import shutil
 import subprocess
 import sys
-import tempfile
 import time
 import zipfile
 
@@ -20,9 +17,8 @@ import journeys
 import wine
 from journeys import PROGRAM, Player, content, crlf, options, write_note
 from screen import Running, click, keys, pixels, until
+from wine_packages import NAME, NEW, OLD, everything, resources, setup, windows_path
 
-PACKAGING = pathlib.Path(__file__).resolve().parents[2] / "packaging"
-NAME = "Campaign.03.Sunhollow"
 MENU = "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Orvinel"
 LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Orvinel"
 REFUSED = 2
@@ -42,51 +38,7 @@ int main(int count, char** words) {
 """
 
 
-# Packages
-
-
-def new_package(folder):
-    """A part of the world is enough."""
-    shutil.copytree(PROGRAM.parent, folder, ignore=shutil.ignore_patterns("Campaign.01*", "Campaign.02*", "Installed.txt"))
-
-
-def old_package(folder):
-    new_package(folder)
-    (folder / "Data/History.txt").write_text("the old one")
-    for path in (folder / "Data/Language.txt", *folder.glob("Data/Languages/*.txt")):
-        path.write_bytes(path.read_bytes() + crlf("201\tOld"))
-    for path in (folder / NAME / "Zones.txt", *folder.glob(f"Data/Worlds/*/{NAME}/*.txt")):
-        path.write_bytes(path.read_bytes() + crlf("; old"))
-    for path in folder.glob("Campaign.04.*/**/*.jpg"):  # enough to be in the middle of
-        path.write_bytes(path.read_bytes() + b"old")
-    (folder / "licences/Former.txt").write_text("of a library that is used no more")
-    (folder / "Campaign.02.Former").mkdir()
-    (folder / "Campaign.02.Former/Regions.txt").write_bytes(crlf("1\tGone"))
-
-
-@functools.cache
-def setup(version):
-    """The setup of the version, and the sums of what it brings."""
-    made = pathlib.Path(tempfile.mkdtemp(dir=wine.PREFIX))
-    folder = made / "Orvinel"
-    (old_package if version == "3.9.0" else new_package)(folder)
-    subprocess.run([PACKAGING / "list-installed", folder, version], check=True)
-    output = made / f"Orvinel-{version}-setup.exe"
-    subprocess.run([PACKAGING / "windows/make-setup", folder, output, "-DQUICK"], check=True)
-    sums = everything(folder)
-    shutil.rmtree(folder)
-    return output, sums
-
-
-VERSION = PROGRAM.parent / "Data/Version.txt"
-OLD, NEW = "3.9.0", VERSION.read_text().strip() if VERSION.exists() else ""
-
-
 # What a player does
-
-
-def windows_path(folder):
-    return "Z:" + str(folder).replace("/", "\\")
 
 
 def start_setup(version, folder):
@@ -118,11 +70,6 @@ def menu():
     return sorted(path.stem for path in (users[0] / MENU).iterdir()) if users else []
 
 
-def everything(folder):
-    return {str(path.relative_to(folder)): hashlib.sha256(path.read_bytes()).hexdigest()
-            for path in folder.rglob("*") if path.is_file()}
-
-
 def holds_version(version, folder, but=()):
     """All that the version brings is there, and nothing of another; `but`: the files that are the player's."""
     there = everything(folder)
@@ -144,29 +91,6 @@ def boxes():
 def with_personal(folder):
     (folder / "Personal").mkdir()
     (folder / "Personal/Notes.txt").write_bytes(NOTE)
-
-
-def resources(program):
-    """What the system reads of a program without starting it: number of the kind -> the contents."""
-    data = program.read_bytes()
-    header = int.from_bytes(data[0x3C:0x40], "little")
-    number = lambda at, size=4: int.from_bytes(data[at:at + size], "little")
-    first = header + 24 + number(header + 20, 2)
-    sections = [first + 40 * i for i in range(number(header + 6, 2))]
-    start = next(at for at in sections if data[at:at + 8].rstrip(b"\0") == b".rsrc")
-    address, base = number(start + 12), number(start + 20)
-
-    def leaves(at):
-        for i in range(number(at + 12, 2) + number(at + 14, 2)):
-            child = number(at + 16 + 8 * i + 4)
-            if child & 0x80000000:
-                yield from leaves(base + (child & 0x7FFFFFFF))
-            else:
-                where = base + number(base + child) - address
-                yield data[where:where + number(base + child + 4)]
-
-    kinds = range(number(base + 12, 2), number(base + 12, 2) + number(base + 14, 2))
-    return {number(base + 16 + 8 * i): list(leaves(base + (number(base + 16 + 8 * i + 4) & 0x7FFFFFFF))) for i in kinds}
 
 
 # Errands
