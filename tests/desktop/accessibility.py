@@ -14,6 +14,7 @@ import subprocess
 import sys
 
 import journeys
+import updater
 from journeys import BOSS, EMPTY, Player, in_marsh, make_world
 from screen import click, hover, keys, type_text, until
 
@@ -26,9 +27,9 @@ PAGES = ["Elites", "Collectors", "Greens", "Notes", "Various"]
 class Tree:
     """The program as AT-SPI shows it at one moment."""
 
-    def __init__(self):
+    def __init__(self, program="orvinel", windows=2):
         self.nodes = []
-        self._walk(until("the program on the accessibility bus", application))
+        self._walk(until("the program on the accessibility bus", lambda: application(program, windows)))
 
     def _walk(self, node):
         self.nodes.append(node)
@@ -51,10 +52,10 @@ class Tree:
         return any(text in n.name + "\n" + n.description for n in self.nodes if has(n, "SHOWING"))
 
 
-def application():
+def application(program, windows):
     import pyatspi
     for found in pyatspi.Registry.getDesktop(0):
-        if found is not None and found.name == "orvinel" and found.childCount >= 2:
+        if found is not None and found.name == program and found.childCount >= windows:
             return found
     return None
 
@@ -83,11 +84,11 @@ def nothing_is_nameless(tree):
     assert not nameless, "without a name: " + "; ".join(nameless)
 
 
-def becomes(what, look):
+def becomes(what, look, *of):
     """What look() says of a fresh tree, as soon as it is true."""
     def fresh():
         try:
-            return look(Tree())
+            return look(Tree(*of))
         except RuntimeError:  # the program was just changing what is read
             return False
     return until(what, fresh)
@@ -247,6 +248,47 @@ def dialogs(folder):
         nothing_is_nameless(Tree())
 
 
+UPDATER = ("update.exe", 1)
+
+
+def buttons(tree):
+    """Those that show, and whether they can be pressed."""
+    return {n.name: has(n, "ENABLED") for n in tree.having("push button") if has(n, "SHOWING")}
+
+
+def bars(tree):
+    return [n for n in tree.having("progress bar") if has(n, "SHOWING")]
+
+
+def told(tree):
+    return [n.name for n in tree.having("label") if has(n, "SHOWING")]
+
+
+def update_window(folder):
+    """What the updater asks, does and has kept, in each of its states."""
+    home = updater.version(folder / "Orvinel", updater.OLD)
+    archive = updater.package(folder / "Downloads", updater.NEW)
+    (home / "Campaign.03.Sunhollow/Zones.txt").write_bytes(b"mine")
+    with updater.at_home(folder), updater.nothing_left(folder), Player(home) as player, updater.start(home) as window:
+        tree = becomes("what it asks", lambda t: any("Choose the package" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert tree.one("text", "Package of Orvinel").queryText().getText(0, -1) == str(archive)
+        assert buttons(tree) == {"Browse...": True, "Start Orvinel": True, "Update": True, "Quit": True}, buttons(tree)
+        assert not bars(tree)
+        window.begin()
+        tree = becomes("that it waits", lambda t: any("still running" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert buttons(tree) == {"Browse...": False, "Start Orvinel": False, "Update": False, "Cancel": True}, buttons(tree)
+        assert [(n.name, n.queryValue().currentValue > 0) for n in bars(tree)] == [(updater.TITLE, True)], bars(tree)
+        player.process.kill()
+        tree = becomes("what was kept", lambda t: any("\nCampaign.03.Sunhollow" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert any(f"Version {updater.NEW} is installed." in text for text in told(tree)), told(tree)
+        assert buttons(tree) == {"Start Orvinel": True, "Quit": True} and not bars(tree), buttons(tree)
+        assert has(tree.one("push button", "Start Orvinel"), "FOCUSED")
+        keys("Escape")
+
+
 def on_the_bus():
     """Runs this script again with a session bus and an accessibility bus of its own."""
     launcher = next((path for path in LAUNCHERS if pathlib.Path(path).exists()), None)
@@ -264,7 +306,7 @@ def main():
     if "ORVINEL_BUS" not in os.environ:
         return on_the_bus()
     errands = [panel, open_menus, menus_of_the_map, lists_and_their_rows, map_and_its_windows,
-               legend_and_drawn_windows, dialogs]
+               legend_and_drawn_windows, dialogs, update_window]
     if "ORVINEL_JOURNEYS" not in os.environ:
         return journeys.main(__file__, errands)
     bus = subprocess.Popen([os.environ["ORVINEL_BUS"], "--launch-immediately"])

@@ -33,9 +33,29 @@ def shipped(folder):
         player.quit()
 
 
-# Wine itself could not live with a limit to the size of files, and hands documents to programs of its own.
-ELSEWHERE = [journeys.cannot_write, journeys.shell]
-ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE)]
+def ends_with_the_session(folder):
+    """A logout: what was chosen is remembered, and nothing is asked."""
+    journeys.make_world(folder)
+    written = {}
+    for name in "quit", "logged out":
+        (folder / "Data/Options.txt").unlink(missing_ok=True)
+        with Player(folder) as player:
+            player.choose(journeys.CAMPAIGN, 2)
+            player.choose(journeys.REGION, 1)
+            player.ready()
+            if name == "quit":
+                player.quit()
+            else:
+                subprocess.run(["wineboot", "--end-session"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                player.end()
+        written[name] = journeys.content(folder / "Data/Options.txt")
+    assert written["quit"] and written["quit"] == written["logged out"], written
+
+
+# Wine itself could not live with a limit to the size of files, and hands documents to programs of its own. Signals that end a
+# program, and systems without a display, are not Windows' ways.
+ELSEWHERE = [journeys.cannot_write, journeys.shell, journeys.ends_by_signal, journeys.no_display]
+ERRANDS = [shipped, ends_with_the_session, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE)]
 
 
 def main(script, errands):
