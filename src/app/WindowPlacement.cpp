@@ -3,6 +3,7 @@
 #include "base/Desktop.h"
 
 #include <cmath>
+#include <cstdlib>
 
 namespace orvinel {
 
@@ -35,6 +36,16 @@ std::optional<WindowPair> rememberedPair(const Options& options, const QRect& wo
     const QRect panel(pixelsOf(options.PosX), pixelsOf(options.PosY), panelWidth, shrunk(workArea).height());
     const QSize map = QSize(pixelsOf(options.DimX), pixelsOf(options.DimY)).boundedTo(screens);
     return WindowPair{panel, QRect(QPoint(panel.left() + panelWidth, panel.top()), map)};
+}
+
+bool isTiled(int shownWidth, int panelWidth) {
+    return std::abs(shownWidth - panelWidth) > panelWidth / 4;
+}
+
+bool isLeftCovered(const WindowPair& before, const WindowPair& after) {
+    const QRect covered = after.panel & after.map;
+    return before.panel.topLeft() == after.panel.topLeft() && before.map.topLeft() == after.map.topLeft() &&
+           2 * covered.width() > after.panel.width() && 2 * covered.height() > after.panel.height();
 }
 
 int pixelsOf(int twips) {

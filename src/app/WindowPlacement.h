@@ -25,6 +25,12 @@ WindowPair maximisedPair(const QRect& workArea, int panelWidth, bool inset);
 std::optional<WindowPair> rememberedPair(const Options& options, const QRect& workArea, QSize screens,
                                          int panelWidth);
 
+// What tells, when it lasts, that a window manager does not let windows be placed. It made the panel a width
+// that no window manager makes it that heeds what a window asks for:
+bool isTiled(int shownWidth, int panelWidth);
+// It moved neither, and the map covers most of the panel:
+bool isLeftCovered(const WindowPair& before, const WindowPair& after);
+
 // Whole pixels, rounded.
 int pixelsOf(int twips);
 int twipsOf(int pixels);

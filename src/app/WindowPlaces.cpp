@@ -13,6 +13,10 @@ namespace {
 
 // A window manager has answered by then, and the screen has shown what it made of it.
 constexpr int answerMs = 100;
+// So often it is seen, one look after the other, that a window manager gives the panel another width, or
+// leaves it covered. The first is the whole answer of one that tiles; the second may be one that is slow.
+constexpr int tiledLooks = 2;
+constexpr int coveredLooks = 20;
 
 } // namespace
 
@@ -53,6 +57,8 @@ void WindowPlaces::place(const WindowPair& pair) {
 }
 
 void WindowPlaces::ToggleMapMaximised() {
+    if (left_)
+        return;
     const bool inset = MapMaximised;
     // Off while the windows move, so that the map is not taken along by the panel.
     MapMaximised = true;
@@ -61,13 +67,15 @@ void WindowPlaces::ToggleMapMaximised() {
 }
 
 void WindowPlaces::attachMap() {
-    if (MapMaximised)
+    if (left_ || MapMaximised)
         return;
     windows_.map.move(windows_.panel.x() + windows_.panel.width(), windows_.panel.y());
     settling_.start();
 }
 
 void WindowPlaces::attachShownMap() {
+    if (left_)
+        return;
     if (!appearing_)
         appearing_ = windows_.panel.pos();
     QTimer::singleShot(answerMs, this, &WindowPlaces::endAppearing);
@@ -89,9 +97,14 @@ void WindowPlaces::settle() {
         return;
     const QRect panel = shownPlace(windows_.panel);
     const QRect map = shownPlace(windows_.map);
+    if (refused(panel.width())) {
+        leavePair();
+        return unplaceable();
+    }
     const QPoint beside(panel.width(), 0);
     if (map.topLeft() == panel.topLeft() + beside) {
         asked_.reset();
+        wereBeside_ = wereBeside_ || covered_ == 0;
         return;
     }
     const QPoint to(std::min(panel.left(), map.left() - panel.width()), std::min(panel.top(), map.top()));
@@ -106,6 +119,24 @@ void WindowPlaces::settle() {
     settling_.start();
 }
 
+bool WindowPlaces::refused(int panelShown) {
+    tiled_ = isTiled(panelShown, panelWidth()) ? tiled_ + 1 : 0;
+    if (tiled_ == tiledLooks || wereBeside_)
+        return tiled_ == tiledLooks;
+    const WindowPair now{placeOnServer(windows_.panel), placeOnServer(windows_.map)};
+    covered_ = isLeftCovered(before_.value_or(now), now) ? covered_ + 1 : 0;
+    before_ = now;
+    if (covered_ > 0)
+        settling_.start();
+    return covered_ == coveredLooks;
+}
+
+void WindowPlaces::leavePair() {
+    settling_.stop();
+    left_ = true;
+    MapMaximised = false;
+}
+
 int WindowPlaces::panelWidth() const {
     return windows_.panel.maximumWidth();
 }
@@ -115,7 +146,7 @@ WindowPair WindowPlaces::wanted() const {
 }
 
 void WindowPlaces::rememberPair() {
-    if (restored_ && *restored_ == wanted())
+    if (left_ || (restored_ && *restored_ == wanted()))
         return;
     const QPoint at = shownPlace(windows_.panel).topLeft();
     options_.PosX = MapMaximised ? -1 : twipsOf(at.x());
@@ -125,7 +156,8 @@ void WindowPlaces::rememberPair() {
 }
 
 QPoint WindowPlaces::legendCorner() const {
-    return {windows_.map.x(), windows_.map.y() + windows_.map.height() - windows_.legend.height()};
+    const QPoint map = windows_.map.isWindow() ? windows_.map.pos() : windows_.map.mapToGlobal(QPoint(0, 0));
+    return {map.x(), map.y() + windows_.map.height() - windows_.legend.height()};
 }
 
 void WindowPlaces::placeLegend() {
@@ -140,7 +172,7 @@ void WindowPlaces::placeLegend() {
 }
 
 void WindowPlaces::rememberLegend() {
-    if (legendInstead_ == windows_.legend.pos())
+    if (!windowsCanBePlaced() || legendInstead_ == windows_.legend.pos())
         return;
     options_.LegendX = twipsOf(windows_.legend.x());
     options_.LegendY = twipsOf(windows_.legend.y());

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace orvinel {
@@ -26,6 +27,11 @@ class WindowPlaces : public QObject {
 
     // The pair fills the whole work area.
     bool MapMaximised = false;
+
+    // Called once when the window manager does not let panel and map be placed.
+    std::function<void()> unplaceable = [] {};
+    // Panel and map are placed by others from here on; what the options remember of them stays as it is.
+    void leavePair();
 
     // At the start, before the windows are shown.
     void RestoreWindowPlacement();
@@ -52,6 +58,8 @@ class WindowPlaces : public QObject {
     WindowPair wanted() const;
     // Looks where the windows really are, and puts them side by side.
     void settle();
+    // The window manager has not done what no other one refuses.
+    bool refused(int panelShown);
     // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
     // corner.
     QPoint legendCorner() const;
@@ -64,6 +72,13 @@ class WindowPlaces : public QObject {
     std::optional<QPoint> appearing_;
     // What settling asked for last; a window manager that grants it no more than once is left alone.
     std::optional<QPoint> asked_;
+    // What was seen at the last look, until they have stood side by side once: a window manager that has done
+    // that places windows.
+    std::optional<WindowPair> before_;
+    bool wereBeside_ = false;
+    int tiled_ = 0;   // looks in a row at a panel of another width than its own
+    int covered_ = 0; // looks in a row at a panel that lies below the map
+    bool left_ = false;
     // Where the windows were put at start instead of a remembered place that no screen shows; while they
     // stand there, that place is written back unchanged.
     std::optional<WindowPair> restored_;

@@ -122,7 +122,10 @@ void Program::wireMap() {
     connect(map_, &frmMap::maximiseWanted, places_.get(), &WindowPlaces::ToggleMapMaximised);
     connect(map_, &frmMap::minimiseWanted, this, [this] {
         popupMenu_->hide();
-        taskBar_->minimise();
+        if (joined_)
+            joined_->minimise();
+        else
+            taskBar_->minimise();
     });
     connect(map_, &frmMap::regionMenuWanted, this, [this](QPoint at) { mapMenus_->openRegionMenu(at); });
     connect(&layers_->notes, &NotesView::menuWanted, this,
@@ -136,6 +139,11 @@ void Program::showWindows() {
     // The keyboard is the panel's, in whatever order the window manager gets to see the windows.
     for (QWidget* window : std::initializer_list<QWidget*>{map_, legend_, taskBar_.get()})
         window->setAttribute(Qt::WA_ShowWithoutActivating);
+    if (!windowsCanBePlaced()) {
+        joinWindows();
+        return applyAlwaysOnTop();
+    }
+    places_->unplaceable = [this] { QTimer::singleShot(0, this, &Program::joinWindows); };
     places_->RestoreWindowPlacement();
     places_->restoreLegend();
     panel_->show();
@@ -145,6 +153,24 @@ void Program::showWindows() {
     applyAlwaysOnTop();
     desktop_.processPendingEvents();
     taskBar_->showOutside(desktop_.allScreens());
+}
+
+void Program::joinWindows() {
+    places_->leavePair();
+    taskBar_.reset();
+    legend_->hide();
+    joined_ = std::make_unique<OneWindow>(*panel_, *map_);
+    connect(joined_.get(), &OneWindow::quitWanted, this, &Program::QuitProgram);
+    connect(map_, &frmMap::maximiseWanted, joined_.get(), &OneWindow::toggleMaximised);
+    const Options& options = state_.AppOptions;
+    const QSize map(pixelsOf(options.DimX), pixelsOf(options.DimY));
+    const bool remembered = options.PosX != -1 && map.isValid();
+    joined_->appear(remembered ? QSize(panel_->maximumWidth() + map.width(), map.height()) : QSize());
+    // The legend stands in the map's corner, which is known when the system has answered.
+    QTimer::singleShot(screenFirstMs, legend_, [this] {
+        places_->restoreLegend();
+        legend_->setVisible(panel_->MenuLegendShown == 1);
+    });
 }
 
 void Program::OpenWithShell(const QString& target) {
@@ -198,7 +224,7 @@ void Program::QuitProgram() {
 }
 
 void Program::SaveUnasked() {
-    if (ended_ || !taskBar_) // before the windows stand there is nothing new to remember
+    if (ended_ || !(taskBar_ || joined_)) // before the windows stand there is nothing new to remember
         return;
     gatherOptions();
     files_.save(optionsPath(state_), optionsFile(state_.AppOptions));

@@ -14,6 +14,7 @@
 #include "ui/panel/WindowKeys.h"
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
+#include "ui/platform/OneWindow.h"
 
 #include <QPointer>
 
@@ -53,6 +54,9 @@ class Program : public QObject {
     frmMenu& panel() { return *panel_; }
     frmMap& map() { return *map_; }
     WindowPlaces& places() { return *places_; }
+    // Makes panel and map one window, where the desktop does not let them be placed; for good.
+    void joinWindows();
+    OneWindow* joined() { return joined_.get(); } // nullptr: they are two
 
   private:
     bool start();
@@ -104,12 +108,13 @@ class Program : public QObject {
     frmLegenda* legend_ = nullptr;
     frmPopupMenu* popupMenu_ = nullptr;
     std::unique_ptr<WindowPlaces> places_;
-    std::unique_ptr<frmFAKE> taskBar_;
+    std::unique_ptr<frmFAKE> taskBar_; // while panel and map are two windows
     std::unique_ptr<ProgramLayers> layers_;
     std::unique_ptr<MapMenus> mapMenus_;
     std::unique_ptr<Flashing> flashing_;
     std::unique_ptr<WindowKeys> keys_;
     QPointer<frmMarkEliteAsCaptured> capture_; // while it is open
+    std::unique_ptr<OneWindow> joined_;        // gives panel and map back when it ends
 };
 
 } // namespace orvinel

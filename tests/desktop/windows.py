@@ -6,14 +6,16 @@ Exit code 77: a tool is missing here.
 
 import ctypes
 import os
+import pathlib
 import re
 import shutil
 import sys
+import tempfile
 import time
 
 import journeys
 from journeys import Player, in_marsh, make_world
-from screen import Running, click, has_focus, hover, keys, run, until, windows
+from screen import Running, click, colour, drag, has_focus, hover, keys, near, run, see, until, windows
 
 MANAGERS = ["openbox", "xfwm4", "kwin_x11", "marco"]
 MINIMISING = ["openbox"]  # they minimise any window that they are asked to
@@ -177,23 +179,58 @@ def unmanaged(folder):
         player.quit()
 
 
-def tiled(folder):
-    """Where windows are tiled and none is minimised, they stay, and the map keeps a width that can be used."""
+class OneWindow(Running):
+    """The program where panel and map are parts of one window."""
+
+    def __enter__(self):
+        def look():
+            found = self.shown()
+            return len(found) == 1 and found[0].width > journeys.PANEL_WIDTH and found
+        steady("one window for panel and map", look)
+        self.whole, = self.shown()
+        return self
+
+    def shown(self):
+        return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
+
+    def place(self):
+        return [(w.number, w.x, w.y, w.width, w.height) for w in self.shown()]
+
+    def view(self, point):
+        """A place of the map's view on the screen."""
+        return self.whole.x + journeys.PANEL_WIDTH + 2 + point[0], self.whole.y + 2 + point[1]
+
+    def press_button(self, from_right):
+        self.whole.click(self.whole.width - from_right, 10)
+
+
+def one_window(folder):
+    """Where the window manager tiles, panel and map are one window, in which all of the program can be used."""
     make_world(folder)
-    with Running(folder) as player:
-        def main_windows():
-            return sorted((w for w in windows(player.process.pid) if w.title == "Orvinel"), key=lambda w: w.width)
-
-        def rest():
-            steady("panel and map", lambda: len(main_windows()) == 2)
-            return main_windows()[0]  # the map: the panel is as wide as the screen
-
-        before = rest()
-        before.click(before.width - MINIMISE, 10)
-        for smaller in False, True, False:
-            after = rest()
-            assert after.width > MONITOR and (after.width < before.width - 100) == smaller, f"{after.width} of {before.width}"
-            after.click(after.width - MAXIMISE, 10)
+    journeys.options(folder, Campaign=2, Region=1, PosX=1500, PosY=1500, DimX=9000, DimY=6000)
+    for _ in range(2):
+        with OneWindow(folder) as player:
+            assert player.whole.width > MONITOR, "the room is not used"
+            see("the region beside the panel", *player.view((100, 100)), journeys.GROUND)
+            see("the panel's title", player.whole.x + 150, player.whole.y + 3, (0, 0, 255))
+            stood = player.place()
+            for button in (MINIMISE, MAXIMISE, MAXIMISE):
+                player.press_button(button)
+                steady("the window as it was", lambda: player.place() == stood)
+            drag((player.whole.x + 150, player.whole.y + 8), (player.whole.x + 400, player.whole.y + 300))
+            steady("the parts where they were", lambda: near(colour(*player.view((100, 100))), journeys.GROUND))
+            menu = player.popup(lambda: keys("F10"))
+            assert menu.x < player.whole.x + journeys.PANEL_WIDTH, "the menu is not at the panel"
+            keys("Escape")
+            player.gone(menu)
+            click(*player.view(journeys.BOSS), times=2)
+            dialog = player.dialog("Elite: Night Step")
+            keys("Escape")
+            player.gone(dialog)
+            player.whole.click(*journeys.QUIT)
+            assert player.end() == 0
+        kept = (folder / "Data/Options.txt").read_text()
+        assert all(f"{line}\n" in kept for line in ("PosX=1500", "PosY=1500", "DimX=9000", "DimY=6000")), kept
 
 
 def always_on_top(folder):
@@ -378,7 +415,7 @@ def hasty_click(folder):
 
 ERRANDS = [task_bar, calm_start, comes_back, goes_along, always_on_top, second_monitor, below_the_bar, lower_edge,
            dragged_past_the_edge, hasty_click]
-SPECIAL = {"none": [unmanaged], "i3": [tiled]}
+SPECIAL = {"none": [unmanaged], "i3": [one_window]}
 
 
 def main():
@@ -393,8 +430,12 @@ def main():
     results = []
     for manager in [*filter(shutil.which, [*MANAGERS, "i3"]), "none"]:
         print(f"under {manager}", flush=True)
-        os.environ.update(ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{2 * MONITOR}x900")
-        results.append(journeys.main(__file__, ERRANDS))
+        with tempfile.TemporaryDirectory() as settings:
+            i3 = pathlib.Path(settings) / "i3/config"  # without one it asks at its start
+            i3.parent.mkdir()
+            i3.write_text("# i3 config file (v4)\n")
+            os.environ.update(XDG_CONFIG_HOME=settings, ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{2 * MONITOR}x900")
+            results.append(journeys.main(__file__, ERRANDS))
     return next((code for code in results if code), 0)
 
 

@@ -5,6 +5,7 @@
 #include "ui/platform/ListBox.h"
 
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -118,6 +119,65 @@ TEST_F(ProgramTest, theMapFollowsThePanelUnlessTheyFillTheScreen) {
     program->places().ToggleMapMaximised();
     program->panel().move(30, 40);
     EXPECT_EQ(QPoint(247, 40), program->map().pos());
+}
+
+struct OneWindowTest : ProgramTest {
+    OneWindow* joined() {
+        disk.put(u"/o/Data/Options.txt"_s, "PosX=1500\r\nPosY=300\r\nDimX=9000\r\nDimY=7500\r\nLegend=0\r\n");
+        if (start())
+            program->joinWindows();
+        QCoreApplication::processEvents();
+        return program->joined();
+    }
+    QRect partPlace(const QWidget& part) {
+        return {part.mapTo(program->joined(), QPoint(0, 0)), part.size()};
+    }
+};
+
+TEST_F(OneWindowTest, thePanelKeepsItsWidthAndTheMapHasTheRest) {
+    OneWindow* window = joined();
+    ASSERT_TRUE(window);
+    EXPECT_EQ(QSize(817, 500), window->size());
+    for (const QSize size : {QSize(817, 500), QSize(1500, 900), window->minimumSize()}) {
+        window->resize(size);
+        EXPECT_EQ(QRect(0, 0, 217, size.height()), partPlace(program->panel()));
+        EXPECT_EQ(QRect(217, 0, size.width() - 217, size.height()), partPlace(program->map()));
+    }
+    // Neither a press on the panel's background nor what places windows elsewhere moves a part.
+    QTest::mousePress(&program->panel(), Qt::LeftButton, {}, {100, 8});
+    QTest::mouseMove(&program->panel(), {160, 80});
+    QTest::mouseRelease(&program->panel(), Qt::LeftButton, {}, {160, 80});
+    program->places().attachMap();
+    program->places().ToggleMapMaximised();
+    EXPECT_EQ(QPoint(0, 0), program->panel().pos());
+    EXPECT_EQ(QPoint(217, 0), program->map().pos());
+}
+
+TEST_F(OneWindowTest, theMapsButtonsActOnItAndTheRememberedPlaceStays) {
+    OneWindow* window = joined();
+    ASSERT_TRUE(window);
+    emit program->map().maximiseWanted();
+    EXPECT_TRUE(window->isMaximized());
+    emit program->map().maximiseWanted();
+    EXPECT_FALSE(window->isMaximized());
+    emit program->map().minimiseWanted();
+    EXPECT_TRUE(window->isMinimized());
+    EXPECT_TRUE(program->panel().isVisible());
+    window->showNormal();
+    window->resize(1500, 900);
+    window->close();
+    EXPECT_EQ(0, exitCode);
+    EXPECT_EQ((QStringList{u"1500"_s, u"300"_s, u"9000"_s, u"7500"_s}),
+              (QStringList{option("PosX"), option("PosY"), option("DimX"), option("DimY")}));
+}
+
+TEST_F(OneWindowTest, f6GoesOnBetweenItsParts) {
+    OneWindow* window = joined();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    EXPECT_TRUE(program->panel().isAncestorOf(window->focusWidget()));
+    QTest::keyClick(window->focusWidget(), Qt::Key_F6);
+    EXPECT_EQ(&program->map().picMap(), window->focusWidget());
 }
 
 TEST_F(ProgramTest, failingToSaveTheOptionsIsToldAndTheProgramStaysIfThePlayerWants) {

@@ -8,6 +8,21 @@
 
 namespace orvinel {
 
+namespace {
+
+// To where it was last in a part of a window, or to the first that takes it.
+void giveFocus(QWidget& part) {
+    QWidget* target = part.focusWidget();
+    for (QWidget* next = &part; !target; next = next->nextInFocusChain())
+        if (part.isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus)
+            target = next;
+        else if (next->nextInFocusChain() == &part)
+            return;
+    target->setFocus();
+}
+
+} // namespace
+
 WindowKeys::WindowKeys(std::vector<QWidget*> windows) : windows_(std::move(windows)) {
     // The controls would take Alt and Ctrl+Tab before their window hears of them.
     qApp->installEventFilter(this);
@@ -21,8 +36,8 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return false;
     const auto* control = qobject_cast<QWidget*>(watched);
-    QWidget* window = control ? control->window() : nullptr;
-    if (std::find(windows_.begin(), windows_.end(), window) == windows_.end())
+    QWidget* window = control ? windowOf(*control) : nullptr;
+    if (!window)
         return false;
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::KeyPress)
@@ -31,6 +46,16 @@ bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
         return false;
     emit menuBarWanted();
     return true;
+}
+
+QWidget* WindowKeys::windowOf(const QWidget& control) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(), [&](const QWidget* window) {
+        return window == &control || window->isAncestorOf(&control);
+    });
+    if (found != windows_.end())
+        return *found;
+    // What a window hears without a control that has the focus.
+    return control.isWindow() && windows_.front()->window() == &control ? windows_.front() : nullptr;
 }
 
 bool WindowKeys::press(const QKeyEvent& key, QWidget* window) {
@@ -71,7 +96,10 @@ void WindowKeys::goOn(QWidget* from, int step) {
     do
         at = (at + step + count) % count;
     while (!windows_[static_cast<size_t>(at)]->isVisible());
-    windows_[static_cast<size_t>(at)]->activateWindow();
+    QWidget& window = *windows_[static_cast<size_t>(at)];
+    window.activateWindow();
+    if (!window.isWindow())
+        giveFocus(window);
 }
 
 } // namespace orvinel

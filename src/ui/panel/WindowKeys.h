@@ -16,7 +16,8 @@ namespace orvinel {
 class WindowKeys : public QObject {
     Q_OBJECT
   public:
-    // F6 goes round the windows in this order and passes over hidden ones. They outlive this.
+    // F6 goes round the windows in this order and passes over hidden ones; they may be parts of one window.
+    // They outlive this.
     explicit WindowKeys(std::vector<QWidget*> windows);
 
   signals:
@@ -31,6 +32,8 @@ class WindowKeys : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // The one that the control is or lies in; nullptr: none of them.
+    QWidget* windowOf(const QWidget& control) const;
     bool press(const QKeyEvent& key, QWidget* window);
     bool pressWithControl(int key);
     void goOn(QWidget* from, int step);

@@ -1,5 +1,7 @@
 #include "ui/platform/DialogPlace.h"
 
+#include "ui/platform/OneWindow.h"
+
 #include <QAbstractItemView>
 #include <QGuiApplication>
 #include <QScreen>
@@ -58,7 +60,7 @@ QPoint placeOver(QSize size, const QRect& owner, const QRect& panel, const QRect
 void moveBeside(QWidget& dialog, const QRect& asked) {
     if (!dialog.parentWidget() || !rootOf(dialog).isVisible())
         return;
-    const QRect panel = rootOf(dialog).frameGeometry();
+    const QRect panel = panelPlaceIn(rootOf(dialog));
     const QPoint beside(panel.right() + 1 + gap, asked.center().y());
     dialog.move(placeBeside(dialog.size() + usualFrame, asked, panel, screenWith(beside, asked.center())));
 }
@@ -67,7 +69,7 @@ void moveOver(QWidget& dialog) {
     if (!dialog.parentWidget() || !rootOf(dialog).isVisible())
         return;
     const QRect owner = dialog.parentWidget()->window()->frameGeometry();
-    const QRect panel = rootOf(dialog).frameGeometry();
+    const QRect panel = panelPlaceIn(rootOf(dialog));
     dialog.move(
         placeOver(dialog.size() + usualFrame, owner, panel, screenWith(owner.center(), panel.center())));
 }

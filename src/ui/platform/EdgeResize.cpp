@@ -46,7 +46,7 @@ bool EdgeResize::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(watched);
     const bool mouse = event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress ||
                        event->type() == QEvent::MouseButtonRelease;
-    if (!widget || !mouse)
+    if (!widget || !mouse || !window_.isWindow())
         return false;
     const auto* at = static_cast<QMouseEvent*>(event);
     const QPoint global = at->globalPosition().toPoint();

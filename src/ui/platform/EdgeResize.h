@@ -10,7 +10,7 @@ class QWidget;
 namespace orvinel {
 
 // Lets a window without a title bar be resized by its edges: by the window manager where there is one, else
-// by following the mouse. Child of the window.
+// by following the mouse. Child of the window. Does nothing while that is a part of another window.
 class EdgeResize : public QObject {
     Q_OBJECT
   public:

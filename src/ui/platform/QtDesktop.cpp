@@ -157,7 +157,8 @@ void QtDesktop::setHourglass(bool on) {
         QApplication::restoreOverrideCursor();
 }
 
-void QtDesktop::setAlwaysOnTop(QWidget& window, bool on) {
+void QtDesktop::setAlwaysOnTop(QWidget& widget, bool on) {
+    QWidget& window = *widget.window();
     // QWidget::setWindowFlag would hide and re-create the window.
     Qt::WindowFlags flags = window.windowFlags();
     flags.setFlag(Qt::WindowStaysOnTopHint, on);

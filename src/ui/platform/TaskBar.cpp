@@ -121,11 +121,27 @@ class AgainWhenSeen : public QObject {
 } // namespace
 
 void keepOffTaskBar(QWidget& window) {
+    if (!window.isWindow())
+        return;
     window.winId(); // makes the window that the system knows, if there is none yet
     QWindow* handle = window.windowHandle();
     if (!handle->isExposed())
         new AgainWhenSeen(handle);
     writeState(*handle);
+}
+
+QRect placeOnServer(const QWidget& window) {
+    xcb_connection_t* connection = x11Connection();
+    if (!connection || !window.windowHandle())
+        return shownPlace(window);
+    const auto id = static_cast<xcb_window_t>(window.windowHandle()->winId());
+    const auto size = xcb_get_geometry(connection, id);
+    const auto place = xcb_translate_coordinates(connection, id, rootOf(connection), 0, 0);
+    const std::unique_ptr<xcb_get_geometry_reply_t, Free> is(
+        xcb_get_geometry_reply(connection, size, nullptr));
+    const std::unique_ptr<xcb_translate_coordinates_reply_t, Free> at(
+        xcb_translate_coordinates_reply(connection, place, nullptr));
+    return is && at ? QRect(at->dst_x, at->dst_y, is->width, is->height) : shownPlace(window);
 }
 
 void wantNoAttention(const QWidget& window) {
@@ -186,7 +202,7 @@ void bringToScreen(QWidget& window) {
 
 void keepOffTaskBar(QWidget& window) {
     // A window with an owner has no button of its own.
-    if (window.parentWidget())
+    if (window.parentWidget() || !window.isWindow())
         return;
     const Qt::WindowFlags flags = (window.windowFlags() & ~Qt::WindowType_Mask) | Qt::Tool;
     window.overrideWindowFlags(flags);
@@ -202,6 +218,10 @@ void keepOffTaskBar(QWidget&) {
 #endif
 
 #ifndef ORVINEL_X11
+QRect placeOnServer(const QWidget& window) {
+    return shownPlace(window);
+}
+
 void wantNoAttention(const QWidget&) {
 }
 

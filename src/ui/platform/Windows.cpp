@@ -158,6 +158,10 @@ bool displayFound() {
     return QGuiApplication::platformName() != u"offscreen"_s || qgetenv("QT_QPA_PLATFORM") != windowSystems;
 }
 
+bool windowsCanBePlaced() {
+    return !QGuiApplication::platformName().startsWith(u"wayland"_s);
+}
+
 QCursor programCursor(Pointer pointer) {
     const int number = static_cast<int>(pointer);
     const QPoint at = hotSpot(number);
@@ -209,8 +213,9 @@ void moveShown(QWidget& window, QPoint to) {
 }
 
 void WindowDrag::press(QPoint global) {
-    QWindow* handle = window_.windowHandle();
-    following_ = !(systemDrags() && handle && handle->startSystemMove());
+    QWindow* handle = window_.window()->windowHandle();
+    const bool part = !window_.isWindow();
+    following_ = !((part || systemDrags()) && handle && handle->startSystemMove()) && !part;
     grip_ = global - shownPlace(window_).topLeft();
 }
 

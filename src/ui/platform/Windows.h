@@ -25,6 +25,10 @@ void chooseWindowSystem();
 // made.
 bool displayFound();
 
+// False: the system decides where windows are (Wayland). Window managers that place windows as they like are
+// known only by what they do.
+bool windowsCanBePlaced();
+
 // Light colours and the same widgets on every desktop, texts of the boxes in the player's language;
 // the program icon a moment later, since decoding its pictures takes longer than the windows' first paint.
 void applyAppearance(QApplication& application);
@@ -34,8 +38,8 @@ void applyAppearance(QApplication& application);
 bool systemDrags();
 
 // Moves a window without a title bar while the left button is held on its background: by the system where it
-// can, else by following the mouse. One per window; it calls for nothing but the window's
-// mouse events.
+// can, else by following the mouse. A part of another window takes that one along. One per window; it calls
+// for nothing but the window's mouse events.
 class WindowDrag {
   public:
     explicit WindowDrag(QWidget& window) : window_(window) {}
@@ -55,10 +59,14 @@ class WindowDrag {
 // Where a window is on the screen, pixels; where it is to appear while it is not there yet. A window manager
 // may have put it elsewhere than where QWidget::pos() says.
 QRect shownPlace(const QWidget& window);
+// The same as the display knows it, pixels of the display: some window managers do not tell a window where
+// they put it.
+QRect placeOnServer(const QWidget& window);
 // Moves it there, also when it believes to be there already.
 void moveShown(QWidget& window, QPoint to);
 
-// Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it.
+// Keeps a window off the task bar; to be called at each show. Nothing happens where the desktop cannot do it,
+// or while it is a part of another window.
 void keepOffTaskBar(QWidget& window);
 
 // The window's button on the task bar is to be calm: some desktops have it flash for a window that appears
