@@ -12,6 +12,7 @@ from journeys import PROGRAM, crlf
 
 PACKAGING = pathlib.Path(__file__).resolve().parents[2] / "packaging"
 NAME = "Campaign.03.Sunhollow"
+LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Orvinel"
 VERSION = PROGRAM.parent / "Data/Version.txt"
 OLD, NEW = "3.9.0", VERSION.read_text().strip() if VERSION.exists() else ""
 
@@ -54,6 +55,11 @@ def setup(version):
     sums = everything(folder)
     shutil.rmtree(folder)
     return output, sums
+
+
+def forget_setup():
+    """The list of programs knows of none; the setup asks for its language again."""
+    subprocess.run(["wine", "reg", "delete", LISTED, "/f"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 def everything(folder):

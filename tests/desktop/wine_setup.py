@@ -17,10 +17,9 @@ import journeys
 import wine
 from journeys import PROGRAM, Player, content, crlf, options, write_note
 from screen import Running, click, keys, pixels, until
-from wine_packages import NAME, NEW, OLD, everything, resources, setup, windows_path
+from wine_packages import LISTED, NAME, NEW, OLD, everything, forget_setup, resources, setup, windows_path
 
 MENU = "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Orvinel"
-LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Orvinel"
 REFUSED = 2
 NOTE = crlf("Well\tdeep\t100\t200\t3\t1")
 
@@ -231,7 +230,7 @@ def by_hand(folder):
     """The windows, in Italian; the program then speaks Italian too."""
     place = next((wine.PREFIX / "drive_c/users").glob("[!P]*")) / "AppData/Local/Programs/Orvinel"
     shutil.rmtree(place, ignore_errors=True)
-    subprocess.run(["wine", "reg", "delete", LISTED, "/f"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    forget_setup()
     Running.program, before = setup(NEW)[0], Running.program
     try:
         with Running(folder) as running:

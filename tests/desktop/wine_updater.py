@@ -7,13 +7,13 @@ PROGRAM lies in the folder that packaging/windows/build has made. Exit code 77: 
 
 import pathlib
 import shutil
-import subprocess
 import sys
+import time
 
 import wine
 from journeys import PROGRAM, QUIT, PANEL_WIDTH, Player, content, crlf, options
 from screen import Running, has_focus, keys, pixels, type_text, until, windows
-from wine_packages import NAME, NEW, OLD, everything, package, setup
+from wine_packages import NAME, NEW, OLD, everything, forget_setup, package, setup
 
 TITLE = "Update Orvinel"
 SLOW = 90  # seconds that an update may take on a busy machine
@@ -70,6 +70,11 @@ def home_of(folder, zipped=True):
 def is_new(home):
     under_way = [name for name in ("Update.tmp", "Setup.tmp") if (home / name).exists()]
     return content(home / "Data/Version.txt") == f"{NEW}\n".encode() and not under_way
+
+
+def window_of(program, title):
+    """That of a program that something else starts."""
+    return until(title, lambda: next((w for pid in processes(program) for w in windows(pid) if w.title == title), None), SLOW)
 
 
 def shows_progress(box):
@@ -145,8 +150,7 @@ def cut_off(folder):
             break
     assert (home / "Update.tmp/begun").exists(), "it was too late each time"
     with Running(home) as first:
-        box = until("what was taken back", lambda: next(
-            (w for pid in processes(home / "Update.tmp/repair/update.exe") for w in windows(pid) if w.title == TITLE), None), SLOW)
+        box = window_of(home / "Update.tmp/repair/update.exe", TITLE)
         until("the keyboard in the message", lambda: has_focus(box))
         after = everything(home)
         assert {path: s for path, s in after.items() if path in before} == before, "not as it was before"
@@ -163,16 +167,18 @@ def cut_off(folder):
 def by_setup(folder):
     """A setup as the package: the updater starts it for its folder and makes room."""
     home, _ = home_of(folder, zipped=False)
+    forget_setup()
     with Updater(home) as updater:
         updater.use(setup(NEW)[0])
         assert updater.end() == 0
-    def titled(name):
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name], capture_output=True, text=True)
-        return found.stdout.split()
-    until("the setup", lambda: titled("^Installer Language$"), SLOW)
+    language = window_of(setup(NEW)[0], "Installer Language")
+    until("the keyboard in it", lambda: has_focus(language))
     keys("Return")
-    until("its pages", lambda: titled("^Orvinel Setup"), SLOW)
-    until("the new version", lambda: is_new(home) or keys("Return"), SLOW)
+    box = window_of(setup(NEW)[0], "Orvinel Setup")
+    for _ in range(2):
+        box.click(box.width - 136, box.height - 22)
+        time.sleep(1)  # pages come without a sign
+    until("the new version", lambda: is_new(home), SLOW)
     assert content(home / "Personal/Notes.txt") == NOTE
     assert content(home / "update.exe") == content(PROGRAM.parent / "update.exe")
 
