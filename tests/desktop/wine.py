@@ -55,7 +55,7 @@ def ends_with_the_session(folder):
 # Wine itself could not live with a limit to the size of files, and hands documents to programs of its own. Signals that end a
 # program, and systems without a display, are not Windows' ways.
 ELSEWHERE = [journeys.cannot_write, journeys.shell, journeys.ends_by_signal, journeys.no_display]
-ERRANDS = [shipped, ends_with_the_session, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE)]
+ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE), ends_with_the_session]
 
 
 def main(script, errands):
@@ -74,10 +74,9 @@ def main(script, errands):
         return journeys.main(script, errands)
     PREFIX.mkdir(exist_ok=True)
     try:
-        if not (PREFIX / "system.reg").exists():
-            # Into no pipe: what it starts stays, and with it the pipe's other end.
-            subprocess.run(["wineboot", "--init"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         subprocess.run(["wineserver", "--persistent"])
+        # Into no pipe: the services that it starts stay, and with them the pipe's other end.
+        subprocess.run(["wineboot", "--init"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         return journeys.main(script, errands)
     finally:
         subprocess.run(["wineserver", "--kill"])
