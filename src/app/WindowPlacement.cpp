@@ -2,6 +2,7 @@
 
 #include "base/Desktop.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -42,10 +43,10 @@ bool isTiled(int shownWidth, int panelWidth) {
     return std::abs(shownWidth - panelWidth) > panelWidth / 4;
 }
 
-bool isLeftCovered(const WindowPair& before, const WindowPair& after) {
-    const QRect covered = after.panel & after.map;
+bool isLeftApart(const WindowPair& before, const WindowPair& after) {
+    const QPoint off = after.map.topLeft() - after.panel.topLeft() - QPoint(after.panel.width(), 0);
     return before.panel.topLeft() == after.panel.topLeft() && before.map.topLeft() == after.map.topLeft() &&
-           2 * covered.width() > after.panel.width() && 2 * covered.height() > after.panel.height();
+           2 * std::max(std::abs(off.x()), std::abs(off.y())) > after.panel.width();
 }
 
 int pixelsOf(int twips) {

@@ -28,8 +28,8 @@ std::optional<WindowPair> rememberedPair(const Options& options, const QRect& wo
 // What tells, when it lasts, that a window manager does not let windows be placed. It made the panel a width
 // that no window manager makes it that heeds what a window asks for:
 bool isTiled(int shownWidth, int panelWidth);
-// It moved neither, and the map covers most of the panel:
-bool isLeftCovered(const WindowPair& before, const WindowPair& after);
+// It moved neither, and they are far from standing side by side:
+bool isLeftApart(const WindowPair& before, const WindowPair& after);
 
 // Whole pixels, rounded.
 int pixelsOf(int twips);

@@ -14,9 +14,9 @@ namespace {
 // A window manager has answered by then, and the screen has shown what it made of it.
 constexpr int answerMs = 100;
 // So often it is seen, one look after the other, that a window manager gives the panel another width, or
-// leaves it covered. The first is the whole answer of one that tiles; the second may be one that is slow.
+// leaves the map apart. The first is the whole answer of one that tiles; the second may be one that is slow.
 constexpr int tiledLooks = 2;
-constexpr int coveredLooks = 20;
+constexpr int apartLooks = 20;
 
 } // namespace
 
@@ -104,7 +104,7 @@ void WindowPlaces::settle() {
     const QPoint beside(panel.width(), 0);
     if (map.topLeft() == panel.topLeft() + beside) {
         asked_.reset();
-        wereBeside_ = wereBeside_ || covered_ == 0;
+        wereBeside_ = wereBeside_ || apart_ == 0;
         return;
     }
     const QPoint to(std::min(panel.left(), map.left() - panel.width()), std::min(panel.top(), map.top()));
@@ -124,11 +124,14 @@ bool WindowPlaces::refused(int panelShown) {
     if (tiled_ == tiledLooks || wereBeside_)
         return tiled_ == tiledLooks;
     const WindowPair now{placeOnServer(windows_.panel), placeOnServer(windows_.map)};
-    covered_ = isLeftCovered(before_.value_or(now), now) ? covered_ + 1 : 0;
+    // No window manager refuses what lies wholly within its work area.
+    const QRect area = desktop_.workArea();
+    const bool granted = area.contains(wanted().panel) && area.contains(wanted().map);
+    apart_ = granted && isLeftApart(before_.value_or(now), now) ? apart_ + 1 : 0;
     before_ = now;
-    if (covered_ > 0)
+    if (apart_ > 0)
         settling_.start();
-    return covered_ == coveredLooks;
+    return apart_ == apartLooks;
 }
 
 void WindowPlaces::leavePair() {

@@ -76,8 +76,8 @@ class WindowPlaces : public QObject {
     // that places windows.
     std::optional<WindowPair> before_;
     bool wereBeside_ = false;
-    int tiled_ = 0;   // looks in a row at a panel of another width than its own
-    int covered_ = 0; // looks in a row at a panel that lies below the map
+    int tiled_ = 0; // looks in a row at a panel of another width than its own
+    int apart_ = 0; // looks in a row at windows that are not side by side
     bool left_ = false;
     // Where the windows were put at start instead of a remembered place that no screen shows; while they
     // stand there, that place is written back unchanged.

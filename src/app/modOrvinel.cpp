@@ -9,6 +9,8 @@
 #include <QScopeGuard>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -165,7 +167,8 @@ void Program::joinWindows() {
     const Options& options = state_.AppOptions;
     const QSize map(pixelsOf(options.DimX), pixelsOf(options.DimY));
     const bool remembered = options.PosX != -1 && map.isValid();
-    joined_->appear(remembered ? QSize(panel_->maximumWidth() + map.width(), map.height()) : QSize());
+    const QSize pair(panel_->maximumWidth() + map.width(), std::max(map.height(), panel_->height()));
+    joined_->appear(remembered ? pair : QSize());
     // The legend stands in the map's corner, which is known when the system has answered.
     QTimer::singleShot(screenFirstMs, legend_, [this] {
         places_->restoreLegend();

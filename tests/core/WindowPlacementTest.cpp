@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace orvinel {
 namespace {
 
@@ -14,16 +17,18 @@ TEST(WindowPlacement, aPanelOfAnotherWidthIsTiled) {
         EXPECT_FALSE(isTiled(width, panelWidth)) << width;
 }
 
-TEST(WindowPlacement, onlyAPanelThatNobodyTakesFromBelowTheMapIsLeftCovered) {
-    const WindowPair covered{{696, 64, panelWidth, 800}, {42, 64, 1063, 800}};
-    EXPECT_TRUE(isLeftCovered(covered, covered));
-    WindowPair moved = covered;
+TEST(WindowPlacement, onlyWindowsThatNobodyMovesAreLeftApart) {
+    const WindowPair apart{{696, 64, panelWidth, 800}, {42, 64, 1063, 800}};
+    EXPECT_TRUE(isLeftApart(apart, apart));
+    WindowPair moved = apart;
     moved.map.translate(1, 0);
-    EXPECT_FALSE(isLeftCovered(covered, moved));
-    // Held back at the screen's edge, or side by side with an edge that rounding put elsewhere.
-    for (const int left : {380 - 10, 380 + 120, 380 + panelWidth - 1, 380 + panelWidth, 900}) {
-        const WindowPair pair{{380, 0, panelWidth, 800}, {left, 0, 1000, 800}};
-        EXPECT_EQ(left < 380 + panelWidth / 2, isLeftCovered(pair, pair)) << left;
+    EXPECT_FALSE(isLeftApart(apart, moved));
+    // Held back a little at the screen's edge, or side by side but for rounding.
+    for (const QPoint by : {QPoint(0, 0), QPoint(1, 0), QPoint(-100, 0), QPoint(0, 30), QPoint(-110, 0),
+                            QPoint(110, 0), QPoint(0, -110)}) {
+        const WindowPair pair{{380, 100, panelWidth, 800},
+                              {QPoint(380 + panelWidth, 100) + by, QSize(1000, 800)}};
+        EXPECT_EQ(std::max(std::abs(by.x()), std::abs(by.y())) == 110, isLeftApart(pair, pair)) << by.x();
     }
 }
 

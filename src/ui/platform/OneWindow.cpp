@@ -50,7 +50,8 @@ QRect OneWindow::panelPlace() const {
 }
 
 void OneWindow::appear(QSize size) {
-    resize(size.isEmpty() ? screen()->availableSize() * 9 / 10 : size);
+    const QSize room = screen()->availableSize();
+    resize(size.isEmpty() ? room * 9 / 10 : size.boundedTo(room));
     winId(); // makes the window that the system knows
     ownBy(windowHandle(), panel_);
     ownBy(windowHandle(), map_);
