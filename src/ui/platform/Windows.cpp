@@ -1,6 +1,7 @@
 #include "ui/platform/Windows.h"
 
 #include "ui/platform/Fonts.h"
+#include "ui/platform/WindowManager.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -215,7 +216,8 @@ void moveShown(QWidget& window, QPoint to) {
 void WindowDrag::press(QPoint global) {
     QWindow* handle = window_.window()->windowHandle();
     const bool part = !window_.isWindow();
-    following_ = !((part || systemDrags()) && handle && handle->startSystemMove()) && !part;
+    const bool bySystem = part || systemDrags() || tremblesWhenDragged(windowManager());
+    following_ = !(bySystem && handle && handle->startSystemMove()) && !part;
     grip_ = global - shownPlace(window_).topLeft();
 }
 
