@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr size_t blockSize = 256 * 1024;
-constexpr qint64 largestPackage = 1024ll * 1024 * 1024; // unpacked; ours has not a tenth of it
+constexpr qint64 largestPackage = 512ll * 1024 * 1024; // unpacked; ours has a fifth of it
 constexpr size_t mostFiles = 20'000;
 
 } // namespace
