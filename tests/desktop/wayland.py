@@ -9,13 +9,13 @@ import glob
 import os
 import re
 import shutil
-import signal
 import subprocess
 import sys
+import time
 from unittest import mock
 
 import journeys
-from screen import Running, colour, near, pixels, until, windows
+from screen import Running, click, colour, near, pixels, run, until, windows
 
 SOCKET = "orvinel-nested"
 SIZE = (1240, 820)
@@ -33,6 +33,15 @@ class Session:
         self.process = subprocess.Popen(command, env={**os.environ, "XDG_RUNTIME_DIR": str(folder)},
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.display = until("the nested session", self.ready)
+        self.take_pointer()
+
+    def take_pointer(self):
+        """The session follows the mouse by how far it moves: in its upper left corner both are at the same place."""
+        info = run("xwininfo", "-name", "Weston Compositor - screen0")
+        x, y = (int(re.search(rf"Absolute upper-left {axis}:\s+(-?\d+)", info).group(1)) for axis in "XY")
+        for dx, dy in ((600, 400), (SIZE[0] - 2, SIZE[1] - 2), (300, 200), (0, 0), (600, 400)):
+            run("xdotool", "mousemove", str(x + dx), str(y + dy))
+            time.sleep(0.1)
 
     def ready(self):
         found = re.search(r"xserver listening on display (:\d+)", self.log.read_text() if self.log.exists() else "")
@@ -74,15 +83,21 @@ class Nested(Running):
 
 
 def beside(folder, display):
-    """One window with the map beside the panel, again and again, and the places remembered elsewhere stay."""
+    """One window with the map beside the panel, a menu and the button that quits, again and again; the places remembered
+    elsewhere stay."""
     journeys.make_world(folder)
     journeys.options(folder, Campaign=2, Region=1, PosX=1500, PosY=1500, DimX=9000, DimY=6000)
     for _ in range(2):
         with Nested(folder, display) as player:
             if display:
                 until("one window", lambda: len(player.main_windows()) == 1)
-            until("the map beside the panel", player.beside)
-            player.process.send_signal(signal.SIGTERM)
+            x, y = until("the map beside the panel", player.beside)
+            below = (x + 88, y + 218)  # the page of bosses, where the menu is going to be
+            page = colour(*below)
+            for wanted in (True, False) * (display is None):  # through Xwayland weston tells no window its place
+                click(x + journeys.OPTIONS_MENU[0], y + journeys.OPTIONS_MENU[1])
+                until(f"a menu: {wanted}", lambda: near(colour(*below), page) != wanted)
+            click(x + journeys.QUIT[0], y + journeys.QUIT[1])
             assert player.end() == 0
         kept = (folder / "Data/Options.txt").read_text()
         assert all(f"{line}\n" in kept for line in ("PosX=1500", "PosY=1500", "DimX=9000", "DimY=6000")), kept
