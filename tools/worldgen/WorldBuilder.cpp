@@ -77,7 +77,7 @@ class Builder {
     Builder(const WorldSource& source, const QString& worldFolder, const QString& outFolder)
         : source_(source), worldFolder_(worldFolder), outFolder_(outFolder + u'/'), places_(source) {}
 
-    QStringList build();
+    QStringList build(Translations translations);
     QStringList paint(const QString& part);
     QStringList build(const CrowdedWorld& world);
 
@@ -267,14 +267,15 @@ QStringList Builder::paint(const QString& part) {
     return problems_;
 }
 
-QStringList Builder::build() {
+QStringList Builder::build(Translations translations) {
     makeFolders();
     copyData();
     paintRegions();
     paintSkills();
     paintPets();
     if (problems_.isEmpty()) {
-        writeTranslations();
+        if (translations == Translations::written)
+            writeTranslations();
         writeTables(); // last, so that tables never promise what is not there
     }
     return problems_;
@@ -303,8 +304,9 @@ QStringList buildCrowdedWorld(int scale, const QString& worldFolder, const QStri
     return Builder(world.source(), worldFolder, outFolder).build(world);
 }
 
-QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder) {
-    return Builder(source, worldFolder, outFolder).build();
+QStringList buildWorld(const WorldSource& source, const QString& worldFolder, const QString& outFolder,
+                       Translations translations) {
+    return Builder(source, worldFolder, outFolder).build(translations);
 }
 
 QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part) {

@@ -72,8 +72,11 @@ int run(const Order& order) {
         return survey(source);
     if (!order.only.isEmpty())
         return tell(worldgen::paintPictures(source, order.outFolder, order.only));
-    return tell(
-        worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder));
+    if (order.scale == 1)
+        return tell(
+            worldgen::buildWorld(source, worldFolder, order.outFolder, worldgen::Translations::written));
+    return tell(worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder,
+                                     worldgen::Translations::leftOut));
 }
 
 } // namespace
