@@ -126,12 +126,17 @@ QString linkTarget(QString path) {
     return path;
 }
 
+// Each folder above that is new lasts only when the one that holds it has reached the medium.
 DiskError makeFolder(const QString& folder) {
     if (QFileInfo(folder).isDir())
         return std::nullopt;
-    if (!QDir().mkpath(folder))
+    const QString above = folder.contains(u'/') ? folderOf(folder) : QString();
+    if (!above.isEmpty())
+        if (const DiskError error = makeFolder(above))
+            return error;
+    if (!QDir().mkdir(folder) && !QFileInfo(folder).isDir())
         return u"the folder %1 cannot be created"_s.arg(folder);
-    syncFolder(folderOf(folder));
+    syncFolder(above);
     return std::nullopt;
 }
 
@@ -141,7 +146,8 @@ DiskError writeUnfinished(const QString& path, const QByteArray& bytes, const QF
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return file.errorString();
-    if (old.exists() && !file.setPermissions(old.permissions()))
+    // Some shares refuse every change of permissions, also one to what they are.
+    if (old.exists() && file.permissions() != old.permissions() && !file.setPermissions(old.permissions()))
         return file.errorString();
     if (file.write(bytes) != bytes.size())
         return file.errorString();
@@ -249,6 +255,9 @@ DiskError FileDisk::rename(const QString& from, const QString& to) {
     if (const DiskError error = takePlace(source, target))
         return error;
     syncFolder(folderOf(target));
+    // Else the old name may come back, while what followed upon the move has lasted.
+    if (folderOf(source) != folderOf(target))
+        syncFolder(folderOf(source));
     return std::nullopt;
 }
 
