@@ -74,6 +74,33 @@ TEST_F(NotesViewTest, theWheelScrollsAWindowThatIsHigherThanTheMap) {
     EXPECT_FALSE(window.isVisible()) << "scrolls the map";
 }
 
+TEST_F(NotesViewTest, theKeysScrollAWindowThatIsHigherThanTheMapAndElseTheMap) {
+    startOnFjord();
+    state.Notes[1].setTexts(u"Alpha"_s, QString(u"line\r\n"_s).repeated(100));
+    hover(alpha);
+    InformationWindow& window = notes->window();
+    MapViewport& view = map->picMap();
+    ASSERT_GT(window.height(), view.height());
+    const int lowest = view.height() - window.height();
+    const QPoint shownFirst = view.toWidget(QRect(0, 0, 1, 1)).topLeft();
+    const auto yAfter = [&](Qt::Key key) {
+        QTest::keyClick(&view, key);
+        return window.y();
+    };
+    EXPECT_EQ(-48, yAfter(Qt::Key_Down));
+    EXPECT_EQ(0, yAfter(Qt::Key_Up));
+    EXPECT_EQ(std::max(lowest, 48 - view.height()), yAfter(Qt::Key_PageDown));
+    EXPECT_EQ(lowest, yAfter(Qt::Key_End));
+    EXPECT_EQ(lowest, yAfter(Qt::Key_Down));
+    EXPECT_EQ(0, yAfter(Qt::Key_Home));
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(shownFirst, view.toWidget(QRect(0, 0, 1, 1)).topLeft()) << "the map stays";
+    QTest::keyClick(&view, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_NE(shownFirst, view.toWidget(QRect(0, 0, 1, 1)).topLeft());
+}
+
 TEST_F(NotesViewTest, aNoteBesideASmallPictureIsPinnedAtItsEdge) {
     startOnFjord();
     chooseRegion(u"Glacier"_s); // 300 x 200

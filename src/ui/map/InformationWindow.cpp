@@ -4,6 +4,7 @@
 #include "ui/map/MapViewport.h"
 #include "ui/platform/SpokenRole.h"
 
+#include <QKeyEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -79,23 +80,48 @@ void InformationWindow::draw() {
     update();
 }
 
-bool InformationWindow::scroll(const QWheelEvent& wheel) {
+bool InformationWindow::scroll(int by) {
     if (height() <= map_.height())
         return false;
-    move(x(), std::clamp(y() + MapViewport::wheeled(wheel).y(), map_.height() - height(), 0));
+    move(x(), std::clamp(y() + by, map_.height() - height(), 0));
     draw(); // other parts of the map shine through now
     return true;
 }
 
+bool InformationWindow::scrolledByKey(int key) {
+    constexpr int step = MapViewport::keyStep;
+    const int page = std::max(step, map_.height() - step);
+    switch (key) {
+    case Qt::Key_Up:
+        return scroll(step);
+    case Qt::Key_Down:
+        return scroll(-step);
+    case Qt::Key_PageUp:
+        return scroll(page);
+    case Qt::Key_PageDown:
+        return scroll(-page);
+    case Qt::Key_Home:
+        return scroll(height());
+    case Qt::Key_End:
+        return scroll(-height());
+    default:
+        return false;
+    }
+}
+
 void InformationWindow::wheelEvent(QWheelEvent* event) {
-    event->setAccepted(scroll(*event));
+    event->setAccepted(scroll(MapViewport::wheeled(*event).y()));
 }
 
 bool InformationWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::Wheel || isHidden())
+    if (isHidden())
+        return PictureBox::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        return scrolledByKey(static_cast<const QKeyEvent&>(*event).key());
+    if (event->type() != QEvent::Wheel)
         return PictureBox::eventFilter(watched, event);
     const auto& wheel = static_cast<const QWheelEvent&>(*event);
-    return marker_.contains(wheel.position().toPoint()) && scroll(wheel);
+    return marker_.contains(wheel.position().toPoint()) && scroll(MapViewport::wheeled(wheel).y());
 }
 
 // As one picture: several paintings, each translucent, would darken what lies under them several times.

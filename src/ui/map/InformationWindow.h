@@ -19,7 +19,8 @@ inline constexpr Colour paleCaption = 0xBED2DC;
 inline constexpr Colour whiteText = 0xFFFFFF;
 
 // A layer's information window: a box over the map with the details of the item under the mouse. Hidden until
-// shown. One that is higher than the map's view is scrolled by the wheel over it or over its marker.
+// shown. One that is higher than the map's view is scrolled by the wheel over it or over its marker, and by
+// the keys that else scroll the map up and down.
 class InformationWindow : public PictureBox {
     Q_OBJECT
   public:
@@ -53,8 +54,9 @@ class InformationWindow : public PictureBox {
 
     void frame(const QRect& marker);
     void draw();
-    // False where all of the window is in view.
-    bool scroll(const QWheelEvent& wheel);
+    // Positive shows what lies further up, pixels. False where all of the window is in view.
+    bool scroll(int by);
+    bool scrolledByKey(int key);
     void drawSeparator(Drawing& drawing, int y);
     // What the map shows under the box.
     QImage translucentMap();

@@ -16,7 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int keyStep = 48;   // pixels per arrow key
 constexpr int wheelStep = 64; // pixels per notch
 constexpr int notch = 120;    // what a wheel reports for one
 constexpr int veryFar = 1 << 20;

@@ -41,6 +41,7 @@ class MapViewport : public QWidget {
     // Of a rectangle of the region picture, in the viewport's own pixels; edges inclusive on both sides.
     QRect toWidget(const QRect& mapArea) const;
     QSize screenPixels() const;
+    static constexpr int keyStep = 48; // pixels by which an arrow key scrolls
     // Pixels by which a turn of the wheel moves what is shown: positive right or down.
     static QPoint wheeled(const QWheelEvent& event);
 
