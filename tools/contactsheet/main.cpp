@@ -1,5 +1,6 @@
-// contactsheet FOLDER PICTURE: starts the program in its folder without a screen, shows one region after the
-// other with all layers on, and puts what the map window drew side by side.
+// contactsheet FOLDER OUT: starts the program in its folder without a screen, shows one region after the
+// other with all layers on, and puts what the map window drew side by side into the picture OUT; where OUT is
+// a folder, each region into a picture of its own there, pixel for pixel.
 
 #include "app/modOrvinel.h"
 #include "base/FileDisk.h"
@@ -10,8 +11,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QPainter>
 
+#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -52,8 +55,8 @@ std::vector<Shot> allRegions(Program& program) {
             const Region& region = state.Campaigns[campaign].Regions[number];
             const QImage whole = wholeRegion(program, region, campaign, number);
             if (!whole.isNull())
-                shots.push_back({state.Campaigns[campaign].CampaignName + u" - "_s + region.RegionName,
-                                 whole.scaled(cell, Qt::KeepAspectRatio, Qt::SmoothTransformation)});
+                shots.push_back(
+                    {state.Campaigns[campaign].CampaignName + u" - "_s + region.RegionName, whole});
         }
     return shots;
 }
@@ -70,17 +73,29 @@ QImage sheetOf(const std::vector<Shot>& shots) {
         const Shot& shot = shots[static_cast<size_t>(i)];
         const QPoint corner(gap + i % columns * step.width(), gap + i / columns * step.height());
         painter.drawText(QRect(corner, QSize(cell.width(), title)), Qt::AlignCenter, shot.name);
-        const QSize spare = cell - shot.picture.size();
-        painter.drawImage(corner + QPoint(spare.width() / 2, title + spare.height() / 2), shot.picture);
+        const QImage small = shot.picture.scaled(cell, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        const QSize spare = cell - small.size();
+        painter.drawImage(corner + QPoint(spare.width() / 2, title + spare.height() / 2), small);
     }
     return sheet;
+}
+
+bool saveEach(const std::vector<Shot>& shots, const QDir& folder) {
+    return std::ranges::all_of(
+        shots, [&](const Shot& shot) { return shot.picture.save(folder.filePath(shot.name + u".png"_s)); });
+}
+
+bool save(const std::vector<Shot>& shots, const QString& out) {
+    if (QFileInfo(out).isDir())
+        return saveEach(shots, QDir(out));
+    return sheetOf(shots).save(out, "JPEG", quality);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     if (argc != 3) {
-        std::fputs("usage: contactsheet FOLDER PICTURE\n", stderr);
+        std::fputs("usage: contactsheet FOLDER OUT\n", stderr);
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -93,8 +108,7 @@ int main(int argc, char** argv) {
     if (!program.Main())
         return 1;
     const std::vector<Shot> shots = allRegions(program);
-    const bool saved =
-        !shots.empty() && sheetOf(shots).save(QString::fromLocal8Bit(argv[2]), "JPEG", quality);
+    const bool saved = !shots.empty() && save(shots, QString::fromLocal8Bit(argv[2]));
     if (!saved)
         std::fputs("contactsheet: no regions, or the picture could not be written\n", stderr);
     return saved ? 0 : 1;
