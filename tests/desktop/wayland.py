@@ -98,7 +98,8 @@ def beside(folder, display):
                 click(x + journeys.OPTIONS_MENU[0], y + journeys.OPTIONS_MENU[1])
                 until(f"a menu: {wanted}", lambda: near(colour(*below), page) != wanted)
             click(x + journeys.QUIT[0], y + journeys.QUIT[1])
-            assert player.end() == 0
+            code = player.end()
+            assert code == 0, f"exit code {code}"
         kept = (folder / "Data/Options.txt").read_text()
         assert all(f"{line}\n" in kept for line in ("PosX=1500", "PosY=1500", "DimX=9000", "DimY=6000")), kept
 
