@@ -20,6 +20,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <future>
 
 namespace orvinel {
 
@@ -58,6 +59,36 @@ void tellOfReadOnlyFolder(const ProgramState& state, const Disk& disk, Desktop& 
     }
 }
 
+// Collectors take nearly as long as everything else and share no table with it: `collectors` says whether
+// they are loaded beside the rest or after it. Gives what was left out.
+std::vector<QString> loadWithin(ProgramState& state, PlayerFiles& files, Complaints* complaints,
+                                std::launch collectors) {
+    const RationedDisk disk(files.disk(), largestDataSum);
+    files.readThrough(&disk);
+    const auto unlimited = qScopeGuard([&files] { files.readThrough(nullptr); });
+    state.TabColors = {0x5DDBFF, 0xDA9C76, 0xC4E0AF, 0xB0B0B0, 0x3C7BCC, 0, 0, 0, 0xB0B0B0};
+    LoadCharacters(state, files, complaints);
+    LoadCampaigns(state, disk, complaints);
+    std::future<void> withCollectors = std::async(collectors, [&] {
+        LoadCollectors(state, disk, complaints);
+        LoadCollectorLocations(state, disk, complaints);
+    });
+    LoadZones(state, disk, complaints);
+    LoadProfessions(state, disk, complaints);
+    LoadEliteSkills(state, disk, complaints);
+    LoadGreens(state, disk, complaints);
+    LoadNotes(state, files, complaints);
+    LoadEliteLocations(state, disk, complaints);
+    LoadCapturedSkills(state, files, complaints);
+    LoadTreasures(state, disk, complaints);
+    LoadOpenedTreasures(state, files, complaints);
+    LoadPets(state, disk, complaints);
+    LoadPetLocations(state, disk, complaints);
+    LoadOptions(state, files);
+    withCollectors.get();
+    return disk.refused();
+}
+
 } // namespace
 
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
@@ -71,27 +102,10 @@ void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop) {
 }
 
 std::vector<QString> loadTables(ProgramState& state, PlayerFiles& files, Complaints* complaints) {
-    const RationedDisk disk(files.disk(), largestDataSum);
-    files.readThrough(&disk);
-    const auto unlimited = qScopeGuard([&files] { files.readThrough(nullptr); });
-    state.TabColors = {0x5DDBFF, 0xDA9C76, 0xC4E0AF, 0xB0B0B0, 0x3C7BCC, 0, 0, 0, 0xB0B0B0};
-    LoadCharacters(state, files, complaints);
-    LoadCampaigns(state, disk, complaints);
-    LoadZones(state, disk, complaints);
-    LoadProfessions(state, disk, complaints);
-    LoadCollectors(state, disk, complaints);
-    LoadEliteSkills(state, disk, complaints);
-    LoadGreens(state, disk, complaints);
-    LoadNotes(state, files, complaints);
-    LoadEliteLocations(state, disk, complaints);
-    LoadCapturedSkills(state, files, complaints);
-    LoadCollectorLocations(state, disk, complaints);
-    LoadTreasures(state, disk, complaints);
-    LoadOpenedTreasures(state, files, complaints);
-    LoadPets(state, disk, complaints);
-    LoadPetLocations(state, disk, complaints);
-    LoadOptions(state, files);
-    return disk.refused();
+    // Complaints come in one order, so do the files that a folder too large for all of them loses.
+    if (!complaints && loadWithin(state, files, nullptr, std::launch::async).empty())
+        return {};
+    return loadWithin(state, files, complaints, std::launch::deferred);
 }
 
 void MoveToPersonalFolder(const ProgramState& state, Disk& disk) {

@@ -8,9 +8,9 @@ namespace orvinel {
 
 struct ProgramState;
 
-// Reads everything below AppPath into the tables, in the one order in which later loaders find what they
-// need. Moves files of older versions into Personal and swaps in a pending updater first.
-// When the folder holds more than largestDataSum, the player is told what was left out.
+// Reads everything below AppPath into the tables, each loader after those of whose tables it reads. Moves
+// files of older versions into Personal and swaps in a pending updater first. When the folder holds more than
+// largestDataSum, the player is told what was left out.
 void LoadAll(ProgramState& state, PlayerFiles& files, Desktop& desktop);
 
 // Bytes that all tables are read from, hundreds of times what a world takes: a byte of text can take thirty
