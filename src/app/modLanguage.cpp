@@ -14,7 +14,7 @@ bool LoadLanguage(World& state, const Disk& disk, Complaints* complaints) {
     if (!file.exists())
         return false;
     while (file.nextLine()) {
-        if (!file.split(2))
+        if (!file.hasFields(2))
             continue;
         if (const auto index = file.integer(0, "number", 0, largestIdentifier))
             state.LanguageTable.grow(*index) = withLineBreaks(file.field(1));

@@ -21,17 +21,6 @@ TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
     text_ = decodeText(source_.bytes);
 }
 
-// Where the line that begins at next_ ends. LF and CR are looked for one after the other, since a search for
-// one character compares many places at once; where the next LF is stays known as long as it lies ahead.
-qsizetype TextFile::lineEnd() {
-    if (lineFeed_ < next_)
-        lineFeed_ = text_.indexOf(u'\n', next_);
-    if (lineFeed_ < 0)
-        lineFeed_ = text_.size();
-    const qsizetype carriageReturn = QStringView(text_).sliced(next_, lineFeed_ - next_).indexOf(u'\r');
-    return carriageReturn < 0 ? lineFeed_ : next_ + carriageReturn;
-}
-
 bool TextFile::nextLine() {
     while (cutLine()) {
         if (line_.size() <= longestLine)
@@ -41,16 +30,35 @@ bool TextFile::nextLine() {
     return false;
 }
 
+// Line ends and TABs are looked for in one go: fields are short, and no other character of a text is as
+// small.
 bool TextFile::cutLine() {
     if (next_ >= text_.size())
         return false;
-    const qsizetype end = lineEnd();
-    line_ = QStringView(text_).sliced(next_, end - next_);
-    next_ = end + 1;
-    if (end + 1 < text_.size() && text_[end] == u'\r' && text_[end + 1] == u'\n')
+    fields_.clear();
+    const QChar* const begin = text_.constData() + next_;
+    const QChar* const end = text_.constData() + text_.size();
+    const QChar* field = begin;
+    const QChar* at = begin;
+    const auto endField = [&] {
+        if (fields_.size() < mostFields)
+            fields_.emplace_back(field, at - field);
+        field = at + 1;
+    };
+    for (;; ++at) {
+        while (*at > u'\r') // the 0 behind the text stops it too
+            ++at;
+        if (at == end || *at == u'\n' || *at == u'\r')
+            break;
+        if (*at == u'\t')
+            endField();
+    }
+    endField();
+    line_ = QStringView(begin, at);
+    next_ += at - begin + 1;
+    if (end - at > 1 && at[0] == u'\r' && at[1] == u'\n')
         ++next_;
     ++number_;
-    fields_.clear();
     return true;
 }
 
@@ -61,8 +69,7 @@ bool TextFile::nextRecord() {
     return false;
 }
 
-bool TextFile::split(size_t fewest) {
-    splitFields(line_, fields_, mostFields);
+bool TextFile::hasFields(size_t fewest) {
     if (fields_.size() >= fewest)
         return true;
     if (!line_.trimmed().isEmpty())

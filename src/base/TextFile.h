@@ -43,9 +43,9 @@ class TextFile {
     int lineNumber() const { return number_; }
     bool isComment() const { return line_.startsWith(u';'); }
 
-    // Splits the current line; False, with a complaint, when it has fewer than `fewest` fields.
-    // A line that is empty altogether is passed over silently.
-    bool split(size_t fewest);
+    // False, with a complaint, when the current line has fewer fields. Blank ones are passed over silently.
+    bool hasFields(size_t fewest);
+    // One more than there are TABs in the line; fields behind the 255th are left out.
     size_t fieldCount() const { return fields_.size(); }
     // An empty view beyond the last field.
     QStringView field(size_t position) const {
@@ -69,7 +69,6 @@ class TextFile {
     void skip(const QString& field, const QString& reason);
 
   private:
-    qsizetype lineEnd();
     bool cutLine();
     std::optional<int> accept(std::optional<int> value, size_t position, const char* name);
 
@@ -79,7 +78,6 @@ class TextFile {
     bool wholeText_;
     QString text_;
     qsizetype next_ = 0;
-    qsizetype lineFeed_ = -1; // the first at or behind next_, or the end; before next_: not looked for yet
     QStringView line_;
     std::vector<QStringView> fields_;
     int number_ = 0;

@@ -104,6 +104,10 @@ std::optional<int> plainDigits(QStringView text) {
     return value;
 }
 
+std::optional<int> inRange(int value, int lowest, int highest) {
+    return value >= lowest && value <= highest ? std::optional(value) : std::nullopt;
+}
+
 std::optional<int> inRange(double value, int lowest, int highest) {
     const double rounded = std::nearbyint(value);
     if (!(rounded >= lowest && rounded <= highest))
@@ -146,8 +150,9 @@ double leadingNumber(QStringView text) {
 }
 
 std::optional<int> leadingInteger(QStringView text, int lowest, int highest) {
-    const std::optional<int> plain = plainDigits(text);
-    return inRange(plain ? *plain : leadingNumber(text), lowest, highest);
+    if (const std::optional<int> plain = plainDigits(text))
+        return inRange(*plain, lowest, highest);
+    return inRange(leadingNumber(text), lowest, highest);
 }
 
 std::optional<int> wholeNumber(QStringView text, int lowest, int highest) {
@@ -166,20 +171,6 @@ std::optional<int> wholeNumber(QStringView text, int lowest, int highest) {
     if (prefix.taken == 0 || prefix.taken != trimmed.size())
         return std::nullopt;
     return inRange(valueOf(prefix.ascii), lowest, highest);
-}
-
-void splitFields(QStringView line, std::vector<QStringView>& fields, size_t most) {
-    fields.clear();
-    // Fields are short: looking at each character beats a call of the search for each.
-    const QChar* from = line.begin();
-    for (const QChar* c = from; c != line.end(); ++c)
-        if (*c == u'\t') {
-            fields.emplace_back(from, c);
-            if (fields.size() == most)
-                return;
-            from = c + 1;
-        }
-    fields.emplace_back(from, line.end());
 }
 
 bool isBareNumber(QStringView text) {

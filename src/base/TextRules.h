@@ -30,10 +30,6 @@ std::optional<int> leadingInteger(QStringView text, int lowest, int highest);
 // hexadecimal.
 std::optional<int> wholeNumber(QStringView text, int lowest, int highest);
 
-// One more field than there are TABs, but not more than `most`: what is behind those is left out. Empty
-// fields stay in place. The views point into `line` and replace what `fields` held.
-void splitFields(QStringView line, std::vector<QStringView>& fields, size_t most);
-
 // Nothing but digits, with a sign before them or blanks around them: what is written again for the number
 // says the same.
 bool isBareNumber(QStringView text);

@@ -93,7 +93,7 @@ class LocationFile {
                     twips_ = file_.line().last(3) == u"1.0";
                 continue;
             }
-            if (!file_.split(7))
+            if (!file_.hasFields(7))
                 continue;
             const auto id = file_.integer(0, "skill", 0, state.EliteSkills.highest());
             std::optional<MapLocation> location = id ? readLocation() : std::nullopt;
@@ -154,7 +154,7 @@ void LoadEliteSkills(Content& state, const Disk& disk, Complaints* complaints) {
         const QString folder = campaignFolder(state, n);
         TextFile file(disk, folder + u"/EliteList.txt"_s, complaints);
         while (file.nextRecord())
-            if (file.split(3))
+            if (file.hasFields(3))
                 readSkill(state, file, n, folder + u"/imgElite/"_s);
     }
     for (EliteSkill& skill : state.EliteSkills)

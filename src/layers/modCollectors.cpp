@@ -40,7 +40,7 @@ class CollectorReader {
   private:
     // False when the header cannot be used.
     bool readBlock() {
-        if (!file_.split(3))
+        if (!file_.hasFields(3))
             return false;
         const auto id = file_.integer(0, "collector", 0, largestIdentifier);
         const auto level = file_.fieldCount() == 4 ? file_.integer(3, "level", 0, 255) : 0;
@@ -71,7 +71,7 @@ class CollectorReader {
 
     void readObjects(Collector& collector) {
         while (file_.nextLine() && !file_.line().isEmpty()) {
-            if (file_.line().trimmed().isEmpty() || !file_.split(2))
+            if (file_.line().trimmed().isEmpty() || !file_.hasFields(2))
                 continue;
             const auto mask = file_.integer(1, "hand mask", -32768, 32767);
             if (!mask)
@@ -110,7 +110,7 @@ void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* c
     using Limits = std::numeric_limits<int>;
     TextFile file(disk, campaignFolder(state, campaign) + u"/CollectorsLocations.txt"_s, complaints);
     while (file.nextLine()) {
-        if (!file.split(5))
+        if (!file.hasFields(5))
             continue;
         const auto id = file.integer(0, "collector", 0, largestIdentifier);
         const auto region = id ? file.integer(1, "region", 0, 255) : id;

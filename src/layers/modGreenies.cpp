@@ -21,7 +21,7 @@ constexpr size_t mostItemsOfBoss = 128;
 void readGreens(Content& state, TextFile& file) {
     while (file.nextLine()) {
         const QStringView line = file.line().trimmed();
-        if (line.isEmpty() || line.startsWith(u';') || !file.split(2))
+        if (line.isEmpty() || line.startsWith(u';') || !file.hasFields(2))
             continue;
         if (state.GreenItems.count() == largestIdentifier) {
             file.skip({}, u"more than %1 items"_s.arg(largestIdentifier));

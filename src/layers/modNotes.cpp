@@ -31,7 +31,7 @@ std::optional<Note> readNote(TextFile& file) {
 
 void readLine(Content& state, TextFile& file) {
     const QStringView line = file.line().trimmed();
-    if (line.isEmpty() || line.startsWith(u';') || !file.split(fieldsOfNote))
+    if (line.isEmpty() || line.startsWith(u';') || !file.hasFields(fieldsOfNote))
         return;
     if (file.fieldCount() > fieldsOfNote)
         file.skip({}, u"%1 fields instead of %2"_s.arg(file.fieldCount()).arg(fieldsOfNote));

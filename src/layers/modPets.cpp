@@ -18,7 +18,7 @@ void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* c
     TextFile file(disk, campaignFolder(state, campaign) + u"/PetsLocations.txt"_s, complaints);
     int stored = 0;
     while (file.nextRecord()) {
-        if (!file.split(5))
+        if (!file.hasFields(5))
             continue;
         const auto id = file.integer(0, "pet", 0, largestIdentifier);
         const auto region = id ? file.integer(1, "region", 0, 255) : id;
@@ -80,7 +80,7 @@ void LoadPets(Content& state, const Disk& disk, Complaints* complaints) {
     const QString folder = campaignFolder(state, 0);
     TextFile file(disk, folder + u"/PetsList.txt"_s, complaints);
     while (file.nextRecord()) {
-        if (!file.split(3))
+        if (!file.hasFields(3))
             continue;
         const auto id = file.integer(0, "pet", 0, largestIdentifier);
         if (!id)

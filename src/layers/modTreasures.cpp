@@ -49,7 +49,7 @@ void LoadTreasures(Content& state, const Disk& disk, Complaints* complaints) {
     state.Treasures.clear();
     TextFile file(disk, state.AppPath + treasuresFile, complaints);
     while (file.nextRecord()) {
-        if (!file.split(5))
+        if (!file.hasFields(5))
             continue;
         if (state.Treasures.count() == largestIdentifier) {
             file.skip({}, u"more than %1 chests"_s.arg(largestIdentifier));

@@ -18,7 +18,7 @@ void loadCaptures(Progress& state, PlayerFiles& files, int character, Complaints
     const QString path = capturedPath(state, character);
     TextFile file(files.source(), path, complaints);
     while (file.nextLine()) {
-        if (!file.split(1) || file.line().trimmed().isEmpty())
+        if (!file.hasFields(1) || file.line().trimmed().isEmpty())
             continue;
         const auto id = file.integer(0, "skill", 1, std::numeric_limits<int>::max());
         if (!id)

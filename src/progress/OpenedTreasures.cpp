@@ -72,7 +72,7 @@ QString writtenLine(int treasure, const QDate& date) {
 
 // `seen`: what earlier lines of the file said.
 void readLine(Progress& state, int character, TextFile& file, std::map<int, QDate>& seen) {
-    if (!file.split(1) || file.line().trimmed().isEmpty())
+    if (!file.hasFields(1) || file.line().trimmed().isEmpty())
         return;
     const auto treasure = file.integer(0, "chest", 1, largestIdentifier);
     if (!treasure)

@@ -22,7 +22,7 @@ void LoadCharacters(Progress& state, PlayerFiles& files, Complaints* complaints)
     state.Characters.reset();
     TextFile file(files.source(), charactersPath(state), complaints);
     while (file.nextLine()) {
-        if (!file.split(2))
+        if (!file.hasFields(2))
             continue;
         if (const auto number = file.integer(0, "number", 1, mostCharacters))
             take(state.Characters.grow(*number), file);

@@ -187,7 +187,7 @@ class Rules {
             if (file.line().trimmed().isEmpty())
                 continue;
             const Line line{path, file.lineNumber()};
-            file.split(1);
+            file.hasFields(1);
             const int id = leadingInteger(file.field(0), 0, largestIdentifier).value_or(-1);
             if (state_.Collectors.has(id) && state_.Collectors[id].Exists)
                 visit(id, line);

@@ -47,7 +47,7 @@ template <typename Visit>
 void forEachLine(const Disk& disk, const QString& path, const ComplaintList& skipped, Visit visit) {
     TextFile file(disk, path);
     while (file.nextRecord())
-        if (!file.line().trimmed().isEmpty() && !skipped.has(path, file.lineNumber()) && file.split(1))
+        if (!file.line().trimmed().isEmpty() && !skipped.has(path, file.lineNumber()) && file.hasFields(1))
             visit(file, Line{path, file.lineNumber()});
 }
 

@@ -85,7 +85,7 @@ void discover(World& state, const Disk& disk, Complaints* complaints) {
 void loadRegions(Campaign& campaign, const QString& folder, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, folder + u"/Regions.txt"_s, complaints);
     while (file.nextLine()) {
-        if (!file.split(2))
+        if (!file.hasFields(2))
             continue;
         const auto number = file.integer(0, "region", 0, highestRegionNumber);
         if (!number)

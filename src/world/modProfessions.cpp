@@ -17,7 +17,7 @@ constexpr Caption noAttributeText = Caption::NoAttribute;
 void loadProfessions(World& state, const QString& path, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, path, complaints);
     while (file.nextLine()) {
-        if (!file.split(4))
+        if (!file.hasFields(4))
             continue;
         const auto number = file.integer(0, "profession", 0, 255);
         const auto colour =

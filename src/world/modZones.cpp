@@ -41,7 +41,7 @@ void loadZones(World& state, int campaign, const Disk& disk, Complaints* complai
     auto& regions = state.Campaigns[campaign].Regions;
     int stored = 0;
     while (file.nextRecord()) {
-        if (!file.split(7))
+        if (!file.hasFields(7))
             continue;
         const auto x = file.integer(4, "x", -largestCoordinate, largestCoordinate);
         const auto y = x ? file.integer(5, "y", -largestCoordinate, largestCoordinate) : x;

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <cmath>
+#include <random>
 
 namespace orvinel {
 namespace {
@@ -88,6 +89,32 @@ TEST(TextFile, linesEndWithAnyLineEnd) {
     EXPECT_EQ(7, file.lineNumber());
 }
 
+TEST(TextFile, cutsLinesAndFieldsAsThePlainWayDoes) {
+    const QByteArray letters("ab;\t\t\r\n\0 ", 9);
+    std::minstd_rand random(7);
+    for (int round = 0; round < 500; ++round) {
+        QByteArray bytes;
+        for (int i = 0; i < 40; ++i)
+            bytes += letters[static_cast<qsizetype>(random() % 9)];
+        MemoryDisk disk;
+        disk.put(u"/o/x.txt"_s, bytes);
+        TextFile file(disk, u"/o/x.txt"_s);
+        QStringList lines;
+        while (file.nextLine()) {
+            lines << file.line().toString();
+            QStringList fields;
+            for (const QStringView field : file.fieldsFrom(0))
+                fields << field.toString();
+            EXPECT_EQ(lines.back().split(u'\t'), fields);
+        }
+        const QString text = QString::fromLatin1(bytes).replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+        QStringList expected = text.split(u'\n');
+        if (expected.back().isEmpty())
+            expected.removeLast();
+        EXPECT_EQ(expected, lines) << bytes.toHex().constData();
+    }
+}
+
 struct ComplaintList : Complaints {
     std::vector<Complaint> all;
     void add(const Complaint& complaint) override { all.push_back(complaint); }
@@ -100,7 +127,7 @@ TEST(TextFile, tellsWhatItSkips) {
     TextFile file(disk, u"/o/x.txt"_s, &complaints);
     int stored = 0;
     while (file.nextLine())
-        if (file.split(2) && file.integer(0, "number", 0, 255))
+        if (file.hasFields(2) && file.integer(0, "number", 0, 255))
             ++stored;
     EXPECT_EQ(1, stored);
     EXPECT_EQ(2, file.skippedLines());
@@ -117,12 +144,12 @@ TEST(TextFile, passesOverFieldsBehindTheBoundAndKeepsTheLine) {
     disk.put(u"/o/x.txt"_s, line + "\r\nnext\tb\r\n");
     TextFile file(disk, u"/o/x.txt"_s);
     ASSERT_TRUE(file.nextLine());
-    ASSERT_TRUE(file.split(2));
+    ASSERT_TRUE(file.hasFields(2));
     EXPECT_EQ(u"first"_s, file.text(0));
     EXPECT_EQ(u"254"_s, file.text(254));
     EXPECT_EQ(255u, file.fieldCount());
     EXPECT_EQ(0, file.skippedLines());
-    EXPECT_TRUE(file.nextLine() && file.split(2));
+    EXPECT_TRUE(file.nextLine() && file.hasFields(2));
 }
 
 } // namespace
