@@ -78,13 +78,15 @@ void addMapActions(World& world) {
             work(run, world);
         })->Unit(unit);
     };
-    add(
-        "switch warm/ours/", [](benchmark::State& run, World& it) { switchRegions(run, it, 2); },
-        benchmark::kMillisecond);
-    add(
-        "switch cold/ours/", [](benchmark::State& run, World& it) { switchRegions(run, it, 1000); },
-        benchmark::kMillisecond);
-    add("switch cold/limit/", decodePictures, benchmark::kMillisecond);
+    if (world.regions().size() > 1) {
+        add(
+            "switch warm/ours/", [](benchmark::State& run, World& it) { switchRegions(run, it, 2); },
+            benchmark::kMillisecond);
+        add(
+            "switch cold/ours/", [](benchmark::State& run, World& it) { switchRegions(run, it, 1000); },
+            benchmark::kMillisecond);
+        add("switch cold/limit/", decodePictures, benchmark::kMillisecond);
+    }
     add("drag/ours/", drag, benchmark::kMillisecond);
     add("blink/ours/", blink, benchmark::kMicrosecond);
 }

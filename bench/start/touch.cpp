@@ -37,6 +37,7 @@ struct Place {
 struct Order {
     std::vector<Place> clicks; // that give the keyboard to the search field
     Place map;                 // in the map, with room for the drag to the left and up
+    std::vector<Place> jump;   // the combo box of the campaigns, and the list's entry; empty: no jump
     std::vector<char*> command;
 };
 
@@ -67,6 +68,10 @@ class Hands {
         XTestFakeKeyEvent(display_, code, False, CurrentTime);
         XFlush(display_);
     }
+    void press() {
+        button(true);
+        button(false);
+    }
     // Without a window manager nobody else gives a window the keyboard.
     void click(Place at) {
         pointAt(at);
@@ -77,8 +82,7 @@ class Hands {
         XQueryPointer(display_, DefaultRootWindow(display_), &root, &window, &x, &y, &x, &y, &held);
         if (window != None)
             XSetInputFocus(display_, window, RevertToPointerRoot, CurrentTime);
-        button(true);
-        button(false);
+        press();
         rest(500);
     }
     // From sending an event to the last pixel that it changed, milliseconds; below 0: it changed none.
@@ -126,6 +130,18 @@ void drag(Hands& hands, std::size_t who, Place from) {
     hands.button(false);
 }
 
+// With all campaigns listed, an entry of another region than the one shown.
+void jump(Hands& hands, std::size_t who, const std::vector<Place>& places) {
+    hands.click(places[0]);
+    for (const KeySym sign : {XK_Home, XK_Return}) {
+        hands.key(sign);
+        rest(500);
+    }
+    hands.pointAt(places[1]);
+    rest(200);
+    tell(who, "clicked", hands.answered([&] { hands.press(); }));
+}
+
 void touch(Hands& hands, std::size_t who, const Order& order) {
     pid_t program = 0;
     if (posix_spawn(&program, order.command[0], nullptr, nullptr, order.command.data(), environ) != 0)
@@ -133,6 +149,8 @@ void touch(Hands& hands, std::size_t who, const Order& order) {
     rest(startedMs);
     type(hands, who, order.clicks);
     drag(hands, who, order.map);
+    if (!order.jump.empty())
+        jump(hands, who, order.jump);
     kill(program, SIGTERM);
     waitpid(program, nullptr, 0);
     rest(500);
@@ -148,23 +166,25 @@ bool readPlaces(const std::string& text, std::vector<Place>& places) {
     return !places.empty();
 }
 
-// CLICKS MAP COMMAND...
+// CLICKS MAP JUMP COMMAND...
 bool readOrder(const std::vector<char*>& words, Order& order) {
     std::vector<Place> map;
-    if (words.size() < 3 || !readPlaces(words[0], order.clicks) || !readPlaces(words[1], map))
+    if (words.size() < 4 || !readPlaces(words[0], order.clicks) || !readPlaces(words[1], map))
+        return false;
+    if (std::strcmp(words[2], "-") != 0 && (!readPlaces(words[2], order.jump) || order.jump.size() != 2))
         return false;
     order.map = map.front();
-    order.command.assign(words.begin() + 2, words.end());
+    order.command.assign(words.begin() + 3, words.end());
     order.command.push_back(nullptr);
     return true;
 }
 
 } // namespace
 
-// bench_touch FRAMEBUFFER ROUNDS ORDER [-- ORDER]..., an order being X,Y[;X,Y...] X,Y COMMAND...: starts the
-// commands in turn, types into the field and drags the map of each, and prints, a line for each key and step,
-// the command's position, what was done, and the milliseconds from sending the event to the last pixel that
-// it changed on the screen.
+// bench_touch FRAMEBUFFER ROUNDS ORDER [-- ORDER]..., an order being X,Y[;X,Y...] X,Y X,Y;X,Y|- COMMAND...:
+// starts the commands in turn, types into the field and drags the map of each, clicks on an entry of its list
+// unless there is a "-", and prints, a line for each key, step and click, the command's position, what was
+// done, and the milliseconds from sending the event to the last pixel that it changed on the screen.
 int main(int argc, char** argv) {
     std::vector<std::vector<char*>> words(1);
     for (int i = 3; i < argc; ++i) {
@@ -178,7 +198,7 @@ int main(int argc, char** argv) {
     for (std::size_t i = 0; i < words.size(); ++i)
         good = readOrder(words[i], orders[i]) && good;
     if (!good) {
-        std::fputs("usage: bench_touch FRAMEBUFFER ROUNDS CLICKS MAP COMMAND... [-- ...]\n", stderr);
+        std::fputs("usage: bench_touch FRAMEBUFFER ROUNDS CLICKS MAP JUMP COMMAND... [-- ...]\n", stderr);
         return 2;
     }
     const bench::Screen screen(argv[1]);
