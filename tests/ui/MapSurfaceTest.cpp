@@ -71,6 +71,11 @@ TEST_F(MapSurfaceTest, equalsThePlainPicturePixelForPixelThroughAllChanges) {
         const QRect part(upTo(200), upTo(140), 1 + upTo(100), 1 + upTo(100));
         const QImage expected = plain(all);
         ASSERT_EQ(expected.copy(part), surface.composed(part).copy(part)) << "part, round " << round;
+        if (round % 2 == 0) {
+            surface.composeAround(part);
+            const QRect nearby = part.adjusted(-upTo(80), -upTo(80), upTo(80), upTo(80));
+            ASSERT_EQ(expected.copy(nearby), surface.composed(nearby).copy(nearby)) << "round " << round;
+        }
         if (round % 3 == 0) {
             ASSERT_EQ(expected, surface.composed()) << "round " << round;
         }

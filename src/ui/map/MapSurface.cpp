@@ -32,9 +32,10 @@ size_t chained(size_t sequence, size_t next) {
 
 void copyRect(QImage& to, QPoint at, const QImage& from, const QRect& area) {
     const size_t bytes = static_cast<size_t>(area.width()) * sizeof(QRgb);
-    for (int y = 0; y < area.height(); ++y)
-        std::memcpy(reinterpret_cast<QRgb*>(to.scanLine(at.y() + y)) + at.x(),
-                    reinterpret_cast<const QRgb*>(from.constScanLine(area.y() + y)) + area.x(), bytes);
+    uchar* target = to.scanLine(at.y()) + size_t(at.x()) * sizeof(QRgb);
+    const uchar* source = from.constScanLine(area.y()) + size_t(area.x()) * sizeof(QRgb);
+    for (int y = 0; y < area.height(); ++y, target += to.bytesPerLine(), source += from.bytesPerLine())
+        std::memcpy(target, source, bytes);
 }
 
 } // namespace
@@ -75,6 +76,7 @@ void MapSurface::setMarkers(size_t layer, std::vector<Marker> markers, MarkersFr
     Layer& changed = layers_[layer];
     changed.markers = std::move(markers);
     changed.madeFrom = std::move(madeFrom);
+    composedTiles_ = {};
     sortIntoTiles(changed);
 }
 
@@ -121,6 +123,8 @@ size_t MapSurface::wanted(size_t tile) const {
 
 const QImage& MapSurface::composed(const QRect& area) {
     const QRect range = tilesOf(area);
+    if (composedTiles_.contains(range))
+        return image();
     if (!range.isEmpty() && tileRect(0, range.bottom()).bottom() >= picture_.rows)
         picture_.finish();
     drawGroundOn(range);
@@ -131,7 +135,13 @@ const QImage& MapSurface::composed(const QRect& area) {
             if (const size_t belongs = wanted(tile); belongs != tiles_[tile].drawn)
                 redraw(painter, column, row, belongs);
         }
+    composedTiles_ = range;
     return image();
+}
+
+void MapSurface::composeAround(const QRect& area) {
+    if (picture_.ready())
+        composed(area.adjusted(-tileSize, -tileSize, tileSize, tileSize));
 }
 
 // The end of the tiles of a row, from `column` on, that have not got their ground.

@@ -47,6 +47,9 @@ class MapSurface {
     // The composition, up to date within `area` (map pixels).
     const QImage& composed(const QRect& area);
     const QImage& composed() { return composed(image().rect()); }
+    // Composes also what lies up to a tile around the area, which is about to scroll into view, unless that
+    // would have to wait for the picture.
+    void composeAround(const QRect& area);
 
   private:
     struct Tile {
@@ -80,6 +83,7 @@ class MapSurface {
     int columns_;
     int rows_;
     std::vector<Tile> tiles_;
+    QRect composedTiles_;  // columns and rows that are up to date; there may be others
     int groundedRows_ = 0; // of tiles, from the top, that drawMoreGround is done with
     std::vector<Layer> layers_;
 };

@@ -153,7 +153,17 @@ void frmMap::beginRest() {
 
 // Before it scrolls into view; a row of tiles at a time, so that nobody waits for it.
 void frmMap::prepareGround() {
+    if (surface_ && scrolls_)
+        surface_->composeAround(viewport_->view().visible());
+    scrolls_ = false;
     if (surface_ && surface_->drawMoreGround())
+        groundTimer_.start();
+}
+
+// The next step soon follows.
+void frmMap::prepareNextStep() {
+    scrolls_ = true;
+    if (!groundTimer_.isActive())
         groundTimer_.start();
 }
 
@@ -211,6 +221,7 @@ void frmMap::press(Qt::MouseButton button, Qt::KeyboardModifiers keys, ViewPoint
         dragging_ = true;
         const MapPoint grip = toMap(at); // mouse minus scroll, rounded
         drag_ = {double(grip.x), double(grip.y)};
+        prepareNextStep();
     }
     if (button == Qt::RightButton && !askMouseOverChain(at))
         emit regionMenuWanted(QCursor::pos());
@@ -224,6 +235,7 @@ void frmMap::moveTo(ViewPoint at, bool leftHeld) {
         viewport_->view().dragTo(static_cast<int>(std::lrint(at.x - drag_.x)),
                                  static_cast<int>(std::lrint(at.y - drag_.y)));
         UpdateMap();
+        prepareNextStep();
     } else if (with_.informationMode == 1 && !askMouseOverChain(at)) {
         HideInformationWindows();
     }
@@ -257,6 +269,7 @@ void frmMap::scrollBy(int dx, int dy) {
     MapView& view = viewport_->view();
     view.scrollTo(view.scrollX() - dx, view.scrollY() - dy);
     UpdateMap();
+    prepareNextStep();
 }
 
 ViewPoint frmMap::bringIntoView(MapPoint place) {

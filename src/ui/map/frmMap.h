@@ -110,6 +110,7 @@ class frmMap : public QWidget {
     void sayWhatIsShown();
     void showEmptyMap();
     void prepareGround();
+    void prepareNextStep();
     std::unique_ptr<MapSurface> loadRegion(const QString& picture, int campaign, int region);
 
     Surroundings with_;
@@ -129,7 +130,8 @@ class frmMap : public QWidget {
     int campaign_ = 0;
     int region_ = 0;
     bool dragging_ = false;
-    ViewPoint drag_; // mouse position minus scroll offset when the drag started
+    bool scrolls_ = false; // since the ground was prepared last
+    ViewPoint drag_;       // mouse position minus scroll offset when the drag started
     ViewPoint last_;
     Qt::MouseButton lastButton_ = Qt::NoButton;
 };
