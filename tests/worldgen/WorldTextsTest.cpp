@@ -48,14 +48,14 @@ TEST_F(WorldTexts, giveEachPlaceOfASkillALineOfItsOwn) {
 }
 
 TEST_F(WorldTexts, fitTheirLists) {
-    constexpr int ChestLine = 188;
-    constexpr int RegionLine = 105; // beside the arrow of the box
+    constexpr int chestLine = 188;
+    constexpr int regionLine = 105; // beside the arrow of the box
     for (const SourceChest& chest : source.chests) {
         const QString line = chest.name + u" ("_s + zone(chest.zone).name + u')';
-        EXPECT_GE(ChestLine, width(line)) << line.toStdString();
+        EXPECT_GE(chestLine, width(line)) << line.toStdString();
     }
     for (const SourceRegion& region : source.regions) {
-        EXPECT_GE(RegionLine, width(region.name)) << region.name.toStdString();
+        EXPECT_GE(regionLine, width(region.name)) << region.name.toStdString();
     }
 }
 
@@ -72,7 +72,7 @@ TEST_F(WorldTexts, sayTheSameAndFitInEveryLanguage) {
     int widest = 0;
     for (const SourceSkill& skill : source.skills)
         widest = std::max(widest, width(skill.description));
-    for (std::size_t language = 0; language < std::size(WorldLanguages); ++language) {
+    for (std::size_t language = 0; language < std::size(worldLanguages); ++language) {
         const WorldSource other = translated(source, QString::fromUtf8(WORLDGEN_WORLD), language, problems);
         EXPECT_TRUE(problems.isEmpty()) << problems.join(u'\n').toStdString();
         for (std::size_t i = 0; i < source.skills.size(); ++i) {

@@ -25,7 +25,7 @@ QString copyName(const QString& name, int copy) {
 }
 
 QString petId(const QString& idText, int copy) {
-    return u"%1"_s.arg(idText.toInt() + copy * NumberStep, 4, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(idText.toInt() + copy * numberStep, 4, 10, QLatin1Char('0'));
 }
 
 } // namespace
@@ -40,12 +40,12 @@ WorldSource multiplied(const WorldSource& source, int factor) {
     });
     multiply(world.skills, factor, [](SourceSkill& skill, int copy) {
         skill.pictureOf = skill.id;
-        skill.id += copy * NumberStep;
+        skill.id += copy * numberStep;
         skill.name = copyName(skill.name, copy);
     });
     multiply(world.bosses, factor, [&](SourceBoss& boss, int copy) {
-        boss.skill += boss.skill == 0 ? 0 : copy * NumberStep;
-        if (boss.name == AlwaysGenerous) {
+        boss.skill += boss.skill == 0 ? 0 : copy * numberStep;
+        if (boss.name == alwaysGenerous) {
             // Its copies have other names: nothing may keep them from dropping the copied green items.
             boss.code.clear();
             boss.note.clear();
@@ -54,7 +54,7 @@ WorldSource multiplied(const WorldSource& source, int factor) {
         boss.zone += copy * zoneCount;
     });
     multiply(world.collectors, factor, [&](SourceCollector& collector, int copy) {
-        collector.id += copy * NumberStep;
+        collector.id += copy * numberStep;
         collector.name = copyName(collector.name, copy);
         collector.zone += collector.zone < 0 ? 0 : copy * zoneCount;
     });

@@ -7,17 +7,17 @@ namespace worldgen {
 
 namespace {
 
-constexpr int BorderGap = 36;     // the painted frame, and room for half a marker
-constexpr int MarkerSpacing = 16; // one pixel more than the widest marker
-constexpr int ZoneSpacing = 60;
-constexpr int MarkerHalf = 8;
-constexpr int NameHeight = 16;
-constexpr int ChestReach = 200; // hidden things lie farther from the villages than people stand
-constexpr int CollectorReach = 110;
-constexpr int BossReach = 200;
-constexpr int PetReach = 210;
-constexpr int TriesPerRing = 48;
-constexpr int CellSize = 64;
+constexpr int borderGap = 36;     // the painted frame, and room for half a marker
+constexpr int markerSpacing = 16; // one pixel more than the widest marker
+constexpr int zoneSpacing = 60;
+constexpr int markerHalf = 8;
+constexpr int nameHeight = 16;
+constexpr int chestReach = 200; // hidden things lie farther from the villages than people stand
+constexpr int collectorReach = 110;
+constexpr int bossReach = 200;
+constexpr int petReach = 210;
+constexpr int triesPerRing = 48;
+constexpr int cellSize = 64;
 
 SiteRole roleOf(ZoneKind kind) {
     switch (kind) {
@@ -104,7 +104,7 @@ void RegionFiller::fillZones(const Ground& ground) {
         const SourceZone& zone = source_.zones[i];
         if (liesIn(region_, zone) && !zone.painted) {
             places_.zones[i] =
-                place(centre_, std::max(region_.size.width(), region_.size.height()), ZoneSpacing);
+                place(centre_, std::max(region_.size.width(), region_.size.height()), zoneSpacing);
         }
     }
 }
@@ -114,16 +114,16 @@ void RegionFiller::fill(const Records& records, int reach, std::vector<QPoint>& 
     for (std::size_t i = 0; i < records.size(); ++i) {
         const int zone = records[i].zone;
         if (zone >= 0 && liesIn(region_, source_.zones[std::size_t(zone)]))
-            places[i] = place(places_.zones[std::size_t(zone)], reach, MarkerSpacing);
+            places[i] = place(places_.zones[std::size_t(zone)], reach, markerSpacing);
     }
 }
 
 } // namespace
 
 PlaceFinder::PlaceFinder(QSize picture, std::function<bool(QPoint)> land, quint64 seed)
-    : inner_(QRect(QPoint(0, 0), picture).adjusted(BorderGap, BorderGap, -BorderGap, -BorderGap)),
-      land_(std::move(land)), state_(seed), columns_(picture.width() / CellSize + 1),
-      taken_(std::size_t(columns_) * std::size_t(picture.height() / CellSize + 1)), fullFrom_(CellSize + 1) {
+    : inner_(QRect(QPoint(0, 0), picture).adjusted(borderGap, borderGap, -borderGap, -borderGap)),
+      land_(std::move(land)), state_(seed), columns_(picture.width() / cellSize + 1),
+      taken_(std::size_t(columns_) * std::size_t(picture.height() / cellSize + 1)), fullFrom_(cellSize + 1) {
 }
 
 quint32 PlaceFinder::random() {
@@ -135,8 +135,8 @@ quint32 PlaceFinder::random() {
 }
 
 std::vector<QPoint>& PlaceFinder::cellOf(QPoint place) {
-    return taken_[std::size_t(place.y() / CellSize) * std::size_t(columns_) +
-                  std::size_t(place.x() / CellSize)];
+    return taken_[std::size_t(place.y() / cellSize) * std::size_t(columns_) +
+                  std::size_t(place.x() / cellSize)];
 }
 
 // Markers are squares: apart along one axis is apart. A spacing is never larger than a cell, so that the
@@ -147,8 +147,8 @@ bool PlaceFinder::isCrowded(QPoint place, int spacing) const {
         return std::abs(gap.x()) < spacing && std::abs(gap.y()) < spacing;
     };
     const int rows = int(taken_.size()) / columns_;
-    const int column = place.x() / CellSize;
-    const int row = place.y() / CellSize;
+    const int column = place.x() / cellSize;
+    const int row = place.y() / cellSize;
     for (int y = std::max(0, row - 1); y <= std::min(rows - 1, row + 1); ++y) {
         for (int x = std::max(0, column - 1); x <= std::min(columns_ - 1, column + 1); ++x) {
             const std::vector<QPoint>& cell = taken_[std::size_t(y) * std::size_t(columns_) + std::size_t(x)];
@@ -169,7 +169,7 @@ bool PlaceFinder::isFree(QPoint place, int spacing) const {
 // that no machine rounds differently.
 std::optional<QPoint> PlaceFinder::tryRing(QPoint centre, int reach, int spacing) {
     const quint32 side = quint32(2 * reach + 1);
-    for (int i = 0; i < TriesPerRing; ++i) {
+    for (int i = 0; i < triesPerRing; ++i) {
         const QPoint offset(int(random() % side) - reach, int(random() % side) - reach);
         const bool inCircle = offset.x() * offset.x() + offset.y() * offset.y() <= reach * reach;
         if (inCircle && isFree(centre + offset, spacing))
@@ -179,10 +179,10 @@ std::optional<QPoint> PlaceFinder::tryRing(QPoint centre, int reach, int spacing
 }
 
 std::optional<QPoint> PlaceFinder::searchAll(QPoint centre, int spacing) const {
-    constexpr int Step = 5;
+    constexpr int step = 5;
     std::optional<QPoint> best;
-    for (int y = inner_.top(); y <= inner_.bottom(); y += Step) {
-        for (int x = inner_.left(); x <= inner_.right(); x += Step) {
+    for (int y = inner_.top(); y <= inner_.bottom(); y += step) {
+        for (int x = inner_.left(); x <= inner_.right(); x += step) {
             const QPoint place(x, y);
             const bool nearer =
                 !best || (place - centre).manhattanLength() < (*best - centre).manhattanLength();
@@ -216,18 +216,18 @@ WorldPlaces::WorldPlaces(const WorldSource& source)
 }
 
 QRect zoneFootprint(const SourceZone& zone, QPoint place) {
-    constexpr int HalfLetter = 4;
-    const int nameHalf = HalfLetter * int(zone.name.size()) + MarkerHalf;
+    constexpr int halfLetter = 4;
+    const int nameHalf = halfLetter * int(zone.name.size()) + markerHalf;
     const QSize marker = markerSize(zone);
     const int down = marker.height() / 2 + 1;
     const bool nameOnly = zone.kind == ZoneKind::Area && !zone.marker;
-    const QRect name = nameOnly ? QRect(-nameHalf, -NameHeight / 2, 2 * nameHalf, NameHeight)
-                                : QRect(-nameHalf, down, 2 * nameHalf, NameHeight);
+    const QRect name = nameOnly ? QRect(-nameHalf, -nameHeight / 2, 2 * nameHalf, nameHeight)
+                                : QRect(-nameHalf, down, 2 * nameHalf, nameHeight);
     const QRect picture(-marker.width() / 2, -down, marker.width(), 2 * down);
-    constexpr int Clear = 12;
+    constexpr int clear = 12;
     const QRect least(-20, -20, 40, 40);
-    return name.adjusted(0, -MarkerHalf, 0, MarkerHalf)
-        .united(picture.adjusted(-Clear, -Clear, Clear, Clear))
+    return name.adjusted(0, -markerHalf, 0, markerHalf)
+        .united(picture.adjusted(-clear, -clear, clear, clear))
         .united(least)
         .translated(place);
 }
@@ -245,8 +245,8 @@ RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
 
 Ground groundOf(const SurveyedRegion& survey) {
     return {survey.sites, [&survey](QPoint place) {
-                return survey.land(place) && survey.distanceToWater(place) > MarkerHalf &&
-                       survey.distanceToRiver(place) > MarkerHalf;
+                return survey.land(place) && survey.distanceToWater(place) > markerHalf &&
+                       survey.distanceToRiver(place) > markerHalf;
             }};
 }
 
@@ -254,10 +254,10 @@ void placeRegion(const WorldSource& source, const SourceRegion& region, const Gr
                  WorldPlaces& places) {
     RegionFiller filler(source, region, ground, places);
     filler.fillZones(ground);
-    filler.fill(source.chests, ChestReach, places.chests);
-    filler.fill(source.collectors, CollectorReach, places.collectors);
-    filler.fill(source.bosses, BossReach, places.bosses);
-    filler.fill(source.petPlaces, PetReach, places.petPlaces);
+    filler.fill(source.chests, chestReach, places.chests);
+    filler.fill(source.collectors, collectorReach, places.collectors);
+    filler.fill(source.bosses, bossReach, places.bosses);
+    filler.fill(source.petPlaces, petReach, places.petPlaces);
 }
 
 } // namespace worldgen

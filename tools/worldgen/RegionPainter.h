@@ -62,6 +62,9 @@ struct RegionRecipe {
     Landform landform = Landform::Mountains;
 };
 
+// Of the painted frame along each border of a picture, pixels: no name and no marker lies on it.
+inline constexpr int frameWidth = 20;
+
 struct Landscape;
 
 // The ground that the name of a site covers in the program, below its marker.

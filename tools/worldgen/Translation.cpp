@@ -96,7 +96,7 @@ void Translator::phrase(QString& text) const {
 }
 
 void Translator::description(SourceSkill& skill) const {
-    const auto found = descriptions_.constFind(skill.id % NumberStep);
+    const auto found = descriptions_.constFind(skill.id % numberStep);
     if (found == descriptions_.constEnd()) {
         problems_.append(u"no translation: "_s + skill.name);
         return;

@@ -26,8 +26,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int JpegQuality = 90;
-const QString StampKey = u"Painted"_s; // in a picture's comment: what it was painted from
+constexpr int jpegQuality = 90;
+const QString stampKey = u"Painted"_s; // in a picture's comment: what it was painted from
 
 // Pictures of another painter are painted again.
 QByteArray painterStamp() {
@@ -70,7 +70,7 @@ QString recipeText(const AnimalPicture& animal) {
         text += u"|%1 %2 %3"_s.arg(part.kind).arg(part.colour).arg(part.shape);
     return text;
 }
-constexpr int WithoutAttribute = 5; // for the painter of skills
+constexpr int withoutAttribute = 5; // for the painter of skills
 
 class Builder {
   public:
@@ -131,7 +131,7 @@ void Builder::renewPicture(const QString& name, const QString& recipe, const std
     const QByteArray whole = painterStamp_ + recipe.toUtf8();
     const QString stamp =
         QString::fromLatin1(QCryptographicHash::hash(whole, QCryptographicHash::Sha1).toHex());
-    if (QImageReader(outFolder_ + name).text(StampKey) != stamp)
+    if (QImageReader(outFolder_ + name).text(stampKey) != stamp)
         savePicture(name, paint(), stamp);
 }
 
@@ -139,9 +139,9 @@ void Builder::savePicture(const QString& name, const QImage& picture, const QStr
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "jpg");
-    writer.setQuality(JpegQuality);
+    writer.setQuality(jpegQuality);
     if (!stamp.isEmpty())
-        writer.setText(StampKey, stamp);
+        writer.setText(stampKey, stamp);
     if (!writer.write(picture)) {
         problem(name + u": "_s + writer.errorString());
         return;
@@ -206,7 +206,7 @@ void Builder::paintSkills() {
         if (skill.pictureOf == 0 && isWanted(name)) {
             const qsizetype attribute = profession->attributes.indexOf(skill.attribute);
             const SkillPicture picture{quint32(skill.id), profession->colour,
-                                       attribute < 0 ? WithoutAttribute : int(attribute), skill.signs};
+                                       attribute < 0 ? withoutAttribute : int(attribute), skill.signs};
             renewPicture(name, recipeText(picture), [&] { return paintSkillIcon(picture); });
         }
     });
@@ -245,9 +245,9 @@ void Builder::writeTranslations() {
     const QStringList withTexts{u"EliteList.txt"_s,    u"EliteLocations.txt"_s, u"Collectors.txt"_s,
                                 u"Greens.txt"_s,       u"Treasures.txt"_s,      u"PetsList.txt"_s,
                                 u"PetsLocations.txt"_s};
-    for (std::size_t language = 0; language < std::size(WorldLanguages); ++language) {
+    for (std::size_t language = 0; language < std::size(worldLanguages); ++language) {
         const WorldSource world = translated(source_, worldFolder_, language, problems_);
-        const QString folder = u"Data/Worlds/"_s + WorldLanguages[language].toString() + u'/';
+        const QString folder = u"Data/Worlds/"_s + worldLanguages[language].toString() + u'/';
         for (const SourceCampaign& campaign : world.campaigns) {
             QDir(outFolder_).mkpath(folder + campaignFolder(campaign));
             for (const auto& [name, bytes] : campaignFiles(world, places_, campaign, problems_)) {
@@ -274,7 +274,7 @@ QStringList Builder::build(Translations translations) {
     paintSkills();
     paintPets();
     if (problems_.isEmpty()) {
-        if (translations == Translations::written)
+        if (translations == Translations::Written)
             writeTranslations();
         writeTables(); // last, so that tables never promise what is not there
     }

@@ -5,7 +5,7 @@
 namespace worldgen {
 
 // A multiplied world has names that no translator has seen: it is written in English alone.
-enum class Translations { written, leftOut };
+enum class Translations { Written, LeftOut };
 
 // Paints all pictures, places all markers and writes the program's world into `outFolder`, which is made
 // when it is missing. Files of the same names are replaced; nothing else in the folder is touched, and never

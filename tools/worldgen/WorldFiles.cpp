@@ -127,9 +127,9 @@ Lines CampaignWriter::skills() const {
 }
 
 QString CampaignWriter::bossCoordinate(int pixels) const {
-    constexpr int TwipsPerPixel = 15;
+    constexpr int twipsPerPixel = 15;
     const bool inPixels = !campaign_.version.isEmpty() && campaign_.version != u"1.0";
-    return field(inPixels ? pixels : pixels * TwipsPerPixel);
+    return field(inPixels ? pixels : pixels * twipsPerPixel);
 }
 
 Lines CampaignWriter::bosses() const {

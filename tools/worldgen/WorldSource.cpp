@@ -15,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int HighestNumber = NumberStep - 1;
+constexpr int highestNumber = numberStep - 1;
 
 // Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
 bool kindFitsCampaign(ZoneKind kind, int campaign) {
@@ -32,7 +32,7 @@ bool kindFitsCampaign(ZoneKind kind, int campaign) {
 // Bosses of dungeons and of passing events drop no green items, but for the one that is at home in both.
 bool carriesGreens(const SourceBoss& boss) {
     const bool passing = boss.note.startsWith(u"only during", Qt::CaseInsensitive) || boss.code == u"D";
-    return !passing || boss.name == AlwaysGenerous;
+    return !passing || boss.name == alwaysGenerous;
 }
 
 struct ZoneWord {
@@ -41,7 +41,7 @@ struct ZoneWord {
     bool marker;
 };
 
-constexpr ZoneWord ZoneWords[] = {
+constexpr ZoneWord zoneWords[] = {
     {u"town", ZoneKind::Town, true},
     {u"outpost", ZoneKind::Outpost, true},
     {u"mission", ZoneKind::Mission, true},
@@ -51,14 +51,14 @@ constexpr ZoneWord ZoneWords[] = {
     {u"dungeon", ZoneKind::DungeonEntrance, true},
 };
 
-constexpr std::pair<QStringView, SiteNear> NearWords[] = {
+constexpr std::pair<QStringView, SiteNear> nearWords[] = {
     {u"", SiteNear::Anything},   {u"coast", SiteNear::Coast},   {u"lake", SiteNear::Lake},
     {u"river", SiteNear::River}, {u"ridge", SiteNear::Ridge},   {u"forest", SiteNear::Forest},
     {u"pass", SiteNear::Pass},   {u"cliffs", SiteNear::Cliffs}, {u"water", SiteNear::Water},
     {u"sea", SiteNear::Sea},     {u"bamboo", SiteNear::Bamboo}, {u"open", SiteNear::Open},
 };
 
-constexpr std::pair<QStringView, Landmark> LandmarkWords[] = {
+constexpr std::pair<QStringView, Landmark> landmarkWords[] = {
     {u"", Landmark::None},           {u"stones", Landmark::Stones}, {u"windmill", Landmark::Windmill},
     {u"obelisk", Landmark::Obelisk}, {u"barrow", Landmark::Barrow}, {u"tree", Landmark::Tree},
     {u"wreck", Landmark::Wreck},     {u"ruin", Landmark::Ruin},     {u"tower", Landmark::Tower},
@@ -66,12 +66,12 @@ constexpr std::pair<QStringView, Landmark> LandmarkWords[] = {
     {u"lantern", Landmark::Lantern}, {u"bamboo", Landmark::Bamboo}, {u"palms", Landmark::Palms},
 };
 
-constexpr std::pair<QStringView, Landform> LandformWords[] = {
+constexpr std::pair<QStringView, Landform> landformWords[] = {
     {u"mountains", Landform::Mountains}, {u"hills", Landform::Hills}, {u"plain", Landform::Plain},
     {u"fens", Landform::Fens},           {u"isles", Landform::Isles},
 };
 
-constexpr std::pair<QStringView, Theme> ThemeWords[] = {
+constexpr std::pair<QStringView, Theme> themeWords[] = {
     {u"temperate", Theme::Temperate},
     {u"desert", Theme::Desert},
     {u"frost", Theme::Frost},
@@ -189,7 +189,7 @@ void SourceReader::readSkills() {
 
 void SourceReader::readSkill(const SourceRow& row, const SignBook& signs) {
     SourceSkill skill;
-    skill.id = numberIn(row, 0, 1, HighestNumber, problems_);
+    skill.id = numberIn(row, 0, 1, highestNumber, problems_);
     skill.campaign = numberIn(row, 1, 0, 4, problems_);
     skill.name = row.fields[2];
     skill.attribute = row.fields[3];
@@ -223,11 +223,11 @@ void SourceReader::readRegions(int campaign) {
         region.number = numberIn(row, 0, 1, 255, problems_);
         region.fileNumber = row.fields[0];
         region.name = row.fields[1];
-        region.theme = word(row, 2, ThemeWords);
+        region.theme = word(row, 2, themeWords);
         region.size = QSize(numberIn(row, 3, 200, 4000, problems_), numberIn(row, 4, 200, 4000, problems_));
         region.seed = quint32(numberIn(row, 5, 1, 1'000'000, problems_));
         if (row.fields.size() > 6)
-            region.landform = word(row, 6, LandformWords);
+            region.landform = word(row, 6, landformWords);
         world_.regions.push_back(region);
     }
 }
@@ -237,17 +237,17 @@ void SourceReader::readZones(int campaign) {
         SourceZone zone;
         zone.id = int(world_.zones.size()) + 1;
         zone.campaign = campaign;
-        zone.nearTo = word(row, 1, NearWords);
+        zone.nearTo = word(row, 1, nearWords);
         zone.name = row.fields[2];
         if (row.fields.size() > 3)
-            zone.landmark = word(row, 3, LandmarkWords);
-        const auto* kind = std::find_if(std::begin(ZoneWords), std::end(ZoneWords),
+            zone.landmark = word(row, 3, landmarkWords);
+        const auto* kind = std::find_if(std::begin(zoneWords), std::end(zoneWords),
                                         [&](const ZoneWord& known) { return known.word == row.fields[0]; });
         const auto region =
             std::find_if(world_.regions.begin(), world_.regions.end(), [&](const SourceRegion& known) {
                 return known.campaign == campaign && known.name == row.section;
             });
-        if (kind == std::end(ZoneWords) || region == world_.regions.end() ||
+        if (kind == std::end(zoneWords) || region == world_.regions.end() ||
             !kindFitsCampaign(kind->kind, campaign) || zones_.contains({campaign, zone.name})) {
             problem(row,
                     u"unknown kind or region, kind not of this campaign, or name used twice: "_s + zone.name);
@@ -296,7 +296,7 @@ void SourceReader::readCollectors(int campaign) {
                 continue;
             }
             SourceCollector collector;
-            collector.id = numberIn(row, 0, 1, HighestNumber, problems_);
+            collector.id = numberIn(row, 0, 1, highestNumber, problems_);
             collector.campaign = campaign;
             collector.name = name;
             collector.armour = row.fields[1] == u"armour";
@@ -333,7 +333,7 @@ void SourceReader::readChests() {
 void SourceReader::readPets() {
     const QHash<QString, AnimalPicture> animals = readAnimals(rows(u"animals.txt"_s, 2), problems_);
     for (const SourceRow& row : rows(0, u"pets.txt", 4)) {
-        numberIn(row, 0, 1, HighestNumber, problems_);
+        numberIn(row, 0, 1, highestNumber, problems_);
         world_.pets.push_back(
             {row.fields[0], row.fields[1], animals.value(row.fields[2]), row.fields[3], {}});
         if (!animals.contains(row.fields[2]))

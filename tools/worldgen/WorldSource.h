@@ -15,10 +15,10 @@ enum class ZoneKind { Area = 1, Outpost = 2, Mission = 3, Town = 4, Challenge = 
 
 // Numbers of skills, collectors and pets in the tables stay below this, so that multiplied copies, which add
 // multiples of it, get numbers of their own.
-constexpr int NumberStep = 600;
+constexpr int numberStep = 600;
 
 // The one boss that drops its green items whatever its code and note say. The program knows it by name.
-inline constexpr QStringView AlwaysGenerous = u"Quillon Brackfin";
+inline constexpr QStringView alwaysGenerous = u"Quillon Brackfin";
 
 struct SourceCampaign {
     int number = 0;

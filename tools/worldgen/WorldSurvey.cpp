@@ -9,8 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int Frame = 20;
-constexpr int Grid = 8; // every eighth pixel along and down is looked at
+constexpr int grid = 8; // every eighth pixel along and down is looked at
 
 std::vector<QPoint> placesIn(const WorldSource& source, const SourceRegion& region,
                              const WorldPlaces& places) {
@@ -39,15 +38,15 @@ std::vector<QPoint> placesIn(const WorldSource& source, const SourceRegion& regi
 double emptyShare(const SurveyedRegion& survey, QSize size, const std::vector<QPoint>& places) {
     int land = 0;
     int empty = 0;
-    for (int y = Frame; y < size.height() - Frame; y += Grid) {
-        for (int x = Frame; x < size.width() - Frame; x += Grid) {
+    for (int y = frameWidth; y < size.height() - frameWidth; y += grid) {
+        for (int x = frameWidth; x < size.width() - frameWidth; x += grid) {
             const QPoint here(x, y);
             if (survey.distanceToWater(here) <= 0)
                 continue;
             ++land;
             const bool near = std::any_of(places.begin(), places.end(), [&](QPoint place) {
                 const QPoint gap = place - here;
-                return QPoint::dotProduct(gap, gap) <= EmptyReach * EmptyReach;
+                return QPoint::dotProduct(gap, gap) <= emptyReach * emptyReach;
             });
             empty += near ? 0 : 1;
         }
@@ -61,7 +60,8 @@ RegionFinding look(const WorldSource& source, const SourceRegion& region) {
     const SurveyedRegion survey = surveyRegion(recipe);
     WorldPlaces places(source);
     placeRegion(source, region, groundOf(survey), places);
-    const QRect inner = QRect(QPoint(), region.size).adjusted(Frame, Frame, -Frame, -Frame);
+    const QRect inner =
+        QRect(QPoint(), region.size).adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
     for (std::size_t i = 0; i < recipe.sites.size(); ++i) {
         const SiteWish& wish = recipe.sites[i];
         if (!survey.offers(survey.sites[i], wish.near))

@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int HighestScale = 100;
+constexpr int highestScale = 100;
 
 struct Order {
     QString outFolder;
@@ -35,7 +35,7 @@ std::optional<Order> readOrder(const QStringList& arguments) {
             return std::nullopt;
         }
     }
-    if (order.outFolder.isEmpty() || order.scale < 1 || order.scale > HighestScale)
+    if (order.outFolder.isEmpty() || order.scale < 1 || order.scale > highestScale)
         return std::nullopt;
     return order;
 }
@@ -53,7 +53,7 @@ int survey(const worldgen::WorldSource& source) {
                     100 * finding.emptyShare);
         for (const QString& problem : finding.problems)
             problems.append(finding.region + u": "_s + problem);
-        if (finding.emptyShare > worldgen::MostEmpty)
+        if (finding.emptyShare > worldgen::mostEmpty)
             problems.append(finding.region + u": an empty half"_s);
     }
     return tell(problems);
@@ -74,9 +74,9 @@ int run(const Order& order) {
         return tell(worldgen::paintPictures(source, order.outFolder, order.only));
     if (order.scale == 1)
         return tell(
-            worldgen::buildWorld(source, worldFolder, order.outFolder, worldgen::Translations::written));
+            worldgen::buildWorld(source, worldFolder, order.outFolder, worldgen::Translations::Written));
     return tell(worldgen::buildWorld(worldgen::multiplied(source, order.scale), worldFolder, order.outFolder,
-                                     worldgen::Translations::leftOut));
+                                     worldgen::Translations::LeftOut));
 }
 
 } // namespace

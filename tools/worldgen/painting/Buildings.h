@@ -8,10 +8,10 @@ enum class BuildingStyle { Timber, Pagoda, Adobe, Longhouse };
 
 BuildingStyle buildingStyleOf(int campaign);
 
-// A dwelling about 9 pixels wide at \a scale 1; two to three times that for halls and temples.
+// A dwelling about 9 pixels wide at `scale` 1; two to three times that for halls and temples.
 Sprite paintedHouse(BuildingStyle style, double scale, Rng& rng);
 Sprite paintedTower(BuildingStyle style, double scale, Rng& rng);
-// A stretch of wall or palisade from the origin to \a to.
+// A stretch of wall or palisade from the origin to `to`.
 Sprite paintedWall(QPointF to, bool timber);
 Sprite paintedTent(Rng& rng);
 Sprite paintedBanner(Rng& rng);

@@ -37,7 +37,7 @@ inline QColor inked(Colour c, int alpha = 255) {
     return QColor(byteOf(c.r), byteOf(c.g), byteOf(c.b), alpha);
 }
 
-// Lays \a over on a pixel of a picture.
+// Lays `over` on a pixel of a picture.
 inline void tint(QRgb& pixel, Colour over, double strength) {
     pixel = rgbOf(mixed(colourOf(pixel), over, strength));
 }

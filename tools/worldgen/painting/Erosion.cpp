@@ -5,11 +5,11 @@ namespace worldgen {
 
 namespace {
 
-constexpr double kInertia = 0.06;
-constexpr double kCapacity = 3.2;
-constexpr double kExchange = 0.3;
-constexpr int kLifetime = 42;
-constexpr double kDropsPerCell = 0.19; // more melts the peaks
+constexpr double inertia = 0.06;
+constexpr double loadCapacity = 3.2;
+constexpr double exchangeRate = 0.3;
+constexpr int lifetime = 42;
+constexpr double dropsPerCell = 0.19; // more melts the peaks
 
 // One drop of rain on its way down: it takes ground along where it runs fast and leaves it where it slows.
 class Drop {
@@ -43,19 +43,19 @@ bool Drop::advance() {
     const double here = lerp(lerp(nw, ne, a_), lerp(sw, se, a_), b_);
     if (here < -0.02)
         return false;
-    dirX_ = dirX_ * kInertia - lerp(ne - nw, se - sw, b_) * (1 - kInertia);
-    dirY_ = dirY_ * kInertia - lerp(sw - nw, se - ne, a_) * (1 - kInertia);
+    dirX_ = dirX_ * inertia - lerp(ne - nw, se - sw, b_) * (1 - inertia);
+    dirY_ = dirY_ * inertia - lerp(sw - nw, se - ne, a_) * (1 - inertia);
     const double length = lengthOf(dirX_, dirY_);
     if (length < 1e-9)
         return false;
     dirX_ /= length;
     dirY_ /= length;
     const double rise = height_.sampled(x_ + dirX_, y_ + dirY_) - here;
-    const double capacity = std::max(-rise, 0.0008) * speed_ * water_ * kCapacity;
+    const double capacity = std::max(-rise, 0.0008) * speed_ * water_ * loadCapacity;
     if (load_ > capacity || rise > 0)
-        lay(rise > 0 ? std::min(rise, load_) : (load_ - capacity) * kExchange);
+        lay(rise > 0 ? std::min(rise, load_) : (load_ - capacity) * exchangeRate);
     else
-        dig(std::min((capacity - load_) * kExchange, -rise));
+        dig(std::min((capacity - load_) * exchangeRate, -rise));
     speed_ = std::sqrt(std::max(0.0, speed_ * speed_ - rise * 4));
     water_ *= 0.985;
     x_ += dirX_;
@@ -84,12 +84,12 @@ void Drop::dig(double amount) {
 
 void erode(Field& height, quint32 seed) {
     Rng rng(seed * 5ULL + 4);
-    const int drops = int(height.count() * kDropsPerCell);
+    const int drops = int(height.count() * dropsPerCell);
     for (int k = 0; k < drops; ++k) {
         const double x = rng.range(1, height.width() - 2);
         const double y = rng.range(1, height.height() - 2);
         Drop drop(height, x, y);
-        for (int step = 0; step < kLifetime && drop.advance(); ++step) {
+        for (int step = 0; step < lifetime && drop.advance(); ++step) {
         }
     }
 }

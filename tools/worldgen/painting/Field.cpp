@@ -41,7 +41,7 @@ Field blurred(const Field& source, int radius) {
 
 namespace {
 
-constexpr float kDiagonal = 1.41421356F;
+constexpr float diagonal = 1.41421356F;
 
 void relaxForward(Field& d, int x, int y) {
     float& here = d.at(x, y);
@@ -51,9 +51,9 @@ void relaxForward(Field& d, int x, int y) {
         return;
     here = std::min(here, d.at(x, y - 1) + 1);
     if (x > 0)
-        here = std::min(here, d.at(x - 1, y - 1) + kDiagonal);
+        here = std::min(here, d.at(x - 1, y - 1) + diagonal);
     if (x + 1 < d.width())
-        here = std::min(here, d.at(x + 1, y - 1) + kDiagonal);
+        here = std::min(here, d.at(x + 1, y - 1) + diagonal);
 }
 
 void relaxBackward(Field& d, int x, int y) {
@@ -64,9 +64,9 @@ void relaxBackward(Field& d, int x, int y) {
         return;
     here = std::min(here, d.at(x, y + 1) + 1);
     if (x + 1 < d.width())
-        here = std::min(here, d.at(x + 1, y + 1) + kDiagonal);
+        here = std::min(here, d.at(x + 1, y + 1) + diagonal);
     if (x > 0)
-        here = std::min(here, d.at(x - 1, y + 1) + kDiagonal);
+        here = std::min(here, d.at(x - 1, y + 1) + diagonal);
 }
 
 } // namespace

@@ -38,11 +38,11 @@ class Field {
 // Box blur; the border is continued outward.
 Field blurred(const Field& source, int radius);
 
-// For every cell the distance in cells to the nearest zero cell of \a seeds (any other value counts as far
+// For every cell the distance in cells to the nearest zero cell of `seeds` (any other value counts as far
 // away).
 Field distances(Field seeds);
 
-// \a value(x, y) in picture pixels, computed at every \a step-th pixel only: for patterns far wider than
+// `value`(x, y) in picture pixels, computed at every `step`-th pixel only: for patterns far wider than
 // that.
 template <typename Function>
 Field coarseLayer(int width, int height, int step, Function value) {

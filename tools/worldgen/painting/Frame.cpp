@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QColor kGold(168, 136, 78);
+const QColor gold(168, 136, 78);
 
 QFont titleFace(int pixels) {
     const QString face = u"Z003"_s;
@@ -28,14 +28,14 @@ void paintCorner(QPainter& painter) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(30, 20, 10));
     painter.drawPolygon(QPolygonF{{0, 0}, {44, 0}, {0, 44}});
-    painter.setPen(QPen(kGold, 1.4));
+    painter.setPen(QPen(gold, 1.4));
     painter.setBrush(Qt::NoBrush);
     QPainterPath scroll(QPointF(9, 46));
     scroll.cubicTo(10, 22, 22, 10, 46, 9);
     scroll.moveTo(13, 40);
     scroll.cubicTo(28, 36, 36, 28, 40, 13);
     painter.drawPath(scroll);
-    painter.setBrush(kGold);
+    painter.setBrush(gold);
     painter.drawPolygon(QPolygonF{{19, 14}, {24, 19}, {19, 24}, {14, 19}});
 }
 
@@ -133,7 +133,7 @@ void paintFrame(QImage& picture) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor(30, 20, 10), 16));
     painter.drawRect(whole);
-    painter.setPen(QPen(kGold, 1.6));
+    painter.setPen(QPen(gold, 1.6));
     painter.drawRect(whole.adjusted(8.5, 8.5, -8.5, -8.5));
     painter.setPen(QPen(QColor(168, 136, 78, 140), 1));
     painter.drawRect(whole.adjusted(12.5, 12.5, -12.5, -12.5));

@@ -12,12 +12,12 @@ void paintFrame(QImage& picture);
 // In a chancery face, where it covers the fewest sites and the least land. Returns the ground it covers.
 QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoint>& sites,
                  const QString& title);
-// A compass in the widest open water, clear of \a taken; none where there is no room. Returns its box.
+// A compass in the widest open water, clear of `taken`; none where there is no room. Returns its box.
 QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
 
-// Darkens the whole until its mean relative luminance is at most \a mean.
+// Darkens the whole until its mean relative luminance is at most `mean`.
 void limitLuminance(QImage& picture, double mean);
-// Softly darkens whatever is too bright under the cream letters of a name, centred in \a box, and along
+// Softly darkens whatever is too bright under the cream letters of a name, centred in `box`, and along
 // them.
 void shadeName(QImage& picture, const QRect& box, const QString& name);
 // Relative luminance of one colour, 0..1.

@@ -6,7 +6,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr double kRelief = 34; // how much steeper than its map scale the land is lit
+constexpr double relief = 34; // how much steeper than its map scale the land is lit
 
 // The patterns that vary slowly enough to be computed once per few pixels.
 struct GroundLayers {
@@ -60,8 +60,8 @@ Colour soilColour(const Landscape& land, const GroundLayers& layers, int x, int 
 
 // Brightness of the slope under a light from the north-west; hollows are darker than ridges.
 double lightOn(const Landscape& land, int x, int y) {
-    const double dx = (land.height.clamped(x - 1, y) - land.height.clamped(x + 1, y)) * kRelief;
-    const double dy = (land.height.clamped(x, y - 1) - land.height.clamped(x, y + 1)) * kRelief;
+    const double dx = (land.height.clamped(x - 1, y) - land.height.clamped(x + 1, y)) * relief;
+    const double dy = (land.height.clamped(x, y - 1) - land.height.clamped(x, y + 1)) * relief;
     const double lambert = (0.57 - 0.58 * dx - 0.58 * dy) / std::sqrt(dx * dx + dy * dy + 1);
     const double open = land.height.at(x, y) - land.surroundAt(x, y);
     return 0.50 + 0.86 * lambert + std::clamp(open * 1.6, -0.22, 0.20);

@@ -22,7 +22,7 @@ void paintCliffs(QImage& picture, const Landscape& land);
 void paintCracks(QImage& picture, const Landscape& land);
 
 // A ship or two as the campaign builds them, and a serpent or a whale, where the sea is wide; nothing inside
-// \a taken.
+// `taken`.
 void paintSeafarers(QImage& picture, const Landscape& land, int campaign, const std::vector<QRect>& taken);
 
 } // namespace worldgen

@@ -28,9 +28,9 @@ bool drainsAway(const Field& height, int cell) {
     return height[cell] <= 0 || x == 0 || y == 0 || x == height.width() - 1 || y == height.height() - 1;
 }
 
-constexpr float kLakeDepth = 0.006F;
+constexpr float lakeDepth = 0.006F;
 
-// Collects the lake around \a start and takes its cells out of \a open.
+// Collects the lake around `start` and takes its cells out of `open`.
 std::vector<int> lakeFrom(const Field& height, int start, std::vector<char>& open) {
     std::vector<int> cells{start};
     open[std::size_t(start)] = 0;
@@ -88,7 +88,7 @@ Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& 
     const std::size_t smallest = fens ? 40 : 90;
     std::vector<char> open(std::size_t(height.count()), 0);
     for (int cell = 0; cell < height.count(); ++cell)
-        open[std::size_t(cell)] = height[cell] > 0 && drainage.filled[cell] - height[cell] > kLakeDepth;
+        open[std::size_t(cell)] = height[cell] > 0 && drainage.filled[cell] - height[cell] > lakeDepth;
     std::vector<std::vector<int>> lakes;
     for (int cell = 0; cell < height.count(); ++cell)
         if (open[std::size_t(cell)])
@@ -107,7 +107,7 @@ Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& 
 
 namespace {
 
-constexpr double kMeanderReach = 5;
+constexpr double meanderReach = 5;
 
 // Cells that must drain through a place before it carries a river.
 double riverThreshold(const Landscape& land) {
@@ -142,8 +142,8 @@ void smooth(std::vector<QPointF>& points, int passes) {
 
 QPointF meander(const Landscape& land, QPointF p) {
     const Noises& n = land.noises;
-    return {kMeanderReach * n.b.at(p.x() / 31, p.y() / 31) + 2 * n.b.at(p.x() / 13, p.y() / 13),
-            kMeanderReach * n.c.at(p.x() / 31, p.y() / 31) + 2 * n.c.at(p.x() / 13, p.y() / 13)};
+    return {meanderReach * n.b.at(p.x() / 31, p.y() / 31) + 2 * n.b.at(p.x() / 13, p.y() / 13),
+            meanderReach * n.c.at(p.x() / 31, p.y() / 31) + 2 * n.c.at(p.x() / 13, p.y() / 13)};
 }
 
 // Which cells carry a river already, or lie so close to one that another would run beside it.
@@ -152,7 +152,7 @@ class RiverBeds {
     explicit RiverBeds(const Field& grid)
         : columns_(grid.width()), rows_(grid.height()), nearest_(std::size_t(grid.count()), -1) {}
 
-    // The river cell that a river arriving at \a cell flows into; -1: none near.
+    // The river cell that a river arriving at `cell` flows into; -1: none near.
     int at(int cell) const { return nearest_[std::size_t(cell)]; }
 
     void add(const std::vector<int>& cells) {
@@ -174,7 +174,7 @@ class RiverBeds {
 
 QPointF pixelOf(const Landscape& land, int cell) {
     const int columns = land.cells.width();
-    return {(cell % columns + 0.5) * kCell, (cell / columns + 0.5) * kCell};
+    return {(cell % columns + 0.5) * cellSide, (cell / columns + 0.5) * cellSide};
 }
 
 // Down from a spring to the sea, the border or another river.
@@ -201,7 +201,7 @@ River riverAlong(const Landscape& land, const std::vector<int>& course, double t
 }
 
 // Cells: a shorter one would be a hook at the side of another.
-constexpr std::size_t kShortest = 60;
+constexpr std::size_t shortest = 60;
 
 } // namespace
 
@@ -211,7 +211,7 @@ std::vector<River> tracedRivers(const Landscape& land) {
     std::vector<River> rivers;
     for (const int spring : springs(land, threshold)) {
         const std::vector<int> course = courseFrom(land, spring, beds);
-        if (course.size() < kShortest)
+        if (course.size() < shortest)
             continue;
         River river = riverAlong(land, course, threshold);
         if (const int mouth = beds.at(course.back()); mouth >= 0) {

@@ -5,7 +5,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr Colour kStone{124, 120, 112};
+constexpr Colour bareStone{124, 120, 112};
 
 void shadowUnder(QPainter& p, double rx, double ry) {
     p.setBrush(QColor(8, 6, 4, 95));
@@ -13,11 +13,11 @@ void shadowUnder(QPainter& p, double rx, double ry) {
 }
 
 void column(QPainter& p, QPointF foot, double height, bool broken) {
-    p.setBrush(inked(kStone.times(1.25)));
+    p.setBrush(inked(bareStone.times(1.25)));
     p.drawRect(QRectF(foot.x() - 0.9, foot.y() - height, 0.9, height));
-    p.setBrush(inked(kStone.times(0.62)));
+    p.setBrush(inked(bareStone.times(0.62)));
     p.drawRect(QRectF(foot.x(), foot.y() - height, 0.9, height));
-    p.setBrush(inked(kStone.times(1.4)));
+    p.setBrush(inked(bareStone.times(1.4)));
     if (!broken)
         p.drawRect(QRectF(foot.x() - 1.4, foot.y() - height - 0.8, 2.8, 0.9));
 }
@@ -64,7 +64,7 @@ Sprite paintedStandingStone(double scale, Rng& rng) {
     const double lean = rng.range(-0.8, 0.8);
     const double high = rng.range(6.5, 9.5) * scale;
     const double wide = rng.range(1.5, 2.0) * scale;
-    const Colour stone = kStone.times(rng.range(0.85, 1.1));
+    const Colour stone = bareStone.times(rng.range(0.85, 1.1));
     shadowUnder(p, 2.8 * scale, 1.3 * scale);
     p.setBrush(inked(stone.times(0.58)));
     p.drawPolygon(
@@ -81,7 +81,7 @@ Sprite paintedRuin(Rng& rng) {
     SpriteCanvas canvas(34, 24, {16, 17});
     QPainter& p = canvas.painter();
     shadowUnder(p, 11, 3.6);
-    p.setBrush(inked(kStone.times(0.8)));
+    p.setBrush(inked(bareStone.times(0.8)));
     p.drawPolygon(QPolygonF{{-11, 0.5}, {0, 4}, {11, 0.5}, {0, -3}});
     for (int k = 0; k < 4; ++k)
         column(p, QPointF(-8 + 3.6 * k, -0.6 - 0.85 * k + 0.6), rng.range(3, 9), rng.chance(0.5));
@@ -89,7 +89,7 @@ Sprite paintedRuin(Rng& rng) {
         column(p, QPointF(-2 + 3.8 * k, 3 - 0.9 * k), rng.range(1.5, 8.5), rng.chance(0.6));
     for (int k = 0; k < 7; ++k) {
         const QPointF at(rng.range(-12, 12), rng.range(-2, 5));
-        p.setBrush(inked(kStone.times(rng.range(0.6, 1.3))));
+        p.setBrush(inked(bareStone.times(rng.range(0.6, 1.3))));
         p.drawEllipse(at, rng.range(0.7, 1.4), rng.range(0.5, 0.9));
     }
     return canvas.finished();
@@ -132,7 +132,7 @@ Sprite paintedWindmill(Rng& rng) {
     p.drawPolygon(QPolygonF{{-2.8, -10.6}, {2.8, -10.6}, {0, -14.6}});
     const double turn = rng.range(0.2, 1.2);
     for (int k = 0; k < 4; ++k) {
-        const double angle = turn + k * kPi / 2;
+        const double angle = turn + k * pi / 2;
         const QPointF tip(cosineOf(angle) * 9, sineOf(angle) * 9);
         const QPointF side(-sineOf(angle) * 1.9, cosineOf(angle) * 1.9);
         p.setPen(QPen(QColor(52, 40, 28), 0.6));
@@ -146,7 +146,7 @@ Sprite paintedWindmill(Rng& rng) {
 Sprite paintedObelisk(Rng& rng) {
     SpriteCanvas canvas(16, 30, {7, 26});
     QPainter& p = canvas.painter();
-    const Colour stone = kStone.times(rng.range(0.95, 1.15));
+    const Colour stone = bareStone.times(rng.range(0.95, 1.15));
     shadowUnder(p, 4, 1.8);
     p.setBrush(inked(stone.times(0.8)));
     p.drawPolygon(QPolygonF{{-4, 0.6}, {0.5, 1.8}, {4.4, 0.6}, {0.4, -1}});
@@ -163,7 +163,7 @@ Sprite paintedShrine(BuildingStyle style, Rng& rng) {
     SpriteCanvas canvas(30, 28, {14, 21});
     QPainter& p = canvas.painter();
     shadowUnder(p, 9, 3.4);
-    p.setBrush(inked(kStone.times(0.85)));
+    p.setBrush(inked(bareStone.times(0.85)));
     p.drawPolygon(QPolygonF{{-9, 0}, {-1, 3}, {9, 0}, {1, -3}});
     for (const QPointF foot : {QPointF(-6, -0.6), QPointF(0, -2.2), QPointF(6, -0.6), QPointF(0, 1.6)})
         column(p, foot, 8, false);

@@ -21,7 +21,7 @@ Field detailedHeight(const Landscape& land) {
     Field result(width, height);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
-            double h = soft.sampled(double(x) / kCell, double(y) / kCell);
+            double h = soft.sampled(double(x) / cellSide, double(y) / cellSide);
             const double crags = smoothStep(0.20, 0.46, h);
             const double ripples = smoothStep(0, 0.25, h);
             if (crags > 0) {
@@ -41,8 +41,8 @@ void measureShores(Landscape& land) {
     Field wet(land.size.width(), land.size.height());
     for (int y = 0; y < dry.height(); ++y)
         for (int x = 0; x < dry.width(); ++x) {
-            const bool water =
-                land.height.at(x, y) <= 0 || land.lakes.sampled(double(x) / kCell, double(y) / kCell) > 0.45;
+            const bool water = land.height.at(x, y) <= 0 ||
+                               land.lakes.sampled(double(x) / cellSide, double(y) / cellSide) > 0.45;
             dry.at(x, y) = water ? 1 : 0;
             wet.at(x, y) = water ? 0 : 1;
         }
@@ -54,8 +54,8 @@ Field riverDistances(const Landscape& land) {
     Field away(land.cells.width(), land.cells.height(), 1);
     for (const River& river : land.rivers)
         for (const QPointF& p : river.points) {
-            const int x = int(p.x()) / kCell;
-            const int y = int(p.y()) / kCell;
+            const int x = int(p.x()) / cellSide;
+            const int y = int(p.y()) / cellSide;
             if (x >= 0 && y >= 0 && x < away.width() && y < away.height())
                 away.at(x, y) = 0;
         }
@@ -78,13 +78,13 @@ Landscape::Landscape(const RegionRecipe& recipe)
     measureShores(*this);
     const int w = size.width();
     const int h = size.height();
-    moisture = coarseLayer(w, h, kPatch, [&](double x, double y) {
+    moisture = coarseLayer(w, h, patchSide, [&](double x, double y) {
         const double shore = std::min<double>(toWater.clamped(int(x), int(y)), riverDistance(x, y) + 6);
         return palette.moisture + (landform == Landform::Fens ? 0.16 : 0) +
                0.5 * noises.b.fbm(x / 330, y / 330, 4) + 0.25 * expOf(-shore / 60) -
                0.25 * height.clamped(int(x), int(y));
     });
-    woods = coarseLayer(w, h, kPatch, [&](double x, double y) {
+    woods = coarseLayer(w, h, patchSide, [&](double x, double y) {
         return palette.moisture + 0.55 * noises.b.fbm(x / 330, y / 330, 4) +
                0.55 * noises.a.fbm(x / 120 + 40, y / 120, 3);
     });
@@ -98,7 +98,7 @@ double Landscape::slope(int x, int y, int reach) const {
 void Landscape::plant(QPoint middle, double radius, double amount) {
     for (int y = 0; y < woods.height(); ++y)
         for (int x = 0; x < woods.width(); ++x) {
-            const double away = lengthOf(x * kPatch - middle.x(), y * kPatch - middle.y());
+            const double away = lengthOf(x * patchSide - middle.x(), y * patchSide - middle.y());
             woods.at(x, y) += float(amount * smoothStep(radius, radius * 0.45, away));
         }
 }

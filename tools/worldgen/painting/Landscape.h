@@ -1,9 +1,9 @@
 #pragma once
 
-#include "../RegionPainter.h"
 #include "Field.h"
 #include "Noise.h"
 #include "Palette.h"
+#include "RegionPainter.h"
 
 #include <vector>
 
@@ -17,7 +17,7 @@ struct Noises {
 };
 
 // Terrain is computed at half the picture's resolution.
-constexpr int kCell = 2;
+constexpr int cellSide = 2;
 
 // Where water runs; indices are cells of the terrain grid, row by row.
 struct Drainage {
@@ -49,21 +49,23 @@ struct Landscape {
     Field toWater;  // pixels from land to sea or lake, 0 on water
     Field toRiver;  // cells to the nearest drawn river
     Field surround; // height of the wider neighbourhood per terrain cell
-    Field moisture; // coarse layer, kPatch pixels a cell
-    Field woods;    // coarse layer, kPatch pixels a cell: trees where > 0.16
+    Field moisture; // coarse layer, patchSide pixels a cell
+    Field woods;    // coarse layer, patchSide pixels a cell: trees where > 0.16
     std::vector<River> rivers;
 
-    static constexpr int kPatch = 4;
+    static constexpr int patchSide = 4;
 
     bool inside(int x, int y) const { return x >= 0 && y >= 0 && x < size.width() && y < size.height(); }
     bool water(int x, int y) const { return toWater.clamped(x, y) == 0; }
     bool sea(int x, int y) const { return height.clamped(x, y) <= 0; }
     double slope(int x, int y, int reach) const;
-    double moistureAt(double x, double y) const { return moisture.sampled(x / kPatch, y / kPatch); }
-    double woodsAt(double x, double y) const { return woods.sampled(x / kPatch, y / kPatch); }
-    double surroundAt(double x, double y) const { return surround.sampled(x / kCell, y / kCell); }
-    double riverDistance(double x, double y) const { return toRiver.sampled(x / kCell, y / kCell) * kCell; }
-    // Lets woods grow (or, below 0, go) within \a radius pixels.
+    double moistureAt(double x, double y) const { return moisture.sampled(x / patchSide, y / patchSide); }
+    double woodsAt(double x, double y) const { return woods.sampled(x / patchSide, y / patchSide); }
+    double surroundAt(double x, double y) const { return surround.sampled(x / cellSide, y / cellSide); }
+    double riverDistance(double x, double y) const {
+        return toRiver.sampled(x / cellSide, y / cellSide) * cellSide;
+    }
+    // Lets woods grow (or, below 0, go) within `radius` pixels.
     void plant(QPoint middle, double radius, double amount);
     // Ground that is white or under a mountain's glyph.
     bool highGround(int x, int y) const;
@@ -71,7 +73,7 @@ struct Landscape {
 
 Field raisedLand(const RegionRecipe& recipe, const Noises& noises);
 void erode(Field& height, quint32 seed);
-// \a wobble makes rivers wind where the land is flat.
+// `wobble` makes rivers wind where the land is flat.
 Drainage drained(const Field& height, const Noise& wobble);
 // Fills all hollows but the few largest, so that the map shows lakes and not puddles; returns the lakes'
 // cells as 1.

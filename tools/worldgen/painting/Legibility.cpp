@@ -17,8 +17,8 @@ namespace {
 
 // Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
 // picture's compression.
-constexpr double kQuietLuminance = 0.108;
-constexpr int kShadeReach = 32; // pixels around a name
+constexpr double quietLuminance = 0.108;
+constexpr int shadeReach = 32; // pixels around a name
 
 std::array<double, 256> linearLight() {
     std::array<double, 256> table;
@@ -86,7 +86,7 @@ void limitLuminance(QImage& picture, double mean) {
 }
 
 void shadeName(QImage& picture, const QRect& box, const QString& name) {
-    const QRect reach = box.adjusted(-kShadeReach, -kShadeReach, kShadeReach, kShadeReach);
+    const QRect reach = box.adjusted(-shadeReach, -shadeReach, shadeReach, shadeReach);
     const Field shade = letterShade(box.translated(-reach.topLeft()), reach.size(), name);
     const QRect seen = reach & picture.rect();
     for (int y = seen.top(); y <= seen.bottom(); ++y) {
@@ -95,7 +95,7 @@ void shadeName(QImage& picture, const QRect& box, const QString& name) {
             const double strength = smoothStep(0, 0.62, shade.at(x - reach.left(), y - reach.top()));
             const double light = luminanceOf(line[x]);
             const double wanted =
-                std::min(light, kQuietLuminance * (0.62 + 0.38 * std::min(1.0, light / 0.4)));
+                std::min(light, quietLuminance * (0.62 + 0.38 * std::min(1.0, light / 0.4)));
             if (wanted >= light || strength <= 0)
                 continue;
             const double factor = powOf(wanted / light, 1 / 2.2);

@@ -41,12 +41,12 @@ double powOf(double base, double exponent) {
 }
 
 double sineOf(double angle) {
-    const double turns = std::floor(angle / (2 * kPi) + 0.5);
-    double x = angle - turns * 2 * kPi;
-    if (x > kPi / 2)
-        x = kPi - x;
-    else if (x < -kPi / 2)
-        x = -kPi - x;
+    const double turns = std::floor(angle / (2 * pi) + 0.5);
+    double x = angle - turns * 2 * pi;
+    if (x > pi / 2)
+        x = pi - x;
+    else if (x < -pi / 2)
+        x = -pi - x;
     const double x2 = x * x;
     double sum = 1;
     for (int k = 17; k >= 3; k -= 2)
@@ -55,7 +55,7 @@ double sineOf(double angle) {
 }
 
 double cosineOf(double angle) {
-    return sineOf(angle + kPi / 2);
+    return sineOf(angle + pi / 2);
 }
 
 } // namespace worldgen

@@ -7,7 +7,7 @@
 // the same everywhere, and only + - * / and sqrt are the same everywhere.
 namespace worldgen {
 
-constexpr double kPi = 3.14159265358979323846;
+constexpr double pi = 3.14159265358979323846;
 
 inline double clamp01(double x) {
     return std::clamp(x, 0.0, 1.0);
@@ -17,7 +17,7 @@ inline double lerp(double a, double b, double t) {
     return a + (b - a) * t;
 }
 
-// 0 below \a from, 1 above \a to, smooth between. \a from may be the larger one: the step then falls.
+// 0 below `from`, 1 above `to`, smooth between. `from` may be the larger one: the step then falls.
 inline double smoothStep(double from, double to, double x) {
     const double t = clamp01((x - from) / (to - from));
     return t * t * (3 - 2 * t);
@@ -28,9 +28,9 @@ inline double lengthOf(double x, double y) {
 }
 
 double expOf(double x);
-// \a x > 0.
+// `x` > 0.
 double log2Of(double x);
-// \a base >= 0.
+// `base` >= 0.
 double powOf(double base, double exponent);
 // Radians, |angle| below 1e6.
 double sineOf(double angle);

@@ -18,7 +18,7 @@ class Rng {
     // 0 <= result < 1.
     double unit() { return next() / 4294967296.0; }
     double range(double from, double to) { return from + (to - from) * unit(); }
-    // Both ends included; \a from <= \a to.
+    // Both ends included; `from` <= `to`.
     int whole(int from, int to) { return from + int((quint64(next()) * quint64(to - from + 1)) >> 32); }
     bool chance(double probability) { return unit() < probability; }
 
@@ -43,7 +43,7 @@ class Noise {
 
     // About -1..1, 0 on lattice points, features about one unit wide.
     double at(double x, double y) const;
-    // Sum of \a octaves, each twice as fine and \a gain as strong; about -1..1.
+    // Sum of `octaves`, each twice as fine and `gain` as strong; about -1..1.
     double fbm(double x, double y, int octaves, double gain = 0.5) const;
     // Sharp crests: 0..1.
     double ridged(double x, double y, int octaves) const;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "../RegionPainter.h"
 #include "Colour.h"
+#include "RegionPainter.h"
 
 #include <array>
 

@@ -5,13 +5,13 @@ namespace worldgen {
 
 namespace {
 
-constexpr int kFine = 3;              // samples per pixel
-constexpr double kSpan = 1.25;        // the model reaches this far to each side, in half-widths
-constexpr double kForeshorten = 0.42; // depth on the ground against width
-constexpr double kDepthStep = 0.024;
-constexpr int kDepthSteps = int(2 * kSpan / kDepthStep) + 1;
+constexpr int fineness = 3;          // samples per pixel
+constexpr double span = 1.25;        // the model reaches this far to each side, in half-widths
+constexpr double foreshorten = 0.42; // depth on the ground against width
+constexpr double depthStep = 0.024;
+constexpr int depthSteps = int(2 * span / depthStep) + 1;
 
-// Height of a mountain over its own ground, x and depth in -kSpan..kSpan, 1 at the summit.
+// Height of a mountain over its own ground, x and depth in -span..span, 1 at the summit.
 class PeakModel {
   public:
     PeakModel(PeakStyle style, Rng& rng);
@@ -100,7 +100,7 @@ class PeakRaster {
 
   private:
     double acrossOf(int column) const { return (column - fine_.width() / 2.0) / half_; }
-    static double depthOf(int step) { return kSpan - step * kDepthStep; }
+    static double depthOf(int step) { return span - step * depthStep; }
     void paintColumn(int column);
     void inkSkyline(int column, int top);
     double lightAt(int column, int step) const;
@@ -134,16 +134,16 @@ double tallness(PeakStyle style) {
 
 PeakRaster::PeakRaster(const Palette& palette, const PeakShape& shape, Rng& rng)
     : palette_(palette), shape_(shape), model_(shape.style, rng), grain_(rng.next()),
-      half_(25 * shape.scale * kFine),
-      tall_(rng.range(34, 42) * shape.scale * kFine * tallness(shape.style)) {
-    const int width = int(2 * kSpan * half_ / kFine + 2) * kFine;
-    const int above = int((tall_ * 1.2 + half_ * kForeshorten) / kFine + 2) * kFine;
-    const int below = int(half_ * kForeshorten * kSpan / kFine + 2) * kFine;
+      half_(25 * shape.scale * fineness),
+      tall_(rng.range(34, 42) * shape.scale * fineness * tallness(shape.style)) {
+    const int width = int(2 * span * half_ / fineness + 2) * fineness;
+    const int above = int((tall_ * 1.2 + half_ * foreshorten) / fineness + 2) * fineness;
+    const int below = int(half_ * foreshorten * span / fineness + 2) * fineness;
     ground_ = above;
     fine_ = QImage(width, above + below, QImage::Format_ARGB32_Premultiplied);
     fine_.fill(Qt::transparent);
-    heights_ = Field(width, kDepthSteps);
-    for (int step = 0; step < kDepthSteps; ++step)
+    heights_ = Field(width, depthSteps);
+    for (int step = 0; step < depthSteps; ++step)
         for (int column = 0; column < width; ++column)
             heights_.at(column, step) = float(model_.heightAt(acrossOf(column), depthOf(step)));
     for (int column = 0; column < width; ++column)
@@ -157,7 +157,7 @@ double PeakRaster::lightAt(int column, int step) const {
     const double dx =
         (heights_.clamped(column + 2, step) - heights_.clamped(column - 2, step)) / (2 * e) * steep;
     const double dy =
-        (heights_.clamped(column, step - 1) - heights_.clamped(column, step + 1)) / (2 * kDepthStep) * steep;
+        (heights_.clamped(column, step - 1) - heights_.clamped(column, step + 1)) / (2 * depthStep) * steep;
     return (0.50 + 0.66 * dx + 0.40 * dy) / std::sqrt(dx * dx + dy * dy + 1);
 }
 
@@ -196,9 +196,9 @@ QRgb PeakRaster::colourAt(int column, int step) const {
 void PeakRaster::paintColumn(int column) {
     int top = fine_.height(); // topmost row filled so far
     double topHeight = 0;
-    for (int step = 0; step < kDepthSteps; ++step) {
+    for (int step = 0; step < depthSteps; ++step) {
         const double height = heights_.at(column, step);
-        const int row = std::max(0, int(ground_ + depthOf(step) * half_ * kForeshorten - height * tall_));
+        const int row = std::max(0, int(ground_ + depthOf(step) * half_ * foreshorten - height * tall_));
         if (row < top && height > 0.02) {
             const QRgb colour = colourAt(column, step);
             for (int y = row; y < std::min(top, row + int(tall_)); ++y)
@@ -220,7 +220,7 @@ void PeakRaster::inkSkyline(int column, int top) {
 }
 
 Sprite PeakRaster::sprite() const {
-    return {shrunk(fine_, kFine), QPointF(fine_.width() / 2.0 / kFine, double(ground_) / kFine)};
+    return {shrunk(fine_, fineness), QPointF(fine_.width() / 2.0 / fineness, double(ground_) / fineness)};
 }
 
 } // namespace

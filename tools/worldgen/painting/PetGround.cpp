@@ -8,10 +8,9 @@ namespace worldgen {
 
 namespace {
 
-constexpr double Horizon = 74;
-constexpr double Feet = 98;
+constexpr double horizon = 74;
 
-constexpr std::array Grounds{
+constexpr std::array grounds{
     PetGround{u"meadow",
               {118, 156, 186},
               {226, 214, 170},
@@ -73,7 +72,7 @@ double wallLight(const PetGround& ground, const Noise& noise, double u, double v
 
 // Long level streaks where there is water, patches of grass or sand elsewhere.
 Colour floorAt(const PetGround& ground, const Noise& noise, double u, double v) {
-    const double depth = lerp(1.12, 0.66, smoothStep(Horizon, 120, v));
+    const double depth = lerp(1.12, 0.66, smoothStep(horizon, 120, v));
     if (ground.wet) {
         const double ripple = noise.fbm(u / 26, v / 1.7, 3) + 0.4 * noise.at(u / 60, v / 5);
         return mixed(ground.floor, ground.haze, 0.25 + 0.5 * ripple).times(depth);
@@ -85,9 +84,9 @@ Colour floorAt(const PetGround& ground, const Noise& noise, double u, double v) 
 } // namespace
 
 const PetGround* petGroundNamed(QStringView name) {
-    const auto* found = std::find_if(Grounds.begin(), Grounds.end(),
+    const auto* found = std::find_if(grounds.begin(), grounds.end(),
                                      [&](const PetGround& known) { return known.name == name; });
-    return found == Grounds.end() ? nullptr : found;
+    return found == grounds.end() ? nullptr : found;
 }
 
 QImage paintedBackdrop(const PetGround& ground, QSize size, int fine, Rng& rng) {
@@ -106,7 +105,7 @@ QImage paintedBackdrop(const PetGround& ground, QSize size, int fine, Rng& rng) 
             const double u = double(x) / fine;
             const auto [farHills, nearHills] = skyline[std::size_t(x)];
             const double cloud = v < 80 ? noise.fbm(u / 46, v / 15, 4) : 0;
-            Colour colour = mixed(ground.sky, ground.haze, smoothStep(8, Horizon, v + 26 * cloud));
+            Colour colour = mixed(ground.sky, ground.haze, smoothStep(8, horizon, v + 26 * cloud));
             colour =
                 mixed(colour, mixed(ground.hills, ground.haze, 0.55), smoothStep(farHills, farHills + 1, v));
             colour = mixed(colour, mixed(ground.hills, ground.haze, 0.15),
@@ -115,7 +114,7 @@ QImage paintedBackdrop(const PetGround& ground, QSize size, int fine, Rng& rng) 
                 colour = ground.haze.times(wallLight(ground, noise, u, v));
             if (ground.name != QStringView(u"bricks"))
                 colour = mixed(colour, floorAt(ground, noise, u, v),
-                               smoothStep(Horizon, Horizon + 3, v + 2 * noise.at(u / 9, 1.5)));
+                               smoothStep(horizon, horizon + 3, v + 2 * noise.at(u / 9, 1.5)));
             const double corner = lengthOf(u / 80 - 1, v / 60 - 1);
             line[x] = rgbOf(colour.times(1.0 - 0.40 * smoothStep(0.7, 1.45, corner)));
         }
@@ -128,7 +127,7 @@ void paintUndergrowth(QPainter& painter, const PetGround& ground, QSize size, Rn
         return;
     const bool reeds = ground.undergrowth == Undergrowth::Reeds;
     for (int k = 0; k < (reeds ? 12 : 46); ++k) {
-        const QPointF foot(rng.range(0, size.width()), rng.range(Feet + 1, size.height() - 2));
+        const QPointF foot(rng.range(0, size.width()), rng.range(petFeet + 1, size.height() - 2));
         const Colour shade = (ground.wet ? ground.hills : ground.floor).times(rng.range(0.5, 1.1));
         if (ground.undergrowth == Undergrowth::Stones) {
             painter.setPen(Qt::NoPen);

@@ -9,6 +9,9 @@
 
 namespace worldgen {
 
+// Where the animal's feet stand, from the top.
+inline constexpr double petFeet = 98;
+
 enum class Undergrowth { None, Blades, Reeds, Stones };
 
 // The ground an animal stands on, and the light above it.

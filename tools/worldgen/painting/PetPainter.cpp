@@ -1,4 +1,4 @@
-#include "../RegionPainter.h"
+#include "RegionPainter.h"
 
 #include "Colour.h"
 #include "Ground.h"
@@ -16,11 +16,10 @@ namespace worldgen {
 
 namespace {
 
-constexpr QSize kPicture(160, 120);
-constexpr int kFine = 3;
-constexpr double kFeet = 98;
+constexpr QSize petPicture(160, 120);
+constexpr int fineness = 3;
 
-constexpr std::array PartKinds{QStringView(u"far"),  QStringView(u"coat"), QStringView(u"skin"),
+constexpr std::array partKinds{QStringView(u"far"),  QStringView(u"coat"), QStringView(u"skin"),
                                QStringView(u"mark"), QStringView(u"line"), QStringView(u"eye")};
 
 // Lit from above and from the left.
@@ -72,7 +71,7 @@ void PetPainter::paintShadow() {
     shade.setColorAt(0, QColor(8, 8, 10, 150));
     shade.setColorAt(1, QColor(8, 8, 10, 0));
     p_.save();
-    p_.translate(86, kFeet);
+    p_.translate(86, petFeet);
     p_.scale(66, 8);
     p_.setPen(Qt::NoPen);
     p_.setBrush(shade);
@@ -158,7 +157,7 @@ void paintBorder(QPainter& painter) {
 } // namespace
 
 bool isAnimalPartKind(QStringView kind) {
-    return std::find(PartKinds.begin(), PartKinds.end(), kind) != PartKinds.end();
+    return std::find(partKinds.begin(), partKinds.end(), kind) != partKinds.end();
 }
 
 bool isPetGround(QStringView name) {
@@ -169,23 +168,23 @@ QImage paintPet(quint32 seed, const AnimalPicture& animal) {
     Rng rng(seed * 3ULL + 2);
     const PetGround* named = petGroundNamed(animal.ground);
     const PetGround& ground = named != nullptr ? *named : *petGroundNamed(u"meadow");
-    QImage image = brushed(paintedBackdrop(ground, kPicture, kFine, rng), 2, 0.75);
+    QImage image = brushed(paintedBackdrop(ground, petPicture, fineness, rng), 2, 0.75);
     const auto drawn = [&image](auto draw) {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(kFine, kFine);
+        painter.scale(fineness, fineness);
         draw(painter);
     };
     drawn([&](QPainter& painter) {
         if (rng.chance(0.5)) { // facing right
-            painter.translate(kPicture.width(), 0);
+            painter.translate(petPicture.width(), 0);
             painter.scale(-1, 1);
         }
         PetPainter(painter, ground.haze, rng).paint(animal);
     });
-    drawn([&](QPainter& painter) { paintUndergrowth(painter, ground, kPicture, rng); });
+    drawn([&](QPainter& painter) { paintUndergrowth(painter, ground, petPicture, rng); });
     drawn(paintBorder);
-    return shrunk(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), kFine)
+    return shrunk(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), fineness)
         .convertToFormat(QImage::Format_RGB32);
 }
 

@@ -1,4 +1,4 @@
-#include "../RegionPainter.h"
+#include "RegionPainter.h"
 
 #include "Frame.h"
 #include "Ground.h"
@@ -11,8 +11,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr double kMeanLuminance = 0.13;
-constexpr int kFrame = 20;
+constexpr double meanLuminance = 0.13;
 
 // White where roads and settlements keep nature away.
 QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe& recipe,
@@ -38,7 +37,8 @@ QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe
 } // namespace
 
 bool SurveyedRegion::land(QPoint point) const {
-    const QRect inner = QRect(QPoint(), landscape->size).adjusted(kFrame, kFrame, -kFrame, -kFrame);
+    const QRect inner =
+        QRect(QPoint(), landscape->size).adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
     return inner.contains(point) && landscape->toWater.clamped(point.x(), point.y()) > 2 &&
            !landscape->highGround(point.x(), point.y());
 }
@@ -104,7 +104,7 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
     scene.paint(picture);
 
     agePicture(picture, land);
-    limitLuminance(picture, kMeanLuminance);
+    limitLuminance(picture, meanLuminance);
     for (std::size_t k = 0; k < survey.sites.size(); ++k)
         shadeName(picture, nameBox(survey.sites[k], recipe.sites[k], recipe.campaign), recipe.sites[k].name);
     paintFrame(picture);

@@ -11,8 +11,8 @@ namespace worldgen {
 
 namespace {
 
-constexpr int kPace = 4;  // pixels per step of the path search
-constexpr int kEdge = 14; // steps kept from the border
+constexpr int pace = 4;       // pixels per step of the path search
+constexpr int edgeSteps = 14; // steps kept from the border
 
 using Front = std::priority_queue<std::pair<float, int>, std::vector<std::pair<float, int>>, std::greater<>>;
 
@@ -25,7 +25,7 @@ class PathFinder {
 
   private:
     int cellOf(QPoint p) const {
-        return std::min(p.y() / kPace, rows_ - 1) * columns_ + std::min(p.x() / kPace, columns_ - 1);
+        return std::min(p.y() / pace, rows_ - 1) * columns_ + std::min(p.x() / pace, columns_ - 1);
     }
     void relax(int cell, float reached, Front& front);
     QPolygonF traced(int end);
@@ -41,11 +41,11 @@ class PathFinder {
 };
 
 PathFinder::PathFinder(const Landscape& land)
-    : land_(land), columns_(land.size.width() / kPace), rows_(land.size.height() / kPace) {
+    : land_(land), columns_(land.size.width() / pace), rows_(land.size.height() / pace) {
     for (int row = 0; row < rows_; ++row)
         for (int column = 0; column < columns_; ++column) {
-            const int x = column * kPace;
-            const int y = row * kPace;
+            const int x = column * pace;
+            const int y = row * pace;
             const double height = land.height.clamped(x, y);
             double toll = 1 + std::max(0.0, height - 0.25) * 22 +
                           1.1 * (1 + land.noises.d.fbm(column / 10.0, row / 10.0, 2));
@@ -64,8 +64,8 @@ void PathFinder::relax(int cell, float reached, Front& front) {
     const int y = cell / columns_;
     for (int j = -1; j <= 1; ++j)
         for (int i = -1; i <= 1; ++i) {
-            if ((i == 0 && j == 0) || x + i < kEdge || y + j < kEdge || x + i >= columns_ - kEdge ||
-                y + j >= rows_ - kEdge)
+            if ((i == 0 && j == 0) || x + i < edgeSteps || y + j < edgeSteps ||
+                x + i >= columns_ - edgeSteps || y + j >= rows_ - edgeSteps)
                 continue;
             const std::size_t next = std::size_t((y + j) * columns_ + x + i);
             const float climb = std::fabs(height_[next] - height_[std::size_t(cell)]) * 260;
@@ -81,7 +81,7 @@ void PathFinder::relax(int cell, float reached, Front& front) {
 QPolygonF PathFinder::traced(int end) {
     QPolygonF way;
     for (int cell = end; cell >= 0; cell = from_[std::size_t(cell)]) {
-        way.append(QPointF((cell % columns_ + 0.5) * kPace, (cell / columns_ + 0.5) * kPace));
+        way.append(QPointF((cell % columns_ + 0.5) * pace, (cell / columns_ + 0.5) * pace));
         if (trodden_[std::size_t(cell)] && way.size() > 1)
             break; // from here on an older road leads to the goal
         trodden_[std::size_t(cell)] = 1;
@@ -102,7 +102,7 @@ QPolygonF PathFinder::way(QPoint from, QPoint to) {
     const int start = cellOf(from);
     const int end = cellOf(to);
     // A way many times longer than the crow flies is not a road but a walk around the map.
-    const float tooFar = float(120 + 9 * lengthOf(to.x() - from.x(), to.y() - from.y()) / kPace);
+    const float tooFar = float(120 + 9 * lengthOf(to.x() - from.x(), to.y() - from.y()) / pace);
     Front front;
     cost_[std::size_t(start)] = 0;
     front.emplace(0.0F, start);

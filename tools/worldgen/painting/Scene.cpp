@@ -40,7 +40,7 @@ Sprite paintedRock(Colour rock, double scale, Rng& rng) {
     p.drawEllipse(QPointF(1, 0.6) * scale, 3.4 * scale, 1.6 * scale);
     QPolygonF outline;
     for (int k = 0; k < 7; ++k) {
-        const double angle = kPi + k * kPi / 6;
+        const double angle = pi + k * pi / 6;
         const double radius = rng.range(2.2, 3.2) * scale;
         outline << QPointF(cosineOf(angle) * radius, sineOf(angle) * radius * 0.9 + scale * 0.4);
     }

@@ -9,7 +9,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr QColor kInk(30, 20, 12, 210);
+constexpr QColor inkColour(30, 20, 12, 210);
 
 // How the people of a campaign build their ships.
 struct Shipyard {
@@ -34,7 +34,7 @@ void paintSail(QPainter& p, QPointF foot, QSizeF size, const Shipyard& yard) {
     sail.quadTo(foot + QPointF(wide * 1.25, -high * 0.55), foot + QPointF(wide * 0.9, -1));
     sail.quadTo(foot + QPointF(wide * 0.4, -high * 0.2), foot + QPointF(0, -1.6));
     sail.closeSubpath();
-    p.setPen(QPen(kInk, 0.7));
+    p.setPen(QPen(inkColour, 0.7));
     p.setBrush(inked(yard.sail));
     p.drawPath(sail);
     p.setPen(QPen(inked(yard.sail.times(0.5)), 0.6));
@@ -44,7 +44,7 @@ void paintSail(QPainter& p, QPointF foot, QSizeF size, const Shipyard& yard) {
 
 // A square sail in stripes, and shields along the side.
 void paintLongshipRig(QPainter& p, const Shipyard& yard) {
-    p.setPen(QPen(kInk, 0.7));
+    p.setPen(QPen(inkColour, 0.7));
     p.setBrush(inked(yard.sail));
     p.drawPolygon(QPolygonF{{-9, -23}, {9, -23}, {10, -8}, {-10, -8}});
     p.setPen(QPen(inked(yard.pennant), 2));
@@ -53,7 +53,7 @@ void paintLongshipRig(QPainter& p, const Shipyard& yard) {
 }
 
 void paintShields(QPainter& p, const Shipyard& yard) {
-    p.setPen(QPen(kInk, 0.4));
+    p.setPen(QPen(inkColour, 0.4));
     for (int k = 0; k < 6; ++k) {
         p.setBrush(inked(k % 2 == 0 ? yard.sail : yard.pennant));
         p.drawEllipse(QPointF(-10 + 4 * k, -0.6), 1.7, 1.7);
@@ -66,7 +66,7 @@ Sprite paintedShip(const Shipyard& yard, bool mirrored) {
     p.scale(mirrored ? -1 : 1, 1);
     p.setBrush(QColor(8, 20, 26, 90));
     p.drawEllipse(QPointF(0, 4.5), 17, 2.6);
-    p.setPen(QPen(kInk, 0.9));
+    p.setPen(QPen(inkColour, 0.9));
     if (yard.longship) {
         p.drawLine(QPointF(0, 0), QPointF(0, -26));
         paintLongshipRig(p, yard);
@@ -76,7 +76,7 @@ Sprite paintedShip(const Shipyard& yard, bool mirrored) {
         paintSail(p, {-7, -1}, {8, 19}, yard);
         paintSail(p, {3, -1}, {11, 25}, yard);
         p.setBrush(inked(yard.pennant));
-        p.setPen(QPen(kInk, 0.5));
+        p.setPen(QPen(inkColour, 0.5));
         p.drawPolygon(QPolygonF{{3, -31}, {3, -28}, {-5, -28.6}});
     }
     const double stem = yard.longship ? -11 : -3.5;
@@ -85,7 +85,7 @@ Sprite paintedShip(const Shipyard& yard, bool mirrored) {
     hull.quadTo(QPointF(13, 5), QPointF(8, 5));
     hull.lineTo(-9, 5);
     hull.quadTo(QPointF(-14, 4), QPointF(-16, stem));
-    p.setPen(QPen(kInk, 0.8));
+    p.setPen(QPen(inkColour, 0.8));
     p.setBrush(inked(yard.hull));
     p.drawPath(hull);
     if (yard.longship)
@@ -103,7 +103,7 @@ Sprite paintedWhale(bool mirrored) {
     p.setPen(QPen(QColor(206, 224, 226, 190), 1.2, Qt::SolidLine, Qt::RoundCap));
     for (const double side : {-1.0, 0.0, 1.0})
         p.drawLine(QPointF(-11, -10), QPointF(-11 + side * 5, -20 + std::abs(side) * 3));
-    p.setPen(QPen(kInk, 0.8));
+    p.setPen(QPen(inkColour, 0.8));
     p.setBrush(QColor(64, 84, 102));
     QPainterPath back(QPointF(-22, 1));
     back.cubicTo(-22, -14, -2, -13, 12, 1);
@@ -133,7 +133,7 @@ void paintHump(QPainter& p, QPointF foot, QSizeF size, Colour scales) {
     hump.cubicTo(foot + QPointF(wide * 0.4, -high * 0.55), foot + QPointF(-wide * 0.4, -high * 0.55),
                  foot - QPointF(wide * 0.45, 0));
     hump.closeSubpath();
-    p.setPen(QPen(kInk, 0.8));
+    p.setPen(QPen(inkColour, 0.8));
     p.setBrush(inked(scales.times(0.92)));
     p.drawPath(hump);
     p.setPen(QPen(QColor(196, 214, 210, 130), 0.9));
@@ -155,7 +155,7 @@ Sprite paintedSerpent(Colour scales, int humps, bool mirrored) {
     neck.cubicTo(-25, -17.6, -21, -19, -18.5, -18);
     neck.cubicTo(-20, -12, -25, -8, -24, 1);
     neck.closeSubpath();
-    p.setPen(QPen(kInk, 0.8));
+    p.setPen(QPen(inkColour, 0.8));
     p.setBrush(inked(scales));
     p.drawPath(neck);
     p.setBrush(QColor(150, 96, 52));

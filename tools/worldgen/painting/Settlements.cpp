@@ -90,7 +90,7 @@ class Builder {
 void Builder::houses(int count, QSizeF inner, QSizeF outer, double scale) {
     std::vector<QPointF> built;
     for (int attempt = 0; attempt < count * 14 && int(built.size()) < count; ++attempt) {
-        const double angle = rng_.range(0, 2 * kPi);
+        const double angle = rng_.range(0, 2 * pi);
         const double out = std::sqrt(rng_.unit());
         const QPointF at =
             onRing(angle, lerp(inner.width(), outer.width(), out), lerp(inner.height(), outer.height(), out));
@@ -107,8 +107,8 @@ void Builder::houses(int count, QSizeF inner, QSizeF outer, double scale) {
 void Builder::enclosure(double rx, double ry, bool timber) {
     constexpr int stretches = 14;
     for (int k = 0; k < stretches; ++k) {
-        const double from = (k + 0.5) * 2 * kPi / stretches + kPi / 2;
-        const double to = (k + 1.5) * 2 * kPi / stretches + kPi / 2;
+        const double from = (k + 0.5) * 2 * pi / stretches + pi / 2;
+        const double to = (k + 1.5) * 2 * pi / stretches + pi / 2;
         const QPointF a = onRing(from, rx, ry);
         const QPointF b = onRing(to, rx, ry);
         if (k == stretches - 1 || !dry(a) || !dry(b)) // the last stretch is the gate, to the south
@@ -140,7 +140,7 @@ void Builder::outpost() {
 void Builder::mission() {
     for (int k = 0; k < 7; ++k)
         stand(paintedTent(rng_),
-              onRing(k * 2 * kPi / 7 + rng_.range(-0.2, 0.2), rng_.range(27, 37), rng_.range(18, 25)));
+              onRing(k * 2 * pi / 7 + rng_.range(-0.2, 0.2), rng_.range(27, 37), rng_.range(18, 25)));
     stand(paintedShrine(style_, rng_), QPointF(place_.at) + QPointF(-3, -20));
     stand(paintedBanner(rng_), QPointF(place_.at) + QPointF(18, -14));
     stand(paintedBanner(rng_), QPointF(place_.at) + QPointF(-22, -12));
@@ -148,7 +148,7 @@ void Builder::mission() {
 
 void Builder::challenge() {
     for (int k = 0; k < 13; ++k)
-        stand(paintedStandingStone(rng_.range(0.95, 1.3), rng_), onRing(k * 2 * kPi / 13, 35, 24));
+        stand(paintedStandingStone(rng_.range(0.95, 1.3), rng_), onRing(k * 2 * pi / 13, 35, 24));
     stand(paintedBanner(rng_), onRing(-2.2, 42, 27));
     stand(paintedBanner(rng_), onRing(-0.9, 42, 27));
 }
@@ -188,7 +188,7 @@ void Builder::raise(Landmark landmark, QPointF at) {
 void Builder::grove() {
     for (int k = 0; k < 150; ++k) {
         const QPointF at =
-            onRing(rng_.range(0, 2 * kPi), 84 * std::sqrt(rng_.unit()), 52 * std::sqrt(rng_.unit()));
+            onRing(rng_.range(0, 2 * pi), 84 * std::sqrt(rng_.unit()), 52 * std::sqrt(rng_.unit()));
         const QPointF away = at - QPointF(place_.at);
         if (std::abs(away.y() - 4) > 12 || std::abs(away.x()) > 48)
             stand(paintedBamboo(rng_), at);
@@ -212,7 +212,7 @@ void ploughFields(QImage& picture, const Landscape& land, QPoint at, SiteRole ro
     const double turn = rng.range(-0.5, 0.5);
     const int fields = role == SiteRole::Town ? 11 : 5;
     for (int k = 0; k < fields; ++k) {
-        const double angle = rng.range(0, 2 * kPi);
+        const double angle = rng.range(0, 2 * pi);
         const double out = rng.range(1.15, 1.7);
         const QSizeF room = settlementRoom(role);
         const QPointF middle =

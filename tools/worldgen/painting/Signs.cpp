@@ -21,7 +21,7 @@ struct Material {
     QRgb deep;
 };
 
-constexpr std::array Materials{
+constexpr std::array materials{
     Material{u"steel", 0xEEF3F6, 0x6A7888},  Material{u"gold", 0xFFE796, 0x9A6018},
     Material{u"wood", 0xC79A5E, 0x53341C},   Material{u"leather", 0xB07A4C, 0x4A2A18},
     Material{u"bone", 0xFFF8DE, 0xAE9A70},   Material{u"blood", 0xFF6E58, 0x80101A},
@@ -44,9 +44,9 @@ Material clothOf(QRgb colour) {
 }
 
 Material materialNamed(QStringView name, QRgb cloth) {
-    const auto* found = std::find_if(Materials.begin(), Materials.end(),
+    const auto* found = std::find_if(materials.begin(), materials.end(),
                                      [&](const Material& known) { return known.name == name; });
-    return found == Materials.end() ? clothOf(cloth) : *found;
+    return found == materials.end() ? clothOf(cloth) : *found;
 }
 
 struct Placing {
@@ -56,7 +56,7 @@ struct Placing {
 };
 
 // Where a sign stands that is not alone. The later word of a layer has the last say about the place.
-constexpr std::array Placings{
+constexpr std::array placings{
     Placing{u"left", 0.60, {-11.5, -3}}, Placing{u"right", 0.60, {11.5, 4}}, Placing{u"up", 0.60, {0, -11}},
     Placing{u"low", 0.64, {0, 9}},       Placing{u"nw", 0.48, {-13, -13}},   Placing{u"ne", 0.48, {13, -13}},
     Placing{u"sw", 0.48, {-13, 13}},     Placing{u"se", 0.48, {13, 13}},     Placing{u"centre", 0.56, {0, 0}},
@@ -100,7 +100,7 @@ QTransform stand(const QStringList& manner, bool hasCompanion) {
         at = {13, 13};
     }
     for (const QString& word : manner)
-        for (const Placing& known : Placings)
+        for (const Placing& known : placings)
             if (known.word == word) {
                 scale = known.scale;
                 at = known.at;
@@ -152,16 +152,16 @@ void paintOne(QPainter& painter, const PlacedSign& placedSign, const QTransform&
 } // namespace
 
 bool isSignMaterial(QStringView name) {
-    return name == u"cloth" || std::any_of(Materials.begin(), Materials.end(),
+    return name == u"cloth" || std::any_of(materials.begin(), materials.end(),
                                            [&](const Material& known) { return known.name == name; });
 }
 
 bool isSignManner(QStringView word) {
-    constexpr std::array Manners{QStringView(u"two"),    QStringView(u"three"), QStringView(u"trio"),
+    constexpr std::array manners{QStringView(u"two"),    QStringView(u"three"), QStringView(u"trio"),
                                  QStringView(u"pair"),   QStringView(u"ring"),  QStringView(u"small"),
                                  QStringView(u"behind"), QStringView(u"tilted")};
-    return std::find(Manners.begin(), Manners.end(), word) != Manners.end() ||
-           std::any_of(Placings.begin(), Placings.end(),
+    return std::find(manners.begin(), manners.end(), word) != manners.end() ||
+           std::any_of(placings.begin(), placings.end(),
                        [&](const Placing& known) { return known.word == word; });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../RegionPainter.h"
+#include "RegionPainter.h"
 
 #include <QPainter>
 

@@ -8,9 +8,9 @@ namespace worldgen {
 
 namespace {
 
-constexpr int kBorder = 84; // half of a long name, plus the frame
-constexpr double kNarrowest = 62;
-constexpr int kFrameGap = 26;
+constexpr int border = 84; // half of a long name, plus the frame
+constexpr double narrowest = 62;
+constexpr int frameGap = 26;
 
 // Markers of towns are large and names hang below them: both ends of that span, per campaign.
 struct Reach {
@@ -100,8 +100,8 @@ class Finder {
 
 QPoint Finder::randomPoint(const SiteWish& wish) {
     const int halfName = nameBox({}, wish, 0).width() / 2;
-    const int bx = std::min(std::max(kBorder, halfName + kFrameGap), land_.size.width() / 3);
-    const int by = std::min(kBorder, land_.size.height() / 3);
+    const int bx = std::min(std::max(border, halfName + frameGap), land_.size.width() / 3);
+    const int by = std::min(border, land_.size.height() / 3);
     const int x = rng_.whole(bx, land_.size.width() - bx);
     return {x, rng_.whole(by, land_.size.height() - by)};
 }
@@ -194,7 +194,7 @@ QPoint Finder::place(const SiteWish& wish) {
     double bestScore = -2;
     for (int attempt = 0; attempt < 1400; ++attempt) {
         const QPoint p = randomPoint(wish);
-        const double here = room(p) < kNarrowest ? -1 : suitability(p, wish) + rng_.range(0, 0.12);
+        const double here = room(p) < narrowest ? -1 : suitability(p, wish) + rng_.range(0, 0.12);
         // Without any suitable place, solid ground with the most room still takes the site.
         const bool solid = land_.toWater.clamped(p.x(), p.y()) > 4 && !land_.highGround(p.x(), p.y());
         const double fallback = -1.9 + (solid ? 0.4 : 0) + std::min(room(p), 60.0) * 0.005;

@@ -1,4 +1,4 @@
-#include "../RegionPainter.h"
+#include "RegionPainter.h"
 
 #include "Colour.h"
 #include "Maths.h"
@@ -14,8 +14,8 @@ namespace worldgen {
 
 namespace {
 
-constexpr int kSide = 64;
-constexpr int kFineSide = kSide * 3;
+constexpr int iconSide = 64;
+constexpr int fineSide = iconSide * 3;
 
 // The profession's colour, turned, faded and darkened.
 struct Shade {
@@ -26,7 +26,7 @@ struct Shade {
 
 // One for each attribute, the last for skills without: the attributes of a profession are told apart by
 // shade and pattern, and yet belong together.
-constexpr std::array<Shade, 6> Shades{
+constexpr std::array<Shade, 6> shades{
     Shade{0, 1, 0.92},      Shade{0.07, 1.05, 0.52}, Shade{-0.08, 0.75, 0.82},
     Shade{0.02, 0.55, 0.5}, Shade{-0.03, 1.2, 0.68}, Shade{0.5, 0.45, 0.55},
 };
@@ -84,8 +84,8 @@ void paintGround(QImage& image, Colour colour, const Pattern& pattern) {
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
-            const double u = x * 2.0 / kFineSide - 1;
-            const double v = y * 2.0 / kFineSide - 1;
+            const double u = x * 2.0 / fineSide - 1;
+            const double v = y * 2.0 / fineSide - 1;
             const double light =
                 (0.80 - 0.46 * smoothStep(0.3, 1.35, lengthOf(u, v))) * (0.80 + 0.30 * pattern.at(u, v));
             line[x] = rgbOf(colour.times(std::max(0.10, light)));
@@ -127,14 +127,14 @@ void paintRim(QPainter& painter, Colour colour) {
 QImage paintSkillIcon(const SkillPicture& skill) {
     Rng rng(skill.seed * 3ULL + 1);
     const Colour colour = colourOf(skill.professionColour);
-    const int kind = std::clamp(skill.attribute, 0, int(Shades.size()) - 1);
-    const Colour ground = shaded(colour, Shades[std::size_t(kind)]);
-    QImage fine(kFineSide, kFineSide, QImage::Format_RGB32);
+    const int kind = std::clamp(skill.attribute, 0, int(shades.size()) - 1);
+    const Colour ground = shaded(colour, shades[std::size_t(kind)]);
+    QImage fine(fineSide, fineSide, QImage::Format_RGB32);
     paintGround(fine, ground, Pattern(kind, rng));
     QPainter painter(&fine);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(double(kFineSide) / kSide, double(kFineSide) / kSide);
-    painter.translate(kSide / 2, kSide / 2);
+    painter.scale(double(fineSide) / iconSide, double(fineSide) / iconSide);
+    painter.translate(iconSide / 2, iconSide / 2);
     paintGlow(painter, ground);
     painter.save();
     painter.scale(0.94, 0.94);

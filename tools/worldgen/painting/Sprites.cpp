@@ -3,18 +3,18 @@
 namespace worldgen {
 
 SpriteCanvas::SpriteCanvas(int width, int height, QPointF anchor)
-    : large_(width * kSamples, height * kSamples, QImage::Format_ARGB32_Premultiplied), anchor_(anchor) {
+    : large_(width * samples, height * samples, QImage::Format_ARGB32_Premultiplied), anchor_(anchor) {
     large_.fill(Qt::transparent);
     painter_.begin(&large_);
     painter_.setRenderHint(QPainter::Antialiasing);
-    painter_.scale(kSamples, kSamples);
+    painter_.scale(samples, samples);
     painter_.translate(anchor);
     painter_.setPen(Qt::NoPen);
 }
 
 Sprite SpriteCanvas::finished() {
     painter_.end();
-    return {shrunk(large_, kSamples), anchor_};
+    return {shrunk(large_, samples), anchor_};
 }
 
 QImage shrunk(const QImage& premultiplied, int factor) {

@@ -18,12 +18,12 @@ struct Sprite {
 // another.
 class SpriteCanvas {
   public:
-    // \a width, \a height: of the finished sprite; \a anchor in it is the origin to paint around.
+    // `width`, `height`: of the finished sprite; `anchor` in it is the origin to paint around.
     SpriteCanvas(int width, int height, QPointF anchor);
     QPainter& painter() { return painter_; }
     Sprite finished();
 
-    static constexpr int kSamples = 4;
+    static constexpr int samples = 4;
 
   private:
     QImage large_;
@@ -31,10 +31,10 @@ class SpriteCanvas {
     QPainter painter_;
 };
 
-// The mean of each \a factor x \a factor square; sizes must divide.
+// The mean of each `factor` x `factor` square; sizes must divide.
 QImage shrunk(const QImage& premultiplied, int factor);
 
-// One tree, about 14 pixels high at \a scale 1, with its shadow to the south-east.
+// One tree, about 14 pixels high at `scale` 1, with its shadow to the south-east.
 Sprite paintedTree(TreeStyle style, const Palette& palette, double scale, Rng& rng);
 
 enum class PeakStyle { Alpine, Mesa, Volcanic, Hill };

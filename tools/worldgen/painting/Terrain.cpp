@@ -176,8 +176,8 @@ double LandMaker::heightAt(double x, double y) const {
 
 Field raisedLand(const RegionRecipe& recipe, const Noises& noises) {
     const LandMaker maker(recipe, noises);
-    const double unit = unitOf(recipe.size) / kCell;
-    Field height(recipe.size.width() / kCell, recipe.size.height() / kCell);
+    const double unit = unitOf(recipe.size) / cellSide;
+    Field height(recipe.size.width() / cellSide, recipe.size.height() / cellSide);
     for (int y = 0; y < height.height(); ++y)
         for (int x = 0; x < height.width(); ++x)
             height.at(x, y) = float(maker.heightAt(x / unit, y / unit));

@@ -5,7 +5,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr Colour kBark{58, 44, 30};
+constexpr Colour bark{58, 44, 30};
 
 QPointF around(QPointF middle, double angle, double radius) {
     return middle + QPointF(cosineOf(angle) * radius, sineOf(angle) * radius);
@@ -23,7 +23,7 @@ void crown(QPainter& p, QPointF middle, double radius, Colour leaf, Rng& rng) {
     for (int ring = 0; ring < 3; ++ring) {
         const int tufts = 9 - 2 * ring;
         for (int k = 0; k < tufts; ++k) {
-            const double angle = (k + rng.unit()) * 2 * kPi / tufts;
+            const double angle = (k + rng.unit()) * 2 * pi / tufts;
             const QPointF from =
                 around(middle - QPointF(0.16, 0.20) * radius * ring, angle, radius * (0.74 - 0.26 * ring));
             const double lit =
@@ -37,14 +37,14 @@ void crown(QPainter& p, QPointF middle, double radius, Colour leaf, Rng& rng) {
 
 void broadleaf(QPainter& p, double s, Colour leaf, Rng& rng) {
     shadow(p, {0, 0.5 * s}, 5.2 * s, 2.5 * s);
-    p.setBrush(inked(kBark));
+    p.setBrush(inked(bark));
     p.drawRect(QRectF(-0.7 * s, -3 * s, 1.4 * s, 3.6 * s));
     crown(p, {0, -5.2 * s}, 4.6 * s, leaf, rng);
 }
 
 void jungle(QPainter& p, double s, Colour leaf, Rng& rng) {
     shadow(p, {0, 0.5 * s}, 6 * s, 2.6 * s);
-    p.setBrush(inked(kBark.times(0.8)));
+    p.setBrush(inked(bark.times(0.8)));
     p.drawRect(QRectF(-0.6 * s, -6 * s, 1.2 * s, 6.5 * s));
     crown(p, {-1.8 * s, -5.4 * s}, 3.6 * s, leaf.times(0.85), rng);
     crown(p, {1.6 * s, -7.4 * s}, 4.2 * s, leaf.times(1.1), rng);
@@ -63,7 +63,7 @@ void tier(QPainter& p, QRectF box, Colour colour, Rng& rng) {
 
 void conifer(QPainter& p, double s, Colour needles, bool snowy, Rng& rng) {
     shadow(p, {0, 0.2 * s}, 3.8 * s, 1.9 * s);
-    p.setBrush(inked(kBark));
+    p.setBrush(inked(bark));
     p.drawRect(QRectF(-0.6 * s, -1.6 * s, 1.2 * s, 2 * s));
     for (int k = 0; k < 4; ++k) {
         const double wide = (4.3 - 0.95 * k) * s;
@@ -84,11 +84,11 @@ void palm(QPainter& p, double s, Colour leaf, Rng& rng) {
     const QPointF top(lean, -9.5 * s);
     QPainterPath trunk;
     trunk.quadTo(QPointF(lean * 0.2, -5 * s), top);
-    p.setPen(QPen(inked(kBark.times(1.35)), 1.2 * s));
+    p.setPen(QPen(inked(bark.times(1.35)), 1.2 * s));
     p.setBrush(Qt::NoBrush);
     p.drawPath(trunk);
     for (int k = 0; k < 9; ++k) {
-        const double angle = k * 2 * kPi / 9 + rng.range(-0.25, 0.25);
+        const double angle = k * 2 * pi / 9 + rng.range(-0.25, 0.25);
         const QPointF tip = around(top, angle, 4.8 * s) + QPointF(0, 1.9 * s);
         QPainterPath frond(top);
         frond.quadTo(around(top, angle, 2.8 * s) - QPointF(0, 1.1 * s), tip);
@@ -121,7 +121,7 @@ void deadTree(QPainter& p, double s, Rng& rng) {
     shadow(p, {0.6 * s, 0.2 * s}, 2.6 * s, 1.2 * s);
     const double light = rng.range(0.75, 1.25);
     p.setPen(QPen(inked(Colour{70, 62, 56}.times(light)), 1, Qt::SolidLine, Qt::RoundCap));
-    bough(p, {0, 0.3 * s}, -kPi / 2 + rng.range(-0.2, 0.2), 4.4 * s, 3);
+    bough(p, {0, 0.3 * s}, -pi / 2 + rng.range(-0.2, 0.2), 4.4 * s, 3);
     p.setPen(Qt::NoPen);
 }
 

@@ -9,7 +9,7 @@ namespace worldgen {
 
 namespace {
 
-constexpr Colour kFoam{185, 211, 203};
+constexpr Colour foamColour{185, 211, 203};
 
 // Four broken lines that follow the coast, ever fainter towards the open sea.
 double foamAt(const Landscape& land, int x, int y) {
@@ -55,7 +55,7 @@ using Stroke = void (*)(QPainter&, QPointF, QPointF, double);
 void strokeRiver(QPainter& painter, const Landscape& land, const River& river, Stroke stroke) {
     for (std::size_t k = 1; k < river.points.size(); ++k) {
         const QPointF p = river.points[k];
-        if (land.lakes.sampled(p.x() / kCell, p.y() / kCell) <= 0.3)
+        if (land.lakes.sampled(p.x() / cellSide, p.y() / cellSide) <= 0.3)
             stroke(painter, river.points[k - 1], p, river.widths[k]);
     }
 }
@@ -69,7 +69,7 @@ void paintCoast(QImage& picture, const Landscape& land) {
             if (!land.water(x, y))
                 continue;
             if (land.sea(x, y))
-                tint(line[x], kFoam, foamAt(land, x, y));
+                tint(line[x], foamColour, foamAt(land, x, y));
             const double edge = 2.2 - land.toLand.at(x, y);
             if (edge > 0)
                 tint(line[x], Colour{14, 18, 18}, 0.30 * std::min(1.0, edge));

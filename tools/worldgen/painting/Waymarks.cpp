@@ -5,7 +5,7 @@ namespace worldgen {
 
 namespace {
 
-const QColor kInk(24, 16, 10, 170);
+const QColor inkColour(24, 16, 10, 170);
 
 void shadowUnder(QPainter& p, double rx, double ry) {
     p.setPen(Qt::NoPen);
@@ -20,7 +20,7 @@ Sprite paintedBarrow(const Palette& palette) {
     QPainterPath mound(QPointF(-18, 2));
     mound.cubicTo(-14, -17, 12, -19, 18, 2);
     mound.quadTo(0, 7, -18, 2);
-    p.setPen(QPen(kInk, 0.6));
+    p.setPen(QPen(inkColour, 0.6));
     p.setBrush(inked(mixed(palette.mid, palette.low, 0.4).times(0.95)));
     p.drawPath(mound);
     p.setPen(Qt::NoPen);
@@ -40,7 +40,7 @@ Sprite paintedWreck() {
     QPainter& p = canvas.painter();
     shadowUnder(p, 17, 4);
     p.rotate(-11);
-    p.setPen(QPen(kInk, 0.7));
+    p.setPen(QPen(inkColour, 0.7));
     p.setBrush(QColor(98, 70, 46));
     QPainterPath hull(QPointF(-17, -6));
     hull.quadTo(QPointF(0, 1), QPointF(16, -7));
@@ -76,7 +76,7 @@ Sprite paintedBones() {
         p.setPen(QPen(QColor(216, 204, 174), 1.6, Qt::SolidLine, Qt::RoundCap));
         p.drawPath(rib);
     }
-    p.setPen(QPen(kInk, 0.6));
+    p.setPen(QPen(inkColour, 0.6));
     p.setBrush(QColor(208, 194, 162));
     p.drawEllipse(QPointF(-19, -1), 4.6, 3.4);
     p.setBrush(QColor(30, 22, 16));
@@ -95,7 +95,7 @@ Sprite paintedVent(Rng& rng) {
         p.setBrush(QColor(214, 210, 204, int(96 - 80 * up)));
         p.drawEllipse(QPointF(rng.range(-2, 2) + 5 * up, -8 - 24 * up), 2.6 + 4 * up, 2.4 + 3 * up);
     }
-    p.setPen(QPen(kInk, 0.6));
+    p.setPen(QPen(inkColour, 0.6));
     p.setBrush(QColor(96, 84, 76));
     p.drawPolygon(QPolygonF{{-10, 1}, {-3, -9}, {3, -8}, {10, 1.6}, {0, 3.6}});
     p.setPen(Qt::NoPen);
@@ -136,7 +136,7 @@ Sprite paintedLanterns() {
         p.setPen(Qt::NoPen);
         p.setBrush(QColor(255, 176, 70, 70));
         p.drawEllipse(QPointF(x, -10), 5, 6);
-        p.setPen(QPen(kInk, 0.4));
+        p.setPen(QPen(inkColour, 0.4));
         p.setBrush(QColor(240, 120, 46));
         p.drawEllipse(QPointF(x, -10), 2.1, 3);
         p.setPen(Qt::NoPen);
