@@ -139,13 +139,6 @@ class LocationFile {
     int stored_ = 0;
 };
 
-// Bosses that stand there only during an event, and those with code "D", carry no green items; one boss does
-// whatever its line says.
-bool carriesGreens(const MapLocation& at) {
-    return ((at.Note.isEmpty() || !at.Note.toLower().startsWith(u"only during")) && at.MarkerCode != u"D") ||
-           at.Boss == u"Quillon Brackfin";
-}
-
 } // namespace
 
 void LoadEliteSkills(Content& state, const Disk& disk, Complaints* complaints) {

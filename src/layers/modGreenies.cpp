@@ -81,6 +81,11 @@ void LoadGreens(Content& state, const Disk& disk, Complaints* complaints) {
         ++green;
 }
 
+bool carriesGreens(const MapLocation& at) {
+    return ((at.Note.isEmpty() || !at.Note.toLower().startsWith(u"only during")) && at.MarkerCode != u"D") ||
+           at.Boss == u"Quillon Brackfin";
+}
+
 std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss) {
     const auto found = state.GreensOfBosses.find(folded(QStringView(boss).trimmed()));
     if (found == state.GreensOfBosses.end())

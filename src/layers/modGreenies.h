@@ -21,6 +21,10 @@ struct Content;
 // Also fills GreenOrder and GreensOfBosses.
 void LoadGreens(Content& state, const Disk& disk, Complaints* complaints = nullptr);
 
+// Bosses that stand there only during an event, and those with code "D", carry no green items; one boss does
+// whatever its line says.
+bool carriesGreens(const MapLocation& at);
+
 // Links every item of the boss to that location and returns their indexes; letter case and blanks at the ends
 // of `boss` do not matter.
 std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss);

@@ -57,6 +57,25 @@ TEST(PlaceFinder, dependsOnItsSeedAlone) {
     EXPECT_EQ(QPoint(443, 348), place);
 }
 
+TEST(ZoneFootprint, coversTheMarkerThatTheProgramDraws) {
+    SourceZone zone;
+    zone.name = u"Ur"_s;
+    const auto covers = [&](ZoneKind kind, int campaign, QSize marker) {
+        zone.kind = kind;
+        zone.campaign = campaign;
+        QRect drawn(QPoint(), marker);
+        drawn.moveCenter(QPoint(500, 400));
+        return zoneFootprint(zone, QPoint(500, 400)).contains(drawn);
+    };
+    zone.marker = true;
+    EXPECT_TRUE(covers(ZoneKind::Mission, 3, QSize(64, 61)));
+    EXPECT_TRUE(covers(ZoneKind::Challenge, 3, QSize(59, 68)));
+    EXPECT_TRUE(covers(ZoneKind::Town, 2, QSize(60, 51)));
+    EXPECT_FALSE(covers(ZoneKind::Outpost, 1, QSize(64, 61))) << "as large as needed, not more";
+    zone.marker = false;
+    EXPECT_FALSE(covers(ZoneKind::Area, 3, QSize(64, 61))) << "a name alone";
+}
+
 // Two regions with a town each; forty bosses live in the first town.
 WorldSource crowdedWorld() {
     WorldSource world;

@@ -6,75 +6,97 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Appends `factor` - 1 changed copies of every record.
-template <typename Record, typename Change>
-void multiply(std::vector<Record>& records, int factor, const Change& change) {
-    const std::size_t originals = records.size();
-    records.reserve(originals * std::size_t(factor));
-    for (int copy = 1; copy < factor; ++copy) {
-        for (std::size_t i = 0; i < originals; ++i) {
-            Record record = records[i];
-            change(record, copy);
-            records.push_back(record);
-        }
+// Which copy of a record is made, and by how much the zones' numbers and indexes move from copy to copy.
+struct Copy {
+    int number = 0; // from 1
+    int zones = 0;
+
+    QString named(const QString& name) const { return name + u' ' + QString::number(number + 1); }
+    int numbered(int original) const { return original + number * numberStep; }
+    int movedZone(int zone) const { return zone + number * zones; }
+    QString pet(const QString& idText) const {
+        return u"%1"_s.arg(numbered(idText.toInt()), 4, 10, QLatin1Char('0'));
+    }
+};
+
+void change(SourceZone& zone, const Copy& copy) {
+    zone.id = copy.movedZone(zone.id);
+    zone.name = copy.named(zone.name);
+    zone.painted = false;
+}
+
+void change(SourceSkill& skill, const Copy& copy) {
+    skill.pictureOf = skill.id;
+    skill.id = copy.numbered(skill.id);
+    skill.name = copy.named(skill.name);
+}
+
+void change(SourceBoss& boss, const Copy& copy) {
+    const bool generous = carriesGreens(boss);
+    boss.skill = boss.skill == 0 ? 0 : copy.numbered(boss.skill);
+    boss.name = copy.named(boss.name);
+    boss.zone = copy.movedZone(boss.zone);
+    if (generous && !carriesGreens(boss)) {
+        // The original is spared by its name: nothing may keep the copy from dropping the copied green items.
+        boss.code.clear();
+        boss.note.clear();
     }
 }
 
-QString copyName(const QString& name, int copy) {
-    return name + u' ' + QString::number(copy + 1);
+void change(SourceCollector& collector, const Copy& copy) {
+    collector.id = copy.numbered(collector.id);
+    collector.name = copy.named(collector.name);
+    collector.zone = collector.zone < 0 ? collector.zone : copy.movedZone(collector.zone);
 }
 
-QString petId(const QString& idText, int copy) {
-    return u"%1"_s.arg(idText.toInt() + copy * numberStep, 4, 10, QLatin1Char('0'));
+void change(SourceGreen& green, const Copy& copy) {
+    green.name = copy.named(green.name);
+    green.boss = copy.named(green.boss);
+}
+
+void change(SourceChest& chest, const Copy& copy) {
+    chest.name = copy.named(chest.name);
+    chest.zone = copy.movedZone(chest.zone);
+}
+
+void change(SourcePet& pet, const Copy& copy) {
+    pet.pictureOf = pet.idText;
+    pet.idText = copy.pet(pet.idText);
+    pet.name = copy.named(pet.name);
+}
+
+void change(SourcePetPlace& place, const Copy& copy) {
+    place.pet = copy.pet(place.pet);
+    place.zone = copy.movedZone(place.zone);
+}
+
+// Appends `factor` - 1 changed copies of every record.
+template <typename Record>
+void multiply(std::vector<Record>& records, int factor, int zones) {
+    const std::size_t originals = records.size();
+    records.reserve(originals * std::size_t(factor));
+    for (int number = 1; number < factor; ++number) {
+        for (std::size_t i = 0; i < originals; ++i) {
+            Record record = records[i];
+            change(record, {number, zones});
+            records.push_back(record);
+        }
+    }
 }
 
 } // namespace
 
 WorldSource multiplied(const WorldSource& source, int factor) {
     WorldSource world = source;
-    const int zoneCount = int(source.zones.size());
-    multiply(world.zones, factor, [&](SourceZone& zone, int copy) {
-        zone.id += copy * zoneCount;
-        zone.name = copyName(zone.name, copy);
-        zone.painted = false;
-    });
-    multiply(world.skills, factor, [](SourceSkill& skill, int copy) {
-        skill.pictureOf = skill.id;
-        skill.id += copy * numberStep;
-        skill.name = copyName(skill.name, copy);
-    });
-    multiply(world.bosses, factor, [&](SourceBoss& boss, int copy) {
-        boss.skill += boss.skill == 0 ? 0 : copy * numberStep;
-        if (boss.name == alwaysGenerous) {
-            // Its copies have other names: nothing may keep them from dropping the copied green items.
-            boss.code.clear();
-            boss.note.clear();
-        }
-        boss.name = copyName(boss.name, copy);
-        boss.zone += copy * zoneCount;
-    });
-    multiply(world.collectors, factor, [&](SourceCollector& collector, int copy) {
-        collector.id += copy * numberStep;
-        collector.name = copyName(collector.name, copy);
-        collector.zone += collector.zone < 0 ? 0 : copy * zoneCount;
-    });
-    multiply(world.greens, factor, [](SourceGreen& green, int copy) {
-        green.name = copyName(green.name, copy);
-        green.boss = copyName(green.boss, copy);
-    });
-    multiply(world.chests, factor, [&](SourceChest& chest, int copy) {
-        chest.name = copyName(chest.name, copy);
-        chest.zone += copy * zoneCount;
-    });
-    multiply(world.pets, factor, [](SourcePet& pet, int copy) {
-        pet.pictureOf = pet.idText;
-        pet.idText = petId(pet.idText, copy);
-        pet.name = copyName(pet.name, copy);
-    });
-    multiply(world.petPlaces, factor, [&](SourcePetPlace& place, int copy) {
-        place.pet = petId(place.pet, copy);
-        place.zone += copy * zoneCount;
-    });
+    const int zones = int(source.zones.size());
+    multiply(world.zones, factor, zones);
+    multiply(world.skills, factor, zones);
+    multiply(world.bosses, factor, zones);
+    multiply(world.collectors, factor, zones);
+    multiply(world.greens, factor, zones);
+    multiply(world.chests, factor, zones);
+    multiply(world.pets, factor, zones);
+    multiply(world.petPlaces, factor, zones);
     return world;
 }
 

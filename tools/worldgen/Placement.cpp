@@ -1,9 +1,15 @@
 #include "Placement.h"
 
+#include "world/modZones.h"
+
+#include <QImageReader>
+
 #include <algorithm>
 #include <cmath>
 
 namespace worldgen {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -37,23 +43,17 @@ SiteRole roleOf(ZoneKind kind) {
     return SiteRole::Area;
 }
 
+orvinel::Zone asShown(const SourceZone& zone) {
+    return {zone.id, zone.name, int(zone.kind), zone.marker ? 1 : 0, 0, 0};
+}
+
+// Of the picture that the program draws there; of a name alone next to nothing.
 QSize markerSize(const SourceZone& zone) {
-    const int set = zone.campaign == 4 ? 1 : std::clamp(zone.campaign, 1, 3);
-    switch (zone.kind) {
-    case ZoneKind::Area:
-        return zone.marker ? QSize(24, 29) : QSize(2, 0);
-    case ZoneKind::Outpost:
-        return set == 1 ? QSize(22, 24) : set == 2 ? QSize(35, 42) : QSize(38, 38);
-    case ZoneKind::Mission:
-        return set == 1 ? QSize(32, 47) : set == 2 ? QSize(45, 47) : QSize(64, 61);
-    case ZoneKind::Town:
-        return set == 1 ? QSize(32, 36) : set == 2 ? QSize(60, 51) : QSize(62, 61);
-    case ZoneKind::Challenge:
-        return set == 2 ? QSize(44, 51) : QSize(59, 68);
-    case ZoneKind::DungeonEntrance:
-        return QSize(29, 25);
-    }
-    return {};
+    const std::optional<orvinel::Sprite> sprite = orvinel::zoneSprite(zone.campaign, asShown(zone));
+    if (!sprite)
+        return {2, 0};
+    const QString name = QLatin1String(orvinel::spriteNames[std::size_t(*sprite)]);
+    return QImageReader(QStringLiteral(WORLDGEN_MARKERS) + u'/' + name + u".png"_s).size();
 }
 
 bool liesIn(const SourceRegion& region, const SourceZone& zone) {
@@ -220,9 +220,8 @@ QRect zoneFootprint(const SourceZone& zone, QPoint place) {
     const int nameHalf = halfLetter * int(zone.name.size()) + markerHalf;
     const QSize marker = markerSize(zone);
     const int down = marker.height() / 2 + 1;
-    const bool nameOnly = zone.kind == ZoneKind::Area && !zone.marker;
-    const QRect name = nameOnly ? QRect(-nameHalf, -nameHeight / 2, 2 * nameHalf, nameHeight)
-                                : QRect(-nameHalf, down, 2 * nameHalf, nameHeight);
+    const QRect name = asShown(zone).nameOnly() ? QRect(-nameHalf, -nameHeight / 2, 2 * nameHalf, nameHeight)
+                                                : QRect(-nameHalf, down, 2 * nameHalf, nameHeight);
     const QRect picture(-marker.width() / 2, -down, marker.width(), 2 * down);
     constexpr int clear = 12;
     const QRect least(-20, -20, 40, 40);

@@ -63,6 +63,7 @@ class Translator {
 
   private:
     Pattern pattern_;
+    QString noAttribute_;
     QHash<QString, QString> phrases_;
     QHash<int, QString> descriptions_;
     QStringList& problems_;
@@ -70,7 +71,7 @@ class Translator {
 
 Translator::Translator(const WorldSource& source, const QString& worldFolder, std::size_t language,
                        QStringList& problems)
-    : pattern_(source), problems_(problems) {
+    : pattern_(source), noAttribute_(noAttributeCaption(worldFolder)), problems_(problems) {
     const qsizetype column = 1 + qsizetype(language);
     const QString folder = worldFolder + u"/source/texts/"_s;
     for (const SourceRow& row : readTable(folder + u"phrases.txt"_s, 3, problems))
@@ -88,10 +89,10 @@ void Translator::phrase(QString& text) const {
         text = phrases_[text];
     } else if (phrases_.contains(pattern)) {
         text = Pattern::filled(phrases_[pattern], kept);
-    } else if (!phrases_.contains(pattern.replace(u"No attribute"_s, u"@45"_s))) {
+    } else if (!phrases_.contains(pattern.replace(noAttribute_, u"@45"_s))) {
         problems_.append(u"no translation: "_s + text);
     } else {
-        text = Pattern::filled(phrases_[pattern], kept).replace(u"@45"_s, u"No attribute"_s);
+        text = Pattern::filled(phrases_[pattern], kept).replace(u"@45"_s, noAttribute_);
     }
 }
 

@@ -15,7 +15,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <mutex>
@@ -311,18 +310,6 @@ QStringList buildWorld(const WorldSource& source, const QString& worldFolder, co
 
 QStringList paintPictures(const WorldSource& source, const QString& outFolder, const QString& part) {
     return Builder(source, {}, outFolder).paint(part);
-}
-
-QString noAttributeCaption(const QString& worldFolder) {
-    QFile file(worldFolder + u"/Data/Language.txt"_s);
-    QString text;
-    if (file.open(QIODevice::ReadOnly))
-        text = QStringDecoder("windows-1252").decode(file.readAll());
-    for (const QString& line : text.split(u"\r\n"_s)) {
-        if (line.startsWith(u"45\t"))
-            return line.section(u'\t', 1, 1);
-    }
-    return u"No attribute"_s;
 }
 
 } // namespace worldgen

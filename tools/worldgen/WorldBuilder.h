@@ -21,8 +21,4 @@ QStringList paintPictures(const WorldSource& source, const QString& outFolder, c
 // Writes a CrowdedWorld with its picture and its player's notes; the rest as buildWorld does.
 QStringList buildCrowdedWorld(int scale, const QString& worldFolder, const QString& outFolder);
 
-// Caption of the attribute-less choice in `worldFolder`/Data/Language.txt, or an English one when there is
-// none.
-QString noAttributeCaption(const QString& worldFolder);
-
 } // namespace worldgen

@@ -1,7 +1,11 @@
 #include "WorldFiles.h"
 
+#include "base/Desktop.h"
+#include "base/TextRules.h"
+#include "world/World.h"
+#include "world/modCampaigns.h"
+
 #include <QColor>
-#include <QStringEncoder>
 
 namespace worldgen {
 
@@ -26,9 +30,9 @@ class Lines {
     QByteArray bytes(const QString& fileName, QStringList& problems) const {
         QByteArray all;
         for (const QString& line : remark_.isEmpty() ? lines_ : QStringList(remark_) + lines_) {
-            QStringEncoder codePage("windows-1252");
-            all += QByteArray(codePage.encode(line)) + "\r\n";
-            if (!codePage.isValid() || codePage.hasError())
+            const QByteArray coded = orvinel::encodeText(line);
+            all += coded + "\r\n";
+            if (coded.size() != line.size()) // the code page has a byte for each letter
                 problems.append(fileName + u": not in the code page: "_s + line);
         }
         return all;
@@ -127,9 +131,8 @@ Lines CampaignWriter::skills() const {
 }
 
 QString CampaignWriter::bossCoordinate(int pixels) const {
-    constexpr int twipsPerPixel = 15;
     const bool inPixels = !campaign_.version.isEmpty() && campaign_.version != u"1.0";
-    return field(inPixels ? pixels : pixels * twipsPerPixel);
+    return field(inPixels ? pixels : pixels * orvinel::twipsPerPixel);
 }
 
 Lines CampaignWriter::bosses() const {
@@ -259,11 +262,13 @@ std::map<QString, QByteArray> campaignFiles(const WorldSource& source, const Wor
 }
 
 QString campaignFolder(const SourceCampaign& campaign) {
-    return u"Campaign.%1.%2"_s.arg(campaign.number, 2, 10, QLatin1Char('0')).arg(campaign.name);
+    orvinel::World world;
+    world.Campaigns.grow(campaign.number).CampaignName = campaign.name;
+    return orvinel::campaignFolder(world, campaign.number);
 }
 
 QString skillPicture(int id) {
-    return u"%1.jpg"_s.arg(id % 10000, 4, 10, QLatin1Char('0'));
+    return orvinel::fixedDigits(id, 4) + u".jpg"_s;
 }
 
 } // namespace worldgen

@@ -4,7 +4,14 @@
 #include "SkillSigns.h"
 #include "SourceTable.h"
 
+#include "app/modLanguage.h"
+#include "base/FileDisk.h"
+#include "layers/modGreenies.h"
+#include "world/World.h"
+#include "world/modZones.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
 
 #include <optional>
@@ -17,22 +24,12 @@ namespace {
 
 constexpr int highestNumber = numberStep - 1;
 
-// Picture sets 2 and 3 alone have a challenge marker, and only campaign 4 centres its dungeon entrances.
+// The program has a marker for it in the campaign's picture set, and centres it.
 bool kindFitsCampaign(ZoneKind kind, int campaign) {
-    switch (kind) {
-    case ZoneKind::Challenge:
-        return campaign == 2 || campaign == 3;
-    case ZoneKind::DungeonEntrance:
-        return campaign == 4;
-    default:
-        return true;
-    }
-}
-
-// Bosses of dungeons and of passing events drop no green items, but for the one that is at home in both.
-bool carriesGreens(const SourceBoss& boss) {
-    const bool passing = boss.note.startsWith(u"only during", Qt::CaseInsensitive) || boss.code == u"D";
-    return !passing || boss.name == alwaysGenerous;
+    orvinel::Zone zone;
+    zone.ZoneType = int(kind);
+    zone.MarkerFlag = 1;
+    return orvinel::zoneSprite(campaign, zone) && !orvinel::zoneMarkerOffset(campaign, int(kind)).isNull();
 }
 
 struct ZoneWord {
@@ -355,6 +352,22 @@ void SourceReader::readPetPlaces(int campaign) {
 }
 
 } // namespace
+
+bool carriesGreens(const SourceBoss& boss) {
+    orvinel::MapLocation at;
+    at.setBoss(boss.name);
+    at.MarkerCode = boss.code;
+    at.Note = boss.note;
+    return orvinel::carriesGreens(at);
+}
+
+QString noAttributeCaption(const QString& worldFolder) {
+    orvinel::World captions;
+    captions.AppPath = QFileInfo(worldFolder).absoluteFilePath() + u'/';
+    orvinel::LoadLanguage(captions, orvinel::FileDisk(captions.AppPath));
+    const QString caption = captions.text(orvinel::Caption::NoAttribute);
+    return caption.isEmpty() ? u"No attribute"_s : caption;
+}
 
 WorldSource readWorldSource(const QString& worldFolder, const QString& noAttribute, QStringList& problems) {
     return SourceReader(worldFolder, noAttribute, problems).read();

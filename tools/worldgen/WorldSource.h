@@ -17,9 +17,6 @@ enum class ZoneKind { Area = 1, Outpost = 2, Mission = 3, Town = 4, Challenge = 
 // multiples of it, get numbers of their own.
 constexpr int numberStep = 600;
 
-// The one boss that drops its green items whatever its code and note say. The program knows it by name.
-inline constexpr QStringView alwaysGenerous = u"Quillon Brackfin";
-
 struct SourceCampaign {
     int number = 0;
     QString name;    // the word after the number in the folder name; holds no dot
@@ -144,11 +141,18 @@ struct WorldSource {
     std::vector<SourcePetPlace> petPlaces;
 };
 
+// The program's caption for skills and rewards without an attribute, from `worldFolder`/Data/Language.txt;
+// English when there is none.
+QString noAttributeCaption(const QString& worldFolder);
+
 // Reads the tables below `worldFolder`/source. `noAttribute` replaces every "@45" in them: the program
 // compares those texts with its own caption for skills and rewards without an attribute.
 // Every fault (unknown name, missing field, number out of range) adds a line "file:line: what" to
 // `problems`.
 WorldSource readWorldSource(const QString& worldFolder, const QString& noAttribute, QStringList& problems);
+
+// Whether the program lets the boss drop green items there.
+bool carriesGreens(const SourceBoss& boss);
 
 // The same world `factor` times over: copies get names and numbers of their own and refer to copies.
 // Campaigns, regions and professions stay as they are. `factor` is 1..100.
