@@ -24,7 +24,7 @@ std::vector<InformationWindow*> ProgramLayers::windows() {
     return {&collectors.window(), &elites.window(), &notes.window(), &treasures.window(), &pets.window()};
 }
 
-std::array<ListedLayer*, filterCount> ProgramLayers::listed() {
+std::vector<ListedLayer*> ProgramLayers::listed() {
     return {&elites, &collectors, &greens, &notes, &treasures, &pets};
 }
 

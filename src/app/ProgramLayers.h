@@ -35,8 +35,8 @@ struct ProgramLayers {
     frmMap::Chains chains();
     // In the order in which they are hidden.
     std::vector<InformationWindow*> windows();
-    // By Filter.
-    std::array<ListedLayer*, filterCount> listed();
+    // In the order in which a change filters them, those of the panel's Filter first.
+    std::vector<ListedLayer*> listed();
     std::vector<FlashingKind> flashing();
 };
 

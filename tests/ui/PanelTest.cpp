@@ -36,9 +36,9 @@ struct PanelTest : ProgramFixture {
         state.AppOptions = remembered;
         panel = std::make_unique<frmMenu>(state, desktop);
         PanelHooks hooks;
-        for (size_t i = 0; i < filterCount; ++i) {
-            layers.push_back(std::make_unique<LoggedLayer>(log, panel, u"ECGNTP"_s[qsizetype(i)]));
-            hooks.layers[i] = layers.back().get();
+        for (const QChar letter : u"ECGNTP"_s) {
+            layers.push_back(std::make_unique<LoggedLayer>(log, panel, letter));
+            hooks.layers.push_back(layers.back().get());
         }
         hooks.showRegion = [this](const QString& picture, int campaign, int region) {
             log << u"show %1 %2 %3"_s.arg(picture.section(u'/', -1)).arg(campaign).arg(region);

@@ -54,7 +54,7 @@ void PetsView::FilterPets(bool updateMap) {
     const VariousPage& page = panel().variousPage();
     const auto entries = [this, &page] {
         page.lstPetLocations->clear();
-        return petEntries(state(), panel().petChoice());
+        return petEntries(state(), {panel().selection().place()});
     };
     panel().runFilter({*page.lstPets, *page.lblPets, listCaption, entries}, updateMap);
 }
@@ -65,7 +65,7 @@ void PetsView::ShowPetLocations() {
         return;
     const int id = page.lstPets->selectedEntry().data;
     listedPet_ = id;
-    const std::vector<ListEntry> entries = petLocationEntries(state(), id, panel().petChoice());
+    const std::vector<ListEntry> entries = petLocationEntries(state(), id, {panel().selection().place()});
     const QFontMetrics metrics(panel().font());
     int widest = 0;
     for (const ListEntry& entry : entries)

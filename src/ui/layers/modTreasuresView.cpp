@@ -53,7 +53,7 @@ TreasuresView::TreasuresView(const ProgramState& state, const Desktop& desktop, 
 void TreasuresView::FilterTreasures(bool updateMap) {
     const VariousPage& page = panel().variousPage();
     panel().runFilter({*page.lstKesraTreasures, *page.lblTreasures, listCaption,
-                       [this] { return treasureEntries(state(), panel().treasureChoice()); }},
+                       [this] { return treasureEntries(state(), {panel().selection().place()}); }},
                       updateMap);
 }
 

@@ -84,7 +84,7 @@ void frmMenu::orderTabStops() {
         append(box);
     for (TabHeader* header : tabs_->lblTab)
         header->setActive(false);
-    setTabOrder(variousPage_->lstPetLocations, cmdQuit_);
+    setTabOrder(variousPage_->findChildren<ListBox*>().last(), cmdQuit_);
     selection_->cmbCampaign->setFocus();
 }
 
@@ -129,7 +129,7 @@ void frmMenu::RefillPanel() {
     collectorsPage_->cmbCollHand->select(0);
     ApplyOptionsToPanel();
     MenuReady = true;
-    runFilters(Filter::Elites, Filter::Pets);
+    runAllFilters();
 }
 
 void frmMenu::chooseRegion(int campaign, int region) {
@@ -217,9 +217,9 @@ void frmMenu::runFilter(const Refill& refill, bool updateMap) {
         hooks_.updateMap();
 }
 
-void frmMenu::runFilters(Filter first, Filter last) {
-    for (int i = static_cast<int>(first); i <= static_cast<int>(last); ++i)
-        hooks_.layers[size_t(i)]->refilter(i == static_cast<int>(last));
+void frmMenu::runFilters(size_t first, size_t last) {
+    for (size_t i = first; i <= last; ++i)
+        hooks_.layers[i]->refilter(i == last);
 }
 
 void frmMenu::connectSelection() {
@@ -284,7 +284,7 @@ void frmMenu::campaignPicked() {
         selection_->FillRegionCombo(state_);
         selection_->FillZoneCombo(state_);
     }
-    runFilters(Filter::Elites, Filter::Pets);
+    runAllFilters();
 }
 
 void frmMenu::regionPicked() {
@@ -300,11 +300,11 @@ void frmMenu::regionPicked() {
         const auto guard = notReady(MenuReady);
         selection_->FillZoneCombo(state_);
     }
-    runFilters(Filter::Elites, Filter::Pets);
+    runAllFilters();
 }
 
 void frmMenu::zonePicked() {
-    runFilters(Filter::Elites, Filter::Pets);
+    runAllFilters();
     if (MenuReady && selection_->cmbZone->currentIndex() > 0 && elitePage_->lstElite->count() > 0)
         elitePage_->lstElite->select(0);
 }

@@ -4,8 +4,6 @@
 #include "base/Desktop.h"
 #include "layers/modGreenies.h"
 #include "layers/modNotes.h"
-#include "layers/modPets.h"
-#include "layers/modTreasures.h"
 #include "ui/panel/CollectorsPage.h"
 #include "ui/panel/ElitePage.h"
 #include "ui/panel/MenuBar.h"
@@ -18,18 +16,18 @@
 #include <QAbstractButton>
 #include <QWidget>
 
-#include <array>
 #include <functional>
+#include <vector>
 
 namespace orvinel {
 
-// The layers' filters in the order in which a change runs them.
-enum class Filter { Elites, Collectors, Greens, Notes, Treasures, Pets };
-inline constexpr int filterCount = 6;
+// The first of the listed layers, by name: those that the panel filters without the others.
+enum class Filter { Elites, Collectors, Greens, Notes };
 
 // What the panel calls; wired by the program.
 struct PanelHooks {
-    std::array<ListedLayer*, filterCount> layers{}; // by Filter; they outlive the panel's use
+    // In the order in which a change filters them, those of Filter first; they outlive the panel's use.
+    std::vector<ListedLayer*> layers;
     // Shows a region on the map; an empty path and -1, -1 show none.
     std::function<void(const QString& picture, int campaign, int region)> showRegion;
     std::function<void()> updateMap; // UpdateMapWithNewEliteSkills
@@ -69,8 +67,6 @@ class frmMenu : public QWidget {
     CollectorChoice collectorChoice() const;
     GreenChoice greenChoice() const;
     NoteChoice noteChoice() const;
-    TreasureChoice treasureChoice() const { return {selection_->place()}; }
-    PetChoice petChoice() const { return {selection_->place()}; }
     // True when the layer's check box has the value 1.
     bool layerShown(Tab tab) const { return tabs_->chkShowObject[indexOf(tab)]->value() == 1; }
 
@@ -114,8 +110,10 @@ class frmMenu : public QWidget {
     void connectCollectorsPage();
     void connectOtherPages();
     void orderTabStops();
-    // Runs the filters in order; the last one updates the map.
-    void runFilters(Filter first, Filter last);
+    // Run in order; the last one updates the map.
+    void runFilters(size_t first, size_t last);
+    void runFilters(Filter first, Filter last) { runFilters(size_t(first), size_t(last)); }
+    void runAllFilters() { runFilters(0, hooks_.layers.size() - 1); }
     void campaignPicked();
     void regionPicked();
     void zonePicked();
