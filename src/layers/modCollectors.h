@@ -25,13 +25,13 @@ struct CollectorChoice {
     static constexpr int anyLevel = 2;
     static constexpr int anyHand = 255; // an object with mask 0 is nobody's all the same
 
-    Place place;
+    Place place{};
     int level = anyLevel;
     Kind kind = Kind::All;
-    std::optional<QString> request; // a request type's text
-    QString searchText;             // as it stands in the field
+    std::optional<QString> request{}; // a request type's text
+    QString searchText{};             // as it stands in the field
     int handMask = anyHand;
-    std::vector<std::string> attributeWords; // folded; empty: no restriction
+    std::vector<std::string> attributeWords{}; // folded; empty: no restriction
 };
 
 // Also fills RequestTypes and CollectorOrder. Lines of a block whose header cannot be used are passed over.

@@ -93,54 +93,28 @@ TEST_F(CollectorLists, requestTypesIgnoreCaseAndTheNumberInFront) {
 }
 
 TEST_F(CollectorLists, areRestrictedByThePanel) {
-    const auto choice = [](auto change) {
-        CollectorChoice made;
-        change(made);
-        return made;
-    };
     using Choice = CollectorChoice;
     const std::vector<std::pair<Choice, Ids>> cases = {
         {{}, {2, 3, 1}},
-        {choice([](Choice& c) {
-             c.place = {2, 0, 0};
-         }),
-         {}},
-        {choice([](Choice& c) {
-             c.place = {1, 2, 0};
-         }),
-         {}},
-        {choice([](Choice& c) {
-             c.place = {1, 1, 0};
-         }),
-         {2, 3, 1}},
-        {choice([](Choice& c) {
-             c.place = {1, 1, 2};
-         }),
-         {1}},
-        {choice([](Choice& c) {
-             c.place = {1, 1, 3};
-         }),
-         {}},
-        {choice([](Choice& c) { c.level = 1; }), {3}},
-        {choice([](Choice& c) { c.kind = Choice::Kind::Objects; }), {2, 1}},
-        {choice([](Choice& c) { c.kind = Choice::Kind::Armour; }), {3}},
-        {choice([](Choice& c) { c.request = u"apPles"_s; }), {3, 1}},
-        {choice([](Choice& c) { c.request = u"Pears"_s; }), {}},
-        {choice([](Choice& c) { c.handMask = 2; }), {2, 1}},
-        {choice([](Choice& c) { c.searchText = u"LONG"_s; }), {2, 1}},
-        {choice([](Choice& c) { c.searchText = u"helm"_s; }), {3}},
-        {choice([](Choice& c) { c.searchText = u" helm"_s; }), {3}},
-        {choice([](Choice& c) { c.searchText = u"helm "_s; }), {}},
-        {choice([](Choice& c) { c.searchText = u"maud"_s; }), {}},
-        {choice([](Choice& c) {
-             c.attributeWords = {"fire", "sharp"};
-         }),
-         {3, 1}},
-        {choice([](Choice& c) {
-             c.attributeWords = {"helm", "pike"};
-         }),
-         {}},
-        {choice([](Choice& c) { c.attributeWords = {""}; }), {2, 3, 1}},
+        {{.place = {2, 0, 0}}, {}},
+        {{.place = {1, 2, 0}}, {}},
+        {{.place = {1, 1, 0}}, {2, 3, 1}},
+        {{.place = {1, 1, 2}}, {1}},
+        {{.place = {1, 1, 3}}, {}},
+        {{.level = 1}, {3}},
+        {{.kind = Choice::Kind::Objects}, {2, 1}},
+        {{.kind = Choice::Kind::Armour}, {3}},
+        {{.request = u"apPles"_s}, {3, 1}},
+        {{.request = u"Pears"_s}, {}},
+        {{.handMask = 2}, {2, 1}},
+        {{.searchText = u"LONG"_s}, {2, 1}},
+        {{.searchText = u"helm"_s}, {3}},
+        {{.searchText = u" helm"_s}, {3}},
+        {{.searchText = u"helm "_s}, {}},
+        {{.searchText = u"maud"_s}, {}},
+        {{.attributeWords = {"fire", "sharp"}}, {3, 1}},
+        {{.attributeWords = {"helm", "pike"}}, {}},
+        {{.attributeWords = {""}}, {2, 3, 1}},
     };
     for (size_t i = 0; i < cases.size(); ++i)
         EXPECT_EQ(cases[i].second, listed(cases[i].first)) << "case " << i;

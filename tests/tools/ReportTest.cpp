@@ -99,50 +99,67 @@ TEST_F(ReportTest, isSafeAndWholeAsAPage) {
     EXPECT_EQ(1, page.count(u"lang=\"en\""_s));
 }
 
-// Whatever the world: the to-do list names the skills that the panel lists as missing, at each of their
-// bosses, and the counts agree with it.
-TEST(ReportProperty, callsMissingWhatThePanelListsAsMissing) {
-    std::mt19937 random(20261123);
-    const auto upTo = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
-    for (int round = 0; round < 60; ++round) {
-        EliteWorld world;
+// A world of up to 40 skills with bosses here and there; the first character has captured a third.
+struct RandomWorld : EliteWorld {
+    explicit RandomWorld(std::mt19937& random) {
+        const auto upTo = [&](int most) {
+            return static_cast<int>(random() % static_cast<unsigned>(most + 1));
+        };
         QByteArray list;
         QByteArray places;
         QByteArray captured;
         for (int id = 1; id <= 40; ++id) {
+            const QByteArray number = QByteArray::number(id);
             if (upTo(9) > 0)
-                list += QByteArray::number(id) + '\t' + QByteArray::number(upTo(4)) + "\tSkill " +
+                list += number + '\t' + QByteArray::number(upTo(4)) + "\tSkill " +
                         QByteArray::number(upTo(30)) + "\r\n";
             for (int n = upTo(3); n > 0; --n)
-                places += QByteArray::number(id) + '\t' + QByteArray::number(upTo(3)) + "\t50\t" +
+                places += number + '\t' + QByteArray::number(upTo(3)) + "\t50\t" +
                           QByteArray::number(50 * n) + "\tBoss\t\t" + QByteArray::number(5 + upTo(4)) +
                           "\r\n";
             if (upTo(2) == 0)
-                captured += QByteArray::number(id) + "\r\n";
+                captured += number + "\r\n";
         }
-        world.file(1 + upTo(1), "EliteList.txt", list);
-        world.file(1 + upTo(1), "EliteLocations.txt", ";[Version]1.1\r\n" + places);
-        world.disk.put(u"/o/Personal/Char01CapElite.txt"_s, captured);
-        loadTables(world.state, world.files);
-
+        file(1 + upTo(1), "EliteList.txt", list);
+        file(1 + upTo(1), "EliteLocations.txt", ";[Version]1.1\r\n" + places);
+        disk.put(u"/o/Personal/Char01CapElite.txt"_s, captured);
+        loadTables(state, files);
+    }
+    // What the panel lists as missing.
+    std::vector<ListEntry> listed() const {
         EliteChoice choice;
         choice.character = 1;
         choice.uncapturedOnly = true;
+        return eliteEntries(state, choice);
+    }
+};
+
+// The skills of the to-do list, each as often as it names a place.
+std::multiset<int> skillsOfMissingList(const ProgramState& state) {
+    std::multiset<int> told;
+    for (const MissingRegion& region : missingList(state, 1))
+        for (const MissingZone& zone : region.zones)
+            for (const MissingSkill& skill : zone.skills)
+                for (int n = 0; n < skill.places; ++n)
+                    told.insert(skill.skill);
+    return told;
+}
+
+// Whatever the world: the to-do list names the skills that the panel lists as missing, at each of their
+// bosses, and the counts agree with it.
+TEST(ReportProperty, callsMissingWhatThePanelListsAsMissing) {
+    std::mt19937 random(20261123);
+    for (int round = 0; round < 60; ++round) {
+        const RandomWorld world(random);
         std::multiset<int> listed;
         int existing = 0;
-        for (const ListEntry& entry : eliteEntries(world.state, choice)) {
+        for (const ListEntry& entry : world.listed()) {
             const EliteSkill& skill = world.state.EliteSkills[entry.data];
             existing += skill.Exists ? 1 : 0;
             for (int n = 0; n < skill.Locations.count(); ++n)
                 listed.insert(entry.data);
         }
-        std::multiset<int> told;
-        for (const MissingRegion& region : missingList(world.state, 1))
-            for (const MissingZone& zone : region.zones)
-                for (const MissingSkill& skill : zone.skills)
-                    for (int n = 0; n < skill.places; ++n)
-                        told.insert(skill.skill);
-        EXPECT_EQ(listed, told) << round;
+        EXPECT_EQ(listed, skillsOfMissingList(world.state)) << round;
         const Share all = completionRows(world.state, 1).front().skills;
         const auto bossless =
             std::count_if(world.state.EliteSkills.begin(), world.state.EliteSkills.end(),
