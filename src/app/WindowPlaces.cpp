@@ -126,7 +126,12 @@ bool WindowPlaces::refused(int panelShown) {
     const WindowPair now{placeOnServer(windows_.panel), placeOnServer(windows_.map)};
     // No window manager refuses what lies wholly within its work area.
     const QRect area = desktop_.workArea();
-    const bool granted = area.contains(wanted().panel) && area.contains(wanted().map);
+    WindowPair pair = wanted();
+    if (asked_) {
+        pair.panel.moveTopLeft(*asked_);
+        pair.map.moveTopLeft(*asked_ + QPoint(panelShown, 0));
+    }
+    const bool granted = area.contains(pair.panel) && area.contains(pair.map);
     apart_ = granted && isLeftApart(before_.value_or(now), now) ? apart_ + 1 : 0;
     before_ = now;
     if (apart_ > 0)

@@ -20,6 +20,10 @@ bool tremblesWhenDragged(const WindowManager& manager) {
     return manager.xwayland && (manager.name == u"GNOME Shell"_s || manager.name.startsWith(u"Mutter"_s));
 }
 
+bool placesWindowsItself(const WindowManager& manager) {
+    return manager.name == u"Weston WM"_s;
+}
+
 #ifdef ORVINEL_X11
 
 namespace {
@@ -62,9 +66,9 @@ bool isXwayland(xcb_connection_t* connection) {
 
 WindowManager windowManager() {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
+    xcb_connection_t* connection = x11 ? x11->connection() : nullptr;
+    if (!connection)
         return {};
-    xcb_connection_t* connection = x11->connection();
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
     const QByteArray check = property(connection, root, "_NET_SUPPORTING_WM_CHECK");
     xcb_window_t window = XCB_WINDOW_NONE;

@@ -17,4 +17,8 @@ WindowManager windowManager();
 // mouse by itself jumps back and forth: the window manager is to drag it.
 bool tremblesWhenDragged(const WindowManager& manager);
 
+// It leaves no window where the window wants to be, and some releases of it crash when one ends that lies
+// outside of all screens.
+bool placesWindowsItself(const WindowManager& manager);
+
 } // namespace orvinel

@@ -160,7 +160,7 @@ bool displayFound() {
 }
 
 bool windowsCanBePlaced() {
-    return !QGuiApplication::platformName().startsWith(u"wayland"_s);
+    return !QGuiApplication::platformName().startsWith(u"wayland"_s) && !placesWindowsItself(windowManager());
 }
 
 QCursor programCursor(Pointer pointer) {

@@ -25,8 +25,8 @@ void chooseWindowSystem();
 // made.
 bool displayFound();
 
-// False: the system decides where windows are (Wayland). Window managers that place windows as they like are
-// known only by what they do.
+// False: the system decides where windows are (Wayland, and a window manager that is known for it). Other
+// window managers that place windows as they like are known only by what they do.
 bool windowsCanBePlaced();
 
 // Light colours and the same widgets on every desktop, texts of the boxes in the player's language;
