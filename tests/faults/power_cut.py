@@ -18,71 +18,11 @@ import sys
 import tempfile
 import time
 
+from recording import record
+
 STEPS = 44  # every kind of save four times
 BLOCK = 4096
 UNFINISHED = ".saving"
-CALL = re.compile(r"^(?:\[pid +\d+\] |\d+ +)?(\w+)\((.*)\) += (-?\d+)")
-CHANGING = "write,pwrite64,writev,fsync,fdatasync,ftruncate,fallocate,sync_file_range,close,dup,dup2,dup3,lseek,sendfile"
-
-Change = collections.namedtuple("Change", "kind name to file data folders")
-
-
-def text(argument):
-    """A string as strace -xx writes it."""
-    return bytes.fromhex(argument[1:argument.rindex('"')].replace("\\x", ""))
-
-
-def record(play, root, folder, first, last):
-    """The changes below the root of a game in the folder, in their order."""
-    log = root.parent / "calls"
-    subprocess.run(["strace", "-qq", "-xx", "-s", "1000000", "-e", "trace=%file," + CHANGING, "-o", log,
-                    play, folder, str(first), str(last)], check=True, stdout=subprocess.DEVNULL)
-    changes, handles, files = [], {}, itertools.count()
-    root = str(root)
-
-    def below(path):
-        return str(path)[len(root) + 1:] if str(path).startswith(root + "/") else "" if str(path) == root else None
-
-    def note(kind, name="", to="", file=None, data=b""):
-        folders = {os.path.dirname(n) for n in (name, to) if n} if kind in ("create", "mkdir", "unlink", "rmdir",
-                                                                            "rename") else set()
-        changes.append(Change(kind, name, to, file, data, folders))
-
-    for line in log.read_text().splitlines():
-        call = CALL.match(line)
-        if not call or int(call[3]) < 0:
-            continue
-        name, given, result = call[1], call[2].split(", "), int(call[3])
-        strings = [text(g) for g in given if g.startswith('"')] if name not in ("read", "execve") else []
-        paths = [below(s.decode()) for s in strings] if not name.startswith(("write", "read")) else []
-        if name in ("openat", "open"):
-            handles[result] = (None, None)
-            if paths[0] is not None:
-                made = next(files) if "O_CREAT" in call[2] else None
-                if "O_TRUNC" in call[2] or ("O_CREAT" in call[2] and "O_EXCL" not in call[2]):
-                    sys.exit(f"a call that the model does not know: {line[:200]}")
-                handles[result] = (paths[0], made)
-                if made is not None:
-                    note("create", paths[0], file=made)
-        elif name == "close":
-            handles.pop(int(given[0]), None)
-        elif name == "write" and int(given[0]) == 1:
-            note("told", data=strings[0])
-        elif name in ("write", "fsync", "fdatasync"):
-            path, file = handles.get(int(given[0]), (None, None))
-            if path is not None and name == "write":
-                note("write", file=file, data=strings[0])
-            elif path is not None:
-                note("flush", "" if file is not None else path, file=file)
-        elif name in ("mkdir", "unlink", "rmdir", "rename") and any(p is not None for p in paths):
-            note(name, *paths)
-        elif name in ("pwrite64", "writev", "ftruncate", "fallocate", "sync_file_range", "sendfile", "lseek"):
-            if handles.get(int(given[0]), (None, None))[1] is not None:
-                sys.exit(f"a call that the model does not know: {line[:200]}")
-        elif name in ("link", "linkat", "symlink", "renameat", "renameat2", "unlinkat", "mkdirat", "truncate", "creat"):
-            if any(paths):
-                sys.exit(f"a call that the model does not know: {line[:200]}")
-    return changes
 
 
 def apply(names, change):
