@@ -6,6 +6,8 @@ Sources: NAME.txt in pixels/, NAME.svg in svg/, NAME.py:ARGUMENT a module here w
 import importlib
 import os
 
+import pixels
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 
 MARKERS = {
@@ -26,6 +28,11 @@ COSTS = ('imgExtUpKeep', 'imgExtAdrenaline', 'imgExtEnergy', 'imgExtRecharge', '
 ICON_SIZES = (16, 24, 32, 48, 64, 128, 256)
 
 PICTURES = {}
+# A marker of a new kind is as large as its drawing.
+for _name in sorted(_file[:-len('.txt')] for _file in os.listdir(os.path.join(HERE, 'pixels')) if _file.startswith('pic')):
+    if _name not in MARKERS:
+        _rows = pixels.read(_name + '.txt')
+        MARKERS[_name] = (len(_rows[0]), len(_rows))
 for _name, (_w, _h) in MARKERS.items():
     PICTURES['markers/' + _name] = ('keyed', _w, _h, _name + '.txt')
 for _name, (_w, _h) in ZONES.items():
