@@ -101,13 +101,13 @@ void Program::act(MenuAction action) {
     case MenuAction::Update:
         return RunUpdater();
     case MenuAction::HomePage:
-        return ShowStartPage();
+        return showStartPage();
     case MenuAction::Credits:
-        return OpenCredits();
+        return openCredits();
     case MenuAction::History:
         return ShowHistory();
     case MenuAction::Guide:
-        return ShowGuide();
+        return showGuide();
     case MenuAction::About:
         frmInformation(dialogContext(), panel_.get()).exec();
         return;
@@ -148,7 +148,7 @@ void Program::OpenCharacterList() {
         capture_->follow();
 }
 
-void Program::OpenCredits() {
+void Program::openCredits() {
     frmCredits dialog(dialogContext(), panel_.get());
     dialog.setAsked(placeOnDesktop(panel_->menuBar()));
     dialog.exec();
@@ -187,7 +187,7 @@ void Program::openCapture(int eliteId, bool fromMap) {
 }
 
 void Program::showCapture(frmMarkEliteAsCaptured& dialog, int eliteId, const QRect& asked) {
-    dialog.SetCharacter(panel_->elitePage().cmbCharacter->data());
+    dialog.setCharacter(panel_->elitePage().cmbCharacter->data());
     dialog.SetEliteNumber(eliteId);
     if (dialog.isVisible())
         return;

@@ -74,10 +74,10 @@ int main(int, char** argv) {
     if (!program.Main())
         return 1;
     const orvinel::EndSignals ending;
-    QObject::connect(&ending, &orvinel::EndSignals::endWanted, &program, &orvinel::Program::EndUnasked);
+    QObject::connect(&ending, &orvinel::EndSignals::endWanted, &program, &orvinel::Program::endUnasked);
     // A desktop that logs out asks first, and may go on after all.
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &program,
-        [&program](QSessionManager&) { program.SaveUnasked(); }, Qt::DirectConnection);
+        [&program](QSessionManager&) { program.saveUnasked(); }, Qt::DirectConnection);
     return QApplication::exec();
 }

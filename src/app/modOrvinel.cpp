@@ -184,11 +184,11 @@ void Program::ShowHistory() {
     OpenWithShell(files_.disk().resolve(state_.AppPath + u"Data/History.txt"_s));
 }
 
-void Program::ShowGuide() {
+void Program::showGuide() {
     OpenWithShell(addressOf(Page::Guide, state_, files_.disk()));
 }
 
-void Program::ShowStartPage() {
+void Program::showStartPage() {
     OpenWithShell(addressOf(Page::Start, state_, files_.disk()));
 }
 
@@ -226,17 +226,17 @@ void Program::QuitProgram() {
     endProcess_(0);
 }
 
-void Program::SaveUnasked() {
+void Program::saveUnasked() {
     if (ended_ || !(taskBar_ || joined_)) // before the windows stand there is nothing new to remember
         return;
     gatherOptions();
     files_.save(optionsPath(state_), optionsFile(state_.AppOptions));
 }
 
-void Program::EndUnasked() {
+void Program::endUnasked() {
     if (ended_)
         return;
-    SaveUnasked();
+    saveUnasked();
     ended_ = true;
     endProcess_(0);
 }

@@ -39,15 +39,15 @@ class Program : public QObject {
 
     void QuitProgram();
     // Writes the options when nobody is there to be asked: what cannot be written stays as it was.
-    void SaveUnasked();
+    void saveUnasked();
     // Ends as QuitProgram does, but asks nothing: the system wants it.
-    void EndUnasked();
+    void endUnasked();
     void OpenWithShell(const QString& target);
     void ShowHistory();
     // The guide, and the page about what lies beside the program (guide, progress, atlas, backup): both come
     // with it (Opening.h).
-    void ShowGuide();
-    void ShowStartPage();
+    void showGuide();
+    void showStartPage();
     void RunUpdater();
 
     ProgramState& state() { return state_; }
@@ -81,7 +81,7 @@ class Program : public QObject {
     void ToggleAlwaysOnTop();
     void applyAlwaysOnTop();
     void OpenCharacterList();
-    void OpenCredits();
+    void openCredits();
 
     // The keyboard (ProgramKeys.cpp).
     void wireKeys();

@@ -61,7 +61,7 @@ QString capturedFile(const Progress& state, int character) {
     return text;
 }
 
-SaveResult SaveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged) {
+SaveResult saveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged) {
     return files.save(capturedPath(state, character), capturedFile(state, character), evenIfChanged);
 }
 
@@ -71,7 +71,7 @@ SaveResult captureSkill(Progress& state, PlayerFiles& files, int skill, int char
     auto captured = state.EliteSkills[skill].Captured[static_cast<size_t>(character)];
     const bool before = captured;
     captured = true;
-    SaveResult result = SaveCaptured(state, files, character, evenIfChanged);
+    SaveResult result = saveCaptured(state, files, character, evenIfChanged);
     if (!result.saved())
         captured = before;
     return result;

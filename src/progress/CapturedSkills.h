@@ -24,7 +24,7 @@ void LoadCapturedSkills(Progress& state, PlayerFiles& files, Complaints* complai
 QString capturedPath(const Progress& state, int character);
 // The text of the character's file for the tables as they stand.
 QString capturedFile(const Progress& state, int character);
-SaveResult SaveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged = false);
+SaveResult saveCaptured(const Progress& state, PlayerFiles& files, int character, bool evenIfChanged = false);
 
 // Marks the skill and rewrites the character's file; when that fails the skill is not marked. Refused
 // for a skill that is not markable.

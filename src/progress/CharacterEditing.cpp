@@ -54,7 +54,7 @@ void takeSelection(Progress& state, int number, const SkillSelection& selection)
 SaveResult saveSelection(Progress& state, PlayerFiles& files, const CharacterEdit& edit, bool evenIfChanged) {
     const SkillSelection before = characterSelection(state, edit.number);
     takeSelection(state, edit.number, edit.selection);
-    SaveResult result = SaveCaptured(state, files, edit.number, evenIfChanged);
+    SaveResult result = saveCaptured(state, files, edit.number, evenIfChanged);
     if (!result.saved())
         takeSelection(state, edit.number, before);
     return result;

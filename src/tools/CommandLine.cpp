@@ -124,7 +124,7 @@ CommandLine::CommandLine(const ToolTable& table, int argc, char** argv)
 
 std::optional<int> CommandLine::understand(const ToolTable& table, const QStringList& words) {
     if (words.isEmpty() && handOver(table.name))
-        return exitGood;
+        return ExitGood;
     const QCommandLineOption help({u"h"_s, u"help"_s}, u"Print this help."_s);
     const QCommandLineOption version({u"v"_s, u"version"_s}, u"Print the version."_s);
     parser_.addOption(help);
@@ -132,11 +132,11 @@ std::optional<int> CommandLine::understand(const ToolTable& table, const QString
     const bool understood = parser_.parse(QStringList(table.name) + words);
     if (understood && parser_.isSet(help)) {
         print(parser_.helpText());
-        return exitGood;
+        return ExitGood;
     }
     if (understood && parser_.isSet(version)) {
         print(table.name + u" " ORVINEL_VERSION "\n"_s);
-        return exitGood;
+        return ExitGood;
     }
     if (!understood)
         return misunderstood(parser_.errorText());

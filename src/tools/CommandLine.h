@@ -12,7 +12,7 @@
 namespace orvinel {
 
 // How the tools end.
-enum ExitCode { exitGood = 0, exitFindings = 1, exitUnusable = 2 };
+enum ExitCode { ExitGood = 0, ExitFindings = 1, ExitUnusable = 2 };
 
 // The words after the program's name.
 QStringList arguments(int argc, char** argv);
@@ -60,7 +60,7 @@ class CommandLine {
     QStringList values(const QString& option) const { return parser_.values(option); }
 
     // "NAME: reason" on the error stream; returns `code`.
-    int refuse(const QString& reason, ExitCode code = exitUnusable) const;
+    int refuse(const QString& reason, ExitCode code = ExitUnusable) const;
     // The words make no sense together.
     int misunderstood(const QString& reason) const;
 

@@ -165,14 +165,14 @@ SaveResult applyMarks(ProgramState& state, PlayerFiles& files, int character, co
     changed = static_cast<int>(before.skills.size() + before.chests.size());
     SaveResult result;
     if (!before.skills.empty())
-        result = SaveCaptured(state, files, character);
+        result = saveCaptured(state, files, character);
     const bool skillsSaved = result.saved();
     if (skillsSaved && !before.chests.empty())
         result = saveChests(state, files, character);
     if (!result.saved()) {
         putBack(state, column, before);
         if (skillsSaved && !before.skills.empty())
-            SaveCaptured(state, files, character);
+            saveCaptured(state, files, character);
     }
     return result;
 }

@@ -31,7 +31,7 @@ int write(const CommandLine& line, const OpenedFolder& folder, const AtlasChoice
     ProgressLine progress;
     const DiskError error =
         writeAtlasFolder(folder.disk, out, files, [&](int done) { progress.show(done, std::ssize(files)); });
-    return error ? line.refuse(*error) : exitGood;
+    return error ? line.refuse(*error) : ExitGood;
 }
 
 int run(const CommandLine& line) {

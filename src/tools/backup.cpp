@@ -35,18 +35,18 @@ QString problemOf(const Order& order) {
 }
 
 // `bad`: how it ends when it is not good.
-int tell(const Backup::Result& result, ExitCode bad = exitUnusable) {
+int tell(const Backup::Result& result, ExitCode bad = ExitUnusable) {
     if (result.good)
         print(result.text + u'\n');
     else
         printError(u"orvinel-backup: "_s + result.text + u'\n');
-    return result.good ? exitGood : bad;
+    return result.good ? ExitGood : bad;
 }
 
 int listAll(const Backup& backup) {
     for (const QString& name : backup.list())
         print(name + u'\n');
-    return exitGood;
+    return ExitGood;
 }
 
 int run(const Order& order, const QString& folder) {
@@ -55,12 +55,12 @@ int run(const Order& order, const QString& folder) {
     if (order.verb == u"list")
         return listAll(backup);
     if (order.verb == u"verify")
-        return tell(backup.verify(order.name), exitFindings);
+        return tell(backup.verify(order.name), ExitFindings);
     // Held until the end, so that Orvinel cannot start and write meanwhile either.
     const SingleInstance instance(folder);
     if (!instance.first()) {
         printError(u"orvinel-backup: Orvinel is running in this folder; quit it first\n"_s);
-        return exitUnusable;
+        return ExitUnusable;
     }
     return tell(order.verb == u"save" ? backup.save(order.name) : backup.restore(order.name, order.replace));
 }

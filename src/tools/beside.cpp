@@ -153,19 +153,19 @@ int run(const Errand& errand, const QString& folder, const QString& waiting) {
     tool.start(folder + errand.tool + u".exe"_s, errand.words);
     if (!tool.waitForStarted()) {
         tell(errand.tool + u": "_s + tool.errorString(), MB_ICONERROR);
-        return exitUnusable;
+        return ExitUnusable;
     }
     if (!waitFor(tool, waiting))
-        return exitUnusable;
+        return ExitUnusable;
     const QString said = shortened(QString::fromUtf8(tool.readAll()));
-    const bool good = tool.exitStatus() == QProcess::NormalExit && tool.exitCode() < exitUnusable;
+    const bool good = tool.exitStatus() == QProcess::NormalExit && tool.exitCode() < ExitUnusable;
     if (!good || errand.page.isEmpty()) {
         tell(said.isEmpty() ? u"OK"_s : said, good ? MB_ICONINFORMATION : MB_ICONERROR);
-        return good ? exitGood : exitUnusable;
+        return good ? ExitGood : ExitUnusable;
     }
     ShellExecuteW(nullptr, nullptr, wide(QDir::toNativeSeparators(errand.page)), nullptr, nullptr,
                   SW_SHOWNORMAL);
-    return exitGood;
+    return ExitGood;
 }
 
 } // namespace
@@ -175,7 +175,7 @@ int main(int argc, char** argv) {
     const QString folder = QCoreApplication::applicationDirPath() + u'/';
     const auto errand = errandOf(arguments(argc, argv).value(0), folder);
     if (!errand)
-        return exitUnusable;
+        return ExitUnusable;
     const FileDisk disk(folder);
     World world;
     world.AppPath = folder;

@@ -28,8 +28,8 @@ int run(const CommandLine& line, const QString& folder) {
             print(findingLine(finding) + u'\n');
     if (result.unreadable)
         return line.refuse(u"%1 cannot be read as a program folder"_s.arg(line.word(0)));
-    return result.counts.errors > 0 || (line.has(u"werror"_s) && !result.findings.empty()) ? exitFindings
-                                                                                           : exitGood;
+    return result.counts.errors > 0 || (line.has(u"werror"_s) && !result.findings.empty()) ? ExitFindings
+                                                                                           : ExitGood;
 }
 
 } // namespace

@@ -69,7 +69,7 @@ int apply(const CommandLine& line, OpenedFolder& folder, int character, const st
               .arg(toolText(folder.state, done))
               .arg(std::ssize(marks) - changed)
               .arg(toolText(folder.state, ToolText::AlreadySo)));
-    return exitGood;
+    return ExitGood;
 }
 
 int run(const CommandLine& line) {
@@ -94,10 +94,10 @@ int run(const CommandLine& line) {
         return line.refuse(reason);
     if (!named && !import) {
         print(marksCsv(folder.state, *character));
-        return exitGood;
+        return ExitGood;
     }
     const auto marks = import ? marksOfFile(line, folder.state) : marksOf(line, folder.state);
-    return marks ? apply(line, folder, *character, *marks) : exitUnusable;
+    return marks ? apply(line, folder, *character, *marks) : ExitUnusable;
 }
 
 } // namespace

@@ -32,7 +32,7 @@ int exportTo(const CommandLine& line, OpenedFolder& folder, Region region) {
     if (const DiskError error = folder.disk.replace(path, encodeText(text)))
         return line.refuse(u"%1: %2"_s.arg(path, *error));
     print(toolText(folder.state, ToolText::NotesExported).arg(QString::number(count), path) + u'\n');
-    return exitGood;
+    return ExitGood;
 }
 
 int mergeFrom(const CommandLine& line, OpenedFolder& folder, Region region) {
@@ -45,13 +45,13 @@ int mergeFrom(const CommandLine& line, OpenedFolder& folder, Region region) {
     for (const QString& problem : merged.problems)
         line.refuse(u"%1: %2"_s.arg(line.word(2), problem));
     if (!merged.problems.isEmpty())
-        return exitUnusable;
+        return ExitUnusable;
     if (!merged.saved.saved())
         return line.refuse(u"%1: %2"_s.arg(merged.saved.file, merged.saved.reason));
     print(toolText(folder.state, ToolText::NotesMerged)
               .arg(QString::number(merged.added), QString::number(merged.known)) +
           u'\n');
-    return exitGood;
+    return ExitGood;
 }
 
 int run(const CommandLine& line) {

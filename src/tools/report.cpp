@@ -40,12 +40,12 @@ int write(const CommandLine& line, OpenedFolder& folder, const Report& report) {
                                    : reportText(folder.state, report);
     if (!line.has(u"output"_s)) {
         print(text);
-        return exitGood;
+        return ExitGood;
     }
     const QString path = QDir::cleanPath(QDir::current().absoluteFilePath(line.value(u"output"_s)));
     if (const DiskError error = folder.disk.replace(path, text.toUtf8()))
         return line.refuse(u"%1: %2"_s.arg(path, *error));
-    return exitGood;
+    return ExitGood;
 }
 
 int run(const CommandLine& line) {

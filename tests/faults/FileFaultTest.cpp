@@ -84,7 +84,7 @@ struct RealFiles : testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     }
     mode_t mode(const QString& name) const {
-        struct stat status {};
+        struct stat status = {};
         ::stat(QFile::encodeName(base + name).constData(), &status);
         return status.st_mode & 07777;
     }

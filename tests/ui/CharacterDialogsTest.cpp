@@ -19,7 +19,7 @@ struct MarkElite : DialogFixture {
 
     void open(int skill, int chosen) {
         dialog.SetEliteNumber(skill);
-        dialog.SetCharacter(chosen);
+        dialog.setCharacter(chosen);
         dialog.show();
     }
     ListBox& characters() { return list(dialog, "lstCharacters"); }
@@ -74,7 +74,7 @@ TEST_F(MarkElite, doesNotMarkForACharacterThatWasDeletedMeanwhile) {
 
 TEST_F(MarkElite, takesTheNextSkillAndFollowsCapturesMadeElsewhereToTheLast) {
     open(5, 2);
-    dialog.SetCharacter(0);
+    dialog.setCharacter(0);
     dialog.SetEliteNumber(3);
     EXPECT_EQ(u"Elite: Cedar"_s, dialog.windowTitle());
     EXPECT_THAT(texts(characters()), ElementsAre(u"Maren"_s, u"Ysk"_s));
@@ -157,7 +157,7 @@ TEST_F(ManageCharacter, savesANewCharacterWithTheCheckedSkills) {
     QTest::keyClick(&skills(), Qt::Key_Down);
     QTest::keyClick(&skills(), Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(4, dialog.CurrentCharacter());
+    EXPECT_EQ(4, dialog.currentCharacter());
     EXPECT_EQ(u" Ode One"_s, state.Characters[4]);
     EXPECT_EQ(bytes("0002\r\n"), saved("Char04CapElite.txt"));
     EXPECT_EQ(4, static_cast<int>(state.Treasures[1].OpenedOn.size()) - 1);

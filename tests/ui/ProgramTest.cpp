@@ -195,12 +195,12 @@ TEST_F(ProgramTest, failingToSaveTheOptionsIsToldAndTheProgramStaysIfThePlayerWa
 TEST_F(ProgramTest, whenTheSystemEndsItTheOptionsAreWrittenAndNothingIsAsked) {
     ASSERT_TRUE(start());
     program->places().ToggleMapMaximised();
-    program->SaveUnasked();
+    program->saveUnasked();
     EXPECT_NE(u"-1"_s, option("PosX"));
     EXPECT_FALSE(exitCode);
     disk.put(u"/o/Data/Options.txt"_s, "PosX=77\r\n");
     desktop.log.clear();
-    program->EndUnasked();
+    program->endUnasked();
     EXPECT_EQ(0, exitCode);
     EXPECT_EQ(u"77"_s, option("PosX")) << "somebody else's";
     EXPECT_TRUE(desktop.log.isEmpty());
@@ -261,17 +261,17 @@ TEST_F(ProgramTest, oneCaptureDialogTakesOneSkillAfterTheOtherBesideTheList) {
 TEST_F(ProgramTest, helpAndHomeOpenThePagesThatCameWithTheProgramAndSayWhereOneIsMissing) {
     ASSERT_TRUE(start());
     desktop.shellWorks = false;
-    program->ShowGuide();
+    program->showGuide();
     EXPECT_EQ(u"message Critical Orvinel|/o/Data/Guide/guide.html could not be opened."_s,
               desktop.log.last());
     disk.put(u"/o/Data/Guide/start.html"_s, "<html>");
     desktop.shellWorks = true;
-    program->ShowGuide();
+    program->showGuide();
     EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
     disk.put(u"/o/Data/Guide/guide.html"_s, "<html>");
-    program->ShowGuide();
+    program->showGuide();
     EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
-    program->ShowStartPage();
+    program->showStartPage();
     EXPECT_EQ(u"open /o/Data/Guide/start.html"_s, desktop.log.last());
 }
 
@@ -279,9 +279,9 @@ TEST_F(ProgramTest, helpSpeaksTheLanguageOfTheTextsWhereItCan) {
     disk.put(u"/o/Data/Guide/guide.html"_s, "<html>").put(u"/o/Data/Guide/de/guide.html"_s, "<html>");
     disk.put(u"/o/Data/Language.txt"_s, disk.content(u"/o/Data/Language.txt"_s) + "301\tde\r\n");
     ASSERT_TRUE(start());
-    program->ShowGuide();
+    program->showGuide();
     EXPECT_EQ(u"open /o/Data/Guide/de/guide.html"_s, desktop.log.last());
-    program->ShowStartPage(); // not translated: the German guide is no start page, the English one is missing
+    program->showStartPage(); // not translated: the German guide is no start page, the English one is missing
     EXPECT_EQ(u"open /o/Data/Guide/guide.html"_s, desktop.log.last());
 }
 

@@ -16,7 +16,7 @@ class frmManageCharacter : public Dialog {
     // The character to edit, -1 for a new one; to be set before the dialog is shown. After a save: the
     // character's number.
     void SetCurrentCharacter(int number) { character_ = number; }
-    int CurrentCharacter() const { return character_; }
+    int currentCharacter() const { return character_; }
 
   protected:
     void load() override;

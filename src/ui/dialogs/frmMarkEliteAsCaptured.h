@@ -18,7 +18,7 @@ class frmMarkEliteAsCaptured : public Dialog {
     void SetEliteNumber(int id);
     // The number of the character chosen in the panel, which is selected if it is in the list; 0: all. To be
     // called before SetEliteNumber.
-    void SetCharacter(int number) { chosen_ = number; }
+    void setCharacter(int number) { chosen_ = number; }
     // To be called when characters or their captures have changed elsewhere: an open dialog follows.
     void follow();
 

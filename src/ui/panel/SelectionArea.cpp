@@ -73,7 +73,7 @@ void SelectionArea::FillZoneCombo(const ProgramState& state) {
     fill(*cmbZone, *lblZone, entries);
 }
 
-void SelectionArea::FillProfessionList(const ProgramState& state) {
+void SelectionArea::fillProfessionList(const ProgramState& state) {
     fill(*cmbProfession, *lblClass, professionEntries(state, Caption::All));
 }
 

@@ -32,7 +32,7 @@ class SelectionArea : public QWidget {
     void FillCampaignCombo(const ProgramState& state);
     void FillRegionCombo(const ProgramState& state);
     void FillZoneCombo(const ProgramState& state);
-    void FillProfessionList(const ProgramState& state);
+    void fillProfessionList(const ProgramState& state);
     void FillAttributeList(const ProgramState& state);
 
     Place place() const;

@@ -120,7 +120,7 @@ void frmMenu::ApplyTabColours() {
 void frmMenu::RefillPanel() {
     MenuReady = false;
     selection_->FillCampaignCombo(state_);
-    selection_->FillProfessionList(state_);
+    selection_->fillProfessionList(state_);
     elitePage_->cmbSecondaryProfession->setEntries(professionEntries(state_, Caption::None));
     elitePage_->cmbSecondaryProfession->select(0);
     FillCharacterList();
