@@ -78,17 +78,18 @@ bool TextFile::hasFields(size_t fewest) {
 }
 
 std::optional<int> TextFile::integer(size_t position, const char* name, int lowest, int highest) {
-    return accept(leadingInteger(field(position), lowest, highest), position, name);
+    const std::optional<int> value = leadingInteger(field(position), lowest, highest);
+    return value ? value : refuseNumber(position, name);
 }
 
 std::optional<int> TextFile::whole(size_t position, const char* name, int lowest, int highest) {
-    return accept(wholeNumber(field(position), lowest, highest), position, name);
+    const std::optional<int> value = wholeNumber(field(position), lowest, highest);
+    return value ? value : refuseNumber(position, name);
 }
 
-std::optional<int> TextFile::accept(std::optional<int> value, size_t position, const char* name) {
-    if (!value)
-        skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
-    return value;
+std::optional<int> TextFile::refuseNumber(size_t position, const char* name) {
+    skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
+    return std::nullopt;
 }
 
 void TextFile::keepsOnly(size_t fields, std::initializer_list<size_t> numbers) {

@@ -70,7 +70,7 @@ class TextFile {
 
   private:
     bool cutLine();
-    std::optional<int> accept(std::optional<int> value, size_t position, const char* name);
+    std::optional<int> refuseNumber(size_t position, const char* name);
 
     QString path_;
     Complaints* complaints_;

@@ -7,6 +7,8 @@
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
 
+#include <QStringBuilder>
+
 #include <limits>
 
 namespace orvinel {
@@ -62,14 +64,14 @@ void readSkill(Content& state, TextFile& file, int campaign, const QString& pict
     skill.CastTime = file.text(8);
     skill.Recharge = costs->recharge;
     skill.Description = file.text(10);
-    skill.Picture = pictures + fixedDigits(*id, 4) + u".jpg"_s;
+    skill.Picture = pictures % fixedDigits(*id, 4) % ".jpg"_L1;
 }
 
 void sortSkills(Content& state) {
     std::vector<QString> texts;
     for (int id = 1; id <= state.EliteSkills.highest(); ++id) {
         EliteSkill& skill = state.EliteSkills[id];
-        skill.ListText = skill.Name + u" ["_s + professionOf(state, skill.Profession).Abbreviation + u']';
+        skill.ListText = skill.Name % " ["_L1 % professionOf(state, skill.Profession).Abbreviation % u']';
         texts.push_back(skill.ListText);
     }
     state.EliteOrder = alphabeticalOrder(texts);
@@ -145,10 +147,11 @@ void LoadEliteSkills(Content& state, const Disk& disk, Complaints* complaints) {
     state.EliteSkills.reset();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         const QString folder = campaignFolder(state, n);
+        const QString pictures = folder + u"/imgElite/"_s;
         TextFile file(disk, folder + u"/EliteList.txt"_s, complaints);
         while (file.nextRecord())
             if (file.hasFields(3))
-                readSkill(state, file, n, folder + u"/imgElite/"_s);
+                readSkill(state, file, n, pictures);
     }
     for (EliteSkill& skill : state.EliteSkills)
         skill.Captured.assign(static_cast<size_t>(state.Characters.highest()) + 1, false);
@@ -162,7 +165,7 @@ void LoadEliteLocations(Content& state, const Disk& disk, Complaints* complaints
             const int index = state.EliteSkills[id].addLocation(std::move(read));
             MapLocation& location = state.EliteSkills[id].Locations[index];
             if (carriesGreens(location))
-                location.Greens = LinkGreensToBoss(state, id, index, location.Boss);
+                location.Greens = LinkGreensToBoss(state, id, index);
         });
     }
 }

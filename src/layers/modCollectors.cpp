@@ -7,11 +7,10 @@
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <limits>
 #include <string_view>
+#include <unordered_set>
 
 namespace orvinel {
 
@@ -23,9 +22,11 @@ namespace {
 
 constexpr size_t usualObjects = 4; // of a collector: no growing in steps for most of them
 
+using RequestTypeSet = std::unordered_set<std::string>; // folded texts of those that are in the table
+
 class CollectorReader {
   public:
-    CollectorReader(Content& state, TextFile& file, QSet<QString>& requestTypes)
+    CollectorReader(Content& state, TextFile& file, RequestTypeSet& requestTypes)
         : state_(state), file_(file), requestTypes_(requestTypes) {}
 
     void readAll() {
@@ -58,7 +59,7 @@ class CollectorReader {
         if (!file_.nextLine())
             return complainOfEnd();
         collector.setRequest(file_.line().toString());
-        addRequestType(collector.Request, collector.Level);
+        addRequestType(collector);
         readObjects(collector);
         state_.Collectors.grow(*id) = std::move(collector);
         return true;
@@ -92,18 +93,19 @@ class CollectorReader {
         }
     }
 
-    void addRequestType(const QString& request, int level) {
-        const QString type = request.sliced(request.indexOf(u' ') + 1);
-        const auto known = requestTypes_.size();
-        requestTypes_.insert(type.toLower());
-        if (requestTypes_.size() > known)
-            state_.RequestTypes.append({type, level});
+    // The words behind the first blank.
+    void addRequestType(const Collector& collector) {
+        const std::string& asked = collector.FoldedRequest;
+        if (!requestTypes_.insert(asked.substr(asked.find(' ') + 1)).second)
+            return;
+        const QString& request = collector.Request;
+        state_.RequestTypes.append({request.sliced(request.indexOf(u' ') + 1), collector.Level});
     }
 
     Content& state_;
     TextFile& file_;
     int objects_ = 0;
-    QSet<QString>& requestTypes_; // lower-cased texts of those that are in the table
+    RequestTypeSet& requestTypes_;
 };
 
 void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* complaints) {
@@ -225,7 +227,7 @@ QString statsText(const std::vector<QString>& stats) {
 void LoadCollectors(Content& state, const Disk& disk, Complaints* complaints) {
     state.Collectors.reset();
     state.RequestTypes.clear();
-    QSet<QString> requestTypes;
+    RequestTypeSet requestTypes;
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         TextFile file(disk, campaignFolder(state, n) + u"/Collectors.txt"_s, complaints);
         CollectorReader(state, file, requestTypes).readAll();

@@ -86,8 +86,11 @@ bool carriesGreens(const MapLocation& at) {
            at.Boss == u"Quillon Brackfin";
 }
 
-std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss) {
-    const auto found = state.GreensOfBosses.find(folded(QStringView(boss).trimmed()));
+std::vector<int> LinkGreensToBoss(Content& state, int elite, int location) {
+    const MapLocation& at = state.EliteSkills[elite].Locations[location];
+    const QStringView name = QStringView(at.Boss).trimmed();
+    const auto found =
+        state.GreensOfBosses.find(name.size() == at.Boss.size() ? at.FoldedBoss : folded(name));
     if (found == state.GreensOfBosses.end())
         return {};
     for (const int green : found->second) {

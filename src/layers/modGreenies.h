@@ -25,9 +25,9 @@ void LoadGreens(Content& state, const Disk& disk, Complaints* complaints = nullp
 // whatever its line says.
 bool carriesGreens(const MapLocation& at);
 
-// Links every item of the boss to that location and returns their indexes; letter case and blanks at the ends
-// of `boss` do not matter.
-std::vector<int> LinkGreensToBoss(Content& state, int elite, int location, const QString& boss);
+// Links every item of the location's boss to it and returns their indexes; letter case and blanks at the ends
+// of the boss's name do not matter.
+std::vector<int> LinkGreensToBoss(Content& state, int elite, int location);
 
 // nullptr when the item does not exist or is not linked.
 const MapLocation* greenLocation(const Content& state, int green);

@@ -36,6 +36,11 @@ std::optional<Sprite> member(const Family& family, int campaign) {
     return family[static_cast<size_t>(set) - 1];
 }
 
+// Of the number itself: 0.4 is, though it is rounded to 0.
+bool isAboveZero(const TextFile& file, size_t position, int rounded) {
+    return rounded > 0 || leadingNumber(file.field(position)) > 0;
+}
+
 void loadZones(World& state, int campaign, const Disk& disk, Complaints* complaints) {
     TextFile file(disk, campaignFolder(state, campaign) + u"/Zones.txt"_s, complaints);
     auto& regions = state.Campaigns[campaign].Regions;
@@ -46,7 +51,7 @@ void loadZones(World& state, int campaign, const Disk& disk, Complaints* complai
         const auto x = file.integer(4, "x", -largestCoordinate, largestCoordinate);
         const auto y = x ? file.integer(5, "y", -largestCoordinate, largestCoordinate) : x;
         // A zone without a place is left out on purpose: nothing to complain about.
-        if (!x || !y || leadingNumber(file.field(4)) <= 0 || leadingNumber(file.field(5)) <= 0)
+        if (!x || !y || !isAboveZero(file, 4, *x) || !isAboveZero(file, 5, *y))
             continue;
         const auto id = file.whole(0, "zone", -32768, 32767);
         const auto region = id ? file.integer(1, "region", 0, 255) : id;

@@ -63,6 +63,37 @@ TEST(TextRules, foldingIgnoresCaseInEveryAlphabet) {
     EXPECT_EQ(3u, folded(QStringView(u"A\0B", 3)).size());
 }
 
+// ASCII goes several characters at a time: every length, and one character beyond it at every place.
+TEST(TextRules, foldingAgreesWithThePlainWayWhateverTheLength) {
+    for (qsizetype length = 0; length < 20; ++length) {
+        QString text;
+        for (qsizetype i = 0; i < length; ++i)
+            text += QChar(static_cast<char16_t>((37 * i + 11 * length) % 128));
+        EXPECT_EQ(text.toLower().toStdString(), folded(text)) << length;
+        for (const char16_t other : {u'\x80', u'É', u'Я', u'\u7F41'})
+            for (qsizetype i = 0; i < length; ++i) {
+                QString mixed = text;
+                mixed[i] = other;
+                EXPECT_EQ(mixed.toLower().toStdString(), folded(mixed)) << length << " " << i;
+            }
+    }
+    QString all;
+    for (char16_t c = 0; c < 128; ++c)
+        all += QChar(c);
+    EXPECT_EQ("x" + all.toLower().toStdString(), folded(u"X"_s + all));
+}
+
+TEST(TextRules, aCharacterBeyondAsciiIsDecodedWhereverItStands) {
+    for (qsizetype length = 1; length < 20; ++length)
+        for (qsizetype i = 0; i < length; ++i) {
+            QByteArray bytes(length, 'a');
+            bytes[i] = '\x80';
+            QString expected(length, u'a');
+            expected[i] = u'\u20AC';
+            EXPECT_EQ(expected, decodeText(bytes));
+        }
+}
+
 TEST(TextSearch, agreesWithThePlainSearchWhereverTheNeedleLies) {
     const std::string alphabet = "ab\xFF";
     std::string text;
