@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include <type_traits>
 
 namespace orvinel {
 
@@ -34,21 +33,23 @@ int windows1252Byte(char16_t c) {
     return -1;
 }
 
-// `Unit` is a byte or a UTF-16 unit. Eight bytes at a time: whole files go through this.
+// The bits that no ASCII character has, in eight bytes of them at once.
 template <typename Unit>
-bool isAscii(const Unit* text, size_t size) {
-    constexpr std::uint64_t beyond = sizeof(Unit) == 1 ? 0x8080808080808080u : 0xFF80FF80FF80FF80u;
-    constexpr size_t step = sizeof beyond / sizeof(Unit);
+constexpr std::uint64_t beyondAscii = sizeof(Unit) == 1 ? 0x8080808080808080u : 0xFF80FF80FF80FF80u;
+
+// Eight at a time: whole files go through this.
+bool isAscii(const QByteArray& bytes) {
+    const char* at = bytes.constData();
+    const char* const end = at + bytes.size();
     std::uint64_t seen = 0;
-    for (; size >= step; size -= step, text += step) {
-        std::uint64_t units;
-        std::memcpy(&units, text, sizeof units);
-        seen |= units;
+    for (; end - at >= 8; at += 8) {
+        std::uint64_t eight;
+        std::memcpy(&eight, at, sizeof eight);
+        seen |= eight;
     }
-    unsigned rest = 0;
-    for (; size > 0; --size, ++text)
-        rest |= static_cast<std::make_unsigned_t<Unit>>(*text);
-    return (seen & beyond) == 0 && rest < 0x80;
+    for (; at < end; ++at)
+        seen |= static_cast<unsigned char>(*at);
+    return (seen & beyondAscii<char>) == 0;
 }
 
 bool isDigit(QChar c) {
@@ -141,7 +142,7 @@ QString decodeText(const QByteArray& bytes) {
     if (bytes.startsWith(utf8Mark))
         return QString::fromUtf8(QByteArrayView(bytes).sliced(utf8Mark.size()));
     QString text = QString::fromLatin1(bytes);
-    if (isAscii(bytes.data(), static_cast<size_t>(bytes.size())))
+    if (isAscii(bytes))
         return text;
     for (QChar& c : text)
         if (c >= QChar(0x80) && c <= QChar(0x9F))
@@ -209,17 +210,19 @@ char foldedAscii(char16_t c) {
     return static_cast<char>(c >= u'A' && c <= u'Z' ? c + (u'a' - u'A') : c);
 }
 
-// Four ASCII characters at a time, each in its sixteen bits: bit 7 of a sum tells a capital letter.
-void foldFour(const char16_t* from, char* to) {
+// Four ASCII characters at a time, each in its sixteen bits: bit 7 of a sum tells a capital letter. Gives the
+// characters, since only afterwards is it known whether they were ASCII.
+std::uint64_t foldFour(const char16_t* from, char* to) {
     constexpr std::uint64_t ones = 0x0001000100010001u;
     std::uint64_t units;
     std::memcpy(&units, from, sizeof units);
     const std::uint64_t fromA = units + ones * (0x80 - u'A');
     const std::uint64_t beyondZ = units + ones * (0x7F - u'Z');
-    units += (fromA & ~beyondZ & ones * 0x80) >> 2;
-    units = (units | units >> 8) & 0x0000FFFF0000FFFFu;
-    const auto bytes = static_cast<std::uint32_t>(units | units >> 16);
+    std::uint64_t small = units + ((fromA & ~beyondZ & ones * 0x80) >> 2);
+    small = (small | small >> 8) & 0x0000FFFF0000FFFFu;
+    const auto bytes = static_cast<std::uint32_t>(small | small >> 16);
     std::memcpy(to, &bytes, sizeof bytes);
+    return units;
 }
 
 std::string foldedUnicode(QStringView text) {
@@ -238,20 +241,22 @@ std::string folded(QStringView text) {
 void appendFolded(std::string& all, QStringView text) {
     const auto length = static_cast<size_t>(text.size());
     const char16_t* const from = text.utf16();
-    if (!isAscii(from, length)) {
-        all += foldedUnicode(text);
-        return;
-    }
     const size_t before = all.size();
     all.resize(before + length);
     char* const to = all.data() + before;
+    std::uint64_t seen = 0;
     if (length < 4) {
-        std::transform(from, from + length, to, foldedAscii);
-        return;
+        for (size_t i = 0; i < length; ++i) {
+            seen |= from[i];
+            to[i] = foldedAscii(from[i]);
+        }
+    } else {
+        for (size_t i = 0; i + 4 < length; i += 4)
+            seen |= foldFour(from + i, to + i);
+        seen |= foldFour(from + length - 4, to + length - 4); // some of them once more
     }
-    for (size_t i = 0; i + 4 < length; i += 4)
-        foldFour(from + i, to + i);
-    foldFour(from + length - 4, to + length - 4); // some of them once more
+    if (seen & beyondAscii<char16_t>)
+        all.replace(before, length, foldedUnicode(text));
 }
 
 QString withLineBreaks(QStringView text) {

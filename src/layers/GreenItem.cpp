@@ -13,9 +13,12 @@ void GreenItem::setTexts(const QString& name, const QString& boss, const std::ve
     if (name.isEmpty())
         return;
     Stats = stats;
-    for (const QString& line : stats)
-        if (!line.trimmed().isEmpty())
-            FoldedStats += folded(line) + '\n';
+    for (const QString& line : stats) {
+        if (QStringView(line).trimmed().isEmpty())
+            continue;
+        appendFolded(FoldedStats, line);
+        FoldedStats += '\n';
+    }
 }
 
 } // namespace orvinel

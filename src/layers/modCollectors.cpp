@@ -20,7 +20,9 @@ namespace {
 
 // Loading
 
-constexpr size_t usualObjects = 4; // of a collector: no growing in steps for most of them
+// Of a collector: no growing in steps for most of them.
+constexpr size_t usualObjects = 4;
+constexpr size_t usualObjectsText = 240;
 
 using RequestTypeSet = std::unordered_set<std::string>; // folded texts of those that are in the table
 
@@ -50,6 +52,7 @@ class CollectorReader {
         Collector collector;
         collector.Exists = true;
         collector.Objects.reserve(usualObjects);
+        collector.FoldedObjects.reserve(usualObjectsText);
         collector.Name = file_.text(1);
         collector.IsArmour = file_.field(2) == u"1";
         collector.Level = *level;
