@@ -1,6 +1,6 @@
 #include "Suites.h"
 
-#include "compare/PlainMap.h"
+#include "support/PlainMap.h"
 #include "ui/map/RegionPictures.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 #include "World.h"
 #include "app/modData.h"
-#include "compare/PlainMap.h"
 #include "layers/modCollectors.h"
 #include "layers/modElite.h"
+#include "support/PlainMap.h"
 #include "ui/layers/modZonesView.h"
 #include "ui/platform/Windows.h"
 

@@ -206,17 +206,12 @@ void Program::gatherOptions() {
 
 bool Program::saveOptions() {
     gatherOptions();
-    const QString text = optionsFile(state_.AppOptions);
-    SaveResult result = files_.save(optionsPath(state_), text);
-    if (result.outcome == SaveResult::Outcome::ChangedOutside) {
-        const QString question = state_.text(Caption::ChangedOutside).arg(result.file);
-        if (!desktop_.ask(MessageIcon::Question, programName(), question))
-            return true;
-        result = files_.save(optionsPath(state_), text, true);
-    }
-    return result.saved() || desktop_.ask(MessageIcon::Critical, programName(),
-                                          state_.text(Caption::SaveFailed).arg(result.file, result.reason) +
-                                              u"\n\n"_s + state_.text(Caption::QuitWithoutSaving));
+    const SaveResult result = saveAsking(state_, desktop_, [this](bool evenIfChanged) {
+        return files_.save(optionsPath(state_), optionsFile(state_.AppOptions), evenIfChanged);
+    });
+    return result.saved() || result.outcome == SaveResult::Outcome::ChangedOutside ||
+           desktop_.ask(MessageIcon::Critical, programName(),
+                        saveFailure(state_, result) + u"\n\n"_s + state_.text(Caption::QuitWithoutSaving));
 }
 
 void Program::QuitProgram() {

@@ -49,6 +49,13 @@ std::vector<int> alphabeticalOrder(const std::vector<QString>& texts) {
     return order;
 }
 
+std::vector<int> alphabeticalOrderFrom1(const std::vector<QString>& texts) {
+    std::vector<int> order = alphabeticalOrder(texts);
+    for (int& number : order)
+        ++number;
+    return order;
+}
+
 void sortAlphabetically(std::vector<ListEntry>& entries) {
     std::vector<QString> texts;
     texts.reserve(entries.size());

@@ -25,6 +25,9 @@ QString pinnedText(const QString& text);
 // their order.
 std::vector<int> alphabeticalOrder(const std::vector<QString>& texts);
 
+// As alphabeticalOrder, for tables whose first number is 1.
+std::vector<int> alphabeticalOrderFrom1(const std::vector<QString>& texts);
+
 // Entries in alphabetical order of their text.
 void sortAlphabetically(std::vector<ListEntry>& entries);
 

@@ -88,7 +88,8 @@ std::optional<int> TextFile::whole(size_t position, const char* name, int lowest
 }
 
 std::optional<int> TextFile::refuseNumber(size_t position, const char* name) {
-    skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
+    if (number_ != lastSkipped_)
+        skip(QString::fromLatin1(name), u"\"%1\" is not a number in its range"_s.arg(field(position)));
     return std::nullopt;
 }
 

@@ -58,6 +58,7 @@ class TextFile {
     QString text(size_t position) const { return field(position).toString(); }
 
     // The field's leading number, rounded; nothing, with a complaint that calls it `name`, when out of range.
+    // Only the first fault of a line is told, so that all of its fields can be read before one looks.
     std::optional<int> integer(size_t position, const char* name, int lowest, int highest);
     // As integer, but the whole field must be a number.
     std::optional<int> whole(size_t position, const char* name, int lowest, int highest);

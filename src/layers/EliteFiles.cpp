@@ -74,9 +74,7 @@ void sortSkills(Content& state) {
         skill.ListText = skill.Name % " ["_L1 % professionOf(state, skill.Profession).Abbreviation % u']';
         texts.push_back(skill.ListText);
     }
-    state.EliteOrder = alphabeticalOrder(texts);
-    for (int& id : state.EliteOrder)
-        ++id;
+    state.EliteOrder = alphabeticalOrderFrom1(texts);
 }
 
 // Coordinates are twips until a comment names another version than 1.0.

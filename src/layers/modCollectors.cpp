@@ -4,6 +4,7 @@
 #include "base/TextFile.h"
 #include "base/TextSearch.h"
 #include "layers/Content.h"
+#include "layers/ListedMarks.h"
 #include "world/modCampaigns.h"
 #include "world/modProfessions.h"
 
@@ -118,11 +119,11 @@ void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* c
         if (!file.hasFields(5))
             continue;
         const auto id = file.integer(0, "collector", 0, largestIdentifier);
-        const auto region = id ? file.integer(1, "region", 0, 255) : id;
-        const auto x = region ? file.integer(2, "x", -largestCoordinate, largestCoordinate) : region;
-        const auto y = x ? file.integer(3, "y", -largestCoordinate, largestCoordinate) : x;
-        const auto zone = y ? file.whole(4, "zone", Limits::min(), Limits::max()) : y;
-        if (!zone)
+        const auto region = file.integer(1, "region", 0, 255);
+        const auto x = file.integer(2, "x", -largestCoordinate, largestCoordinate);
+        const auto y = file.integer(3, "y", -largestCoordinate, largestCoordinate);
+        const auto zone = file.whole(4, "zone", Limits::min(), Limits::max());
+        if (!id || !region || !x || !y || !zone)
             continue;
         if (!state.Collectors.has(*id) || !state.Collectors[*id].Exists) {
             file.skip(u"collector"_s, u"no collector %1"_s.arg(*id));
@@ -140,10 +141,7 @@ std::vector<int> orderByName(const IndexedTable<Collector>& collectors) {
     std::vector<QString> names;
     for (int id = 1; id <= collectors.highest(); ++id)
         names.push_back(collectors[id].Name);
-    std::vector<int> order = alphabeticalOrder(names);
-    for (int& position : order)
-        ++position;
-    return order;
+    return alphabeticalOrderFrom1(names);
 }
 
 // Searching
@@ -200,16 +198,9 @@ struct Search {
     }
 };
 
-template <typename Visit>
-void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
-    for (const int id : listed) {
-        if (!state.Collectors.has(id))
-            continue;
-        const Collector& collector = state.Collectors[id];
-        if (shown.shows(collector.Location.Campaign, collector.Location.Region))
-            visit(id, collector);
-    }
-}
+constexpr auto eachPlace = [](const Collector& collector, const auto& visit) {
+    visit(0, collector.Location);
+};
 
 QString statsText(const std::vector<QString>& stats) {
     QString text;
@@ -269,22 +260,15 @@ std::vector<ListEntry> requestTypeEntries(const Content& state, int level) {
 }
 
 std::vector<Marker> collectorMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<Marker> markers;
-    forEachShown(state, listed, shown, [&](int, const Collector& collector) {
-        const MapLocation& at = collector.Location;
-        if (shown.passesZone(at.Zone))
-            markers.push_back(Marker::picture(collector.IsArmour ? Sprite::CollArmature : Sprite::CollArmi,
-                                              at.Left, at.Top));
-    });
-    return markers;
+    return markersOf(state.Collectors, listed, shown, eachPlace,
+                     [&](const Collector& collector, const MapLocation& at) {
+                         const Sprite sprite = collector.IsArmour ? Sprite::CollArmature : Sprite::CollArmi;
+                         return shown.passesZone(at.Zone) ? std::optional(sprite) : std::nullopt;
+                     });
 }
 
 std::vector<HitArea> collectorHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<HitArea> areas;
-    forEachShown(state, listed, shown, [&](int id, const Collector& collector) {
-        areas.push_back(HitArea::of(collector.Location, id));
-    });
-    return areas;
+    return hitAreasOf(state.Collectors, listed, shown, eachPlace);
 }
 
 CollectorTooltip collectorTooltip(const Content& state, int id, const CollectorChoice& choice) {

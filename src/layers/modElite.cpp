@@ -116,10 +116,7 @@ std::vector<ListEntry> eliteLocationEntries(const Content& state, int id, const 
     for (int j = 1; j <= skill.Locations.count(); ++j) {
         const MapLocation& at = skill.Locations[j];
         if (search.passes(skill, at))
-            entries.push_back({ZoneName(state, at.Campaign, at.Region, at.Zone) + u" - "_s +
-                                   regionName(state, at.Campaign, at.Region) + u" - "_s +
-                                   campaignName(state, at.Campaign),
-                               j});
+            entries.push_back({placeName(state, at), j});
     }
     return entries;
 }

@@ -76,9 +76,7 @@ void LoadGreens(Content& state, const Disk& disk, Complaints* complaints) {
     std::vector<QString> names;
     for (const GreenItem& item : state.GreenItems)
         names.push_back(item.Name);
-    state.GreenOrder = alphabeticalOrder(names);
-    for (int& green : state.GreenOrder)
-        ++green;
+    state.GreenOrder = alphabeticalOrderFrom1(names);
 }
 
 bool carriesGreens(const MapLocation& at) {

@@ -3,6 +3,7 @@
 #include "base/TextFile.h"
 #include "base/TextSearch.h"
 #include "layers/Content.h"
+#include "layers/ListedMarks.h"
 
 namespace orvinel {
 
@@ -16,10 +17,10 @@ constexpr size_t fieldsOfNote = 6;
 
 std::optional<Note> readNote(TextFile& file) {
     const auto x = file.integer(2, "x", -largestCoordinate, largestCoordinate);
-    const auto y = x ? file.integer(3, "y", -largestCoordinate, largestCoordinate) : x;
-    const auto campaign = y ? file.integer(4, "campaign", 0, 255) : y;
-    const auto region = campaign ? file.integer(5, "region", 0, 255) : campaign;
-    if (!region)
+    const auto y = file.integer(3, "y", -largestCoordinate, largestCoordinate);
+    const auto campaign = file.integer(4, "campaign", 0, 255);
+    const auto region = file.integer(5, "region", 0, 255);
+    if (!x || !y || !campaign || !region)
         return std::nullopt;
     Note note;
     note.setTexts(file.field(0).trimmed().toString(), file.text(1).replace(writtenLineBreak, lineBreak));
@@ -49,9 +50,7 @@ void sortNotes(Content& state) {
     std::vector<QString> titles;
     for (const Note& note : state.Notes)
         titles.push_back(note.ShortDesc);
-    state.NoteOrder = alphabeticalOrder(titles);
-    for (int& position : state.NoteOrder)
-        ++position;
+    state.NoteOrder = alphabeticalOrderFrom1(titles);
 }
 
 QString lineOf(const Note& note) {
@@ -102,16 +101,7 @@ QString storedBody(QString body) {
     return stored;
 }
 
-template <typename Visit>
-void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
-    for (const int index : listed) {
-        if (!state.Notes.has(index))
-            continue;
-        const MapLocation& at = state.Notes[index].At;
-        if (shown.shows(at.Campaign, at.Region))
-            visit(index, at);
-    }
-}
+constexpr auto eachPlace = [](const Note& note, const auto& visit) { visit(0, note.At); };
 
 } // namespace
 
@@ -150,18 +140,12 @@ std::vector<ListEntry> noteEntries(const Content& state, const NoteChoice& choic
 }
 
 std::vector<Marker> noteMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<Marker> markers;
-    forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
-        markers.push_back(Marker::picture(Sprite::Note, at.Left, at.Top));
-    });
-    return markers;
+    return markersOf(state.Notes, listed, shown, eachPlace,
+                     [](const Note&, const MapLocation&) { return std::optional(Sprite::Note); });
 }
 
 std::vector<HitArea> noteHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<HitArea> areas;
-    forEachShown(state, listed, shown,
-                 [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
-    return areas;
+    return hitAreasOf(state.Notes, listed, shown, eachPlace);
 }
 
 NoteProblem checkNote(const QString& title) {

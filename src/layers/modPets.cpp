@@ -2,6 +2,7 @@
 
 #include "base/TextFile.h"
 #include "layers/Content.h"
+#include "layers/ListedMarks.h"
 #include "world/modCampaigns.h"
 
 #include <algorithm>
@@ -21,11 +22,11 @@ void loadLocations(Content& state, int campaign, const Disk& disk, Complaints* c
         if (!file.hasFields(5))
             continue;
         const auto id = file.integer(0, "pet", 0, largestIdentifier);
-        const auto region = id ? file.integer(1, "region", 0, 255) : id;
-        const auto zone = region ? file.integer(2, "zone", Limits::min(), Limits::max()) : region;
-        const auto x = zone ? file.integer(3, "x", -largestCoordinate, largestCoordinate) : zone;
-        const auto y = x ? file.integer(4, "y", -largestCoordinate, largestCoordinate) : x;
-        if (!y)
+        const auto region = file.integer(1, "region", 0, 255);
+        const auto zone = file.integer(2, "zone", Limits::min(), Limits::max());
+        const auto x = file.integer(3, "x", -largestCoordinate, largestCoordinate);
+        const auto y = file.integer(4, "y", -largestCoordinate, largestCoordinate);
+        if (!id || !region || !zone || !x || !y)
             continue;
         if (!state.Pets.has(*id)) {
             file.skip(u"pet"_s, u"no pet %1"_s.arg(*id));
@@ -61,17 +62,10 @@ struct Search {
     }
 };
 
-template <typename Visit>
-void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
-    for (const int id : listed) {
-        if (!state.Pets.has(id))
-            continue;
-        const auto& locations = state.Pets[id].Locations;
-        for (int k = 1; k <= locations.count(); ++k)
-            if (shown.shows(locations[k].Campaign, locations[k].Region))
-                visit(id, k, locations[k]);
-    }
-}
+constexpr auto eachPlace = [](const Pet& pet, const auto& visit) {
+    for (int k = 1; k <= pet.Locations.count(); ++k)
+        visit(k, pet.Locations[k]);
+};
 
 } // namespace
 
@@ -113,28 +107,19 @@ std::vector<ListEntry> petLocationEntries(const Content& state, int id, const Pe
     for (int k = 1; k <= locations.count(); ++k) {
         const MapLocation& at = locations[k];
         if (search.admits(at))
-            entries.push_back({ZoneName(state, at.Campaign, at.Region, at.Zone) + u" - "_s +
-                                   regionName(state, at.Campaign, at.Region) + u" - "_s +
-                                   campaignName(state, at.Campaign),
-                               k});
+            entries.push_back({placeName(state, at), k});
     }
     return entries;
 }
 
 std::vector<Marker> petMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<Marker> markers;
-    forEachShown(state, listed, shown, [&](int, int, const MapLocation& at) {
-        if (shown.passesZone(at.Zone))
-            markers.push_back(Marker::picture(Sprite::Pet, at.Left, at.Top));
+    return markersOf(state.Pets, listed, shown, eachPlace, [&](const Pet&, const MapLocation& at) {
+        return shown.passesZone(at.Zone) ? std::optional(Sprite::Pet) : std::nullopt;
     });
-    return markers;
 }
 
 std::vector<HitArea> petHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<HitArea> areas;
-    forEachShown(state, listed, shown,
-                 [&](int id, int k, const MapLocation& at) { areas.push_back(HitArea::of(at, id, k)); });
-    return areas;
+    return hitAreasOf(state.Pets, listed, shown, eachPlace);
 }
 
 } // namespace orvinel

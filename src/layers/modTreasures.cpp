@@ -2,6 +2,7 @@
 
 #include "base/TextFile.h"
 #include "layers/Content.h"
+#include "layers/ListedMarks.h"
 
 #include <algorithm>
 #include <limits>
@@ -18,10 +19,10 @@ constexpr QLatin1String treasuresFile("Campaign.03.Sunhollow/Treasures.txt");
 std::optional<Treasure> readTreasure(TextFile& file) {
     using Limits = std::numeric_limits<int>;
     const auto x = file.integer(1, "x", -largestCoordinate, largestCoordinate);
-    const auto y = x ? file.integer(2, "y", -largestCoordinate, largestCoordinate) : x;
-    const auto region = y ? file.integer(3, "region", 0, 255) : y;
-    const auto zone = region ? file.whole(4, "zone", Limits::min(), Limits::max()) : region;
-    if (!zone)
+    const auto y = file.integer(2, "y", -largestCoordinate, largestCoordinate);
+    const auto region = file.integer(3, "region", 0, 255);
+    const auto zone = file.whole(4, "zone", Limits::min(), Limits::max());
+    if (!x || !y || !region || !zone)
         return std::nullopt;
     Treasure treasure;
     treasure.Name = file.text(0);
@@ -32,16 +33,7 @@ std::optional<Treasure> readTreasure(TextFile& file) {
     return treasure;
 }
 
-template <typename Visit>
-void forEachShown(const Content& state, ListedItems listed, const MapShown& shown, Visit visit) {
-    for (const int index : listed) {
-        if (!state.Treasures.has(index))
-            continue;
-        const MapLocation& at = state.Treasures[index].Location;
-        if (shown.shows(at.Campaign, at.Region))
-            visit(index, at);
-    }
-}
+constexpr auto eachPlace = [](const Treasure& treasure, const auto& visit) { visit(0, treasure.Location); };
 
 } // namespace
 
@@ -76,19 +68,13 @@ std::vector<ListEntry> treasureEntries(const Content& state, const TreasureChoic
 }
 
 std::vector<Marker> treasureMarkers(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<Marker> markers;
-    forEachShown(state, listed, shown, [&](int, const MapLocation& at) {
-        if (shown.passesZone(at.Zone))
-            markers.push_back(Marker::picture(Sprite::Treasure, at.Left, at.Top));
+    return markersOf(state.Treasures, listed, shown, eachPlace, [&](const Treasure&, const MapLocation& at) {
+        return shown.passesZone(at.Zone) ? std::optional(Sprite::Treasure) : std::nullopt;
     });
-    return markers;
 }
 
 std::vector<HitArea> treasureHitAreas(const Content& state, ListedItems listed, const MapShown& shown) {
-    std::vector<HitArea> areas;
-    forEachShown(state, listed, shown,
-                 [&](int index, const MapLocation& at) { areas.push_back(HitArea::of(at, index)); });
-    return areas;
+    return hitAreasOf(state.Treasures, listed, shown, eachPlace);
 }
 
 TreasureTooltip treasureTooltip(const Content& state, int index) {

@@ -21,9 +21,8 @@ void loadProfessions(World& state, const QString& path, const Disk& disk, Compla
             continue;
         const auto number = file.integer(0, "profession", 0, 255);
         const auto colour =
-            number ? file.whole(2, "colour", std::numeric_limits<int>::min(), std::numeric_limits<int>::max())
-                   : number;
-        if (!colour)
+            file.whole(2, "colour", std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+        if (!number || !colour)
             continue;
         Profession& profession = state.Professions.grow(*number);
         profession = {file.text(1), file.text(3), static_cast<Colour>(*colour) & 0xFFFFFF, {}};

@@ -49,15 +49,15 @@ void loadZones(World& state, int campaign, const Disk& disk, Complaints* complai
         if (!file.hasFields(7))
             continue;
         const auto x = file.integer(4, "x", -largestCoordinate, largestCoordinate);
-        const auto y = x ? file.integer(5, "y", -largestCoordinate, largestCoordinate) : x;
+        const auto y = file.integer(5, "y", -largestCoordinate, largestCoordinate);
         // A zone without a place is left out on purpose: nothing to complain about.
         if (!x || !y || !isAboveZero(file, 4, *x) || !isAboveZero(file, 5, *y))
             continue;
         const auto id = file.whole(0, "zone", -32768, 32767);
-        const auto region = id ? file.integer(1, "region", 0, 255) : id;
-        const auto type = region ? file.whole(2, "type", 0, 255) : region;
-        const auto flag = type ? file.whole(3, "marker flag", 0, 255) : type;
-        if (!flag)
+        const auto region = file.integer(1, "region", 0, 255);
+        const auto type = file.whole(2, "type", 0, 255);
+        const auto flag = file.whole(3, "marker flag", 0, 255);
+        if (!id || !region || !type || !flag)
             continue;
         if (!regions.has(*region))
             file.skip(u"region"_s, u"no region %1"_s.arg(*region));
@@ -115,6 +115,11 @@ QString ZoneName(const World& state, int campaign, int region, int identifier) {
         return {};
     const auto zone = found->ZoneByIdentifier.find(identifier);
     return zone == found->ZoneByIdentifier.end() ? QString() : found->RegionZones[zone->second].ZoneName;
+}
+
+QString placeName(const World& state, const MapLocation& at) {
+    return ZoneName(state, at.Campaign, at.Region, at.Zone) + u" - "_s +
+           regionName(state, at.Campaign, at.Region) + u" - "_s + campaignName(state, at.Campaign);
 }
 
 int zoneIdentifier(const World& state, int campaign, int region, int zoneIndex) {

@@ -3,6 +3,7 @@
 #include "base/Complaints.h"
 #include "base/Disk.h"
 #include "base/Listing.h"
+#include "world/MapLocation.h"
 #include "world/Marker.h"
 #include "world/Zone.h"
 
@@ -39,6 +40,9 @@ QRect zoneLabelRect(int campaign, const Zone& zone, int width, int height);
 
 // The name of the first zone of that region with the identifier; empty text when none has it.
 QString ZoneName(const World& state, int campaign, int region, int identifier);
+
+// "Zone - Region - Campaign"; what does not exist is left empty.
+QString placeName(const World& state, const MapLocation& at);
 
 // The identifier of the zone that `zoneIndex` names in a region; 0 when there is no such zone.
 int zoneIdentifier(const World& state, int campaign, int region, int zoneIndex);

@@ -183,5 +183,25 @@ TEST(TextFile, passesOverFieldsBehindTheBoundAndKeepsTheLine) {
     EXPECT_TRUE(file.nextLine() && file.hasFields(2));
 }
 
+TEST(TextFile, tellsTheFirstFaultOfEachLine) {
+    MemoryDisk disk;
+    disk.put(u"/f"_s, "x\t1\tnone\r\n7\t8\t9\r\n1\tx\t2\r\n");
+    ComplaintList complaints;
+    TextFile file(disk, u"/f"_s, &complaints);
+    int good = 0;
+    while (file.nextLine()) {
+        const auto first = file.whole(0, "first", 0, 9);
+        const auto second = file.whole(1, "second", 0, 9);
+        const auto third = file.whole(2, "third", 0, 9);
+        good += first && second && third ? 1 : 0;
+    }
+    EXPECT_EQ(1, good);
+    EXPECT_EQ(2, file.skippedLines());
+    ASSERT_EQ(2u, complaints.all.size());
+    EXPECT_EQ(u"first"_s, complaints.all[0].field);
+    EXPECT_EQ(3, complaints.all[1].line);
+    EXPECT_EQ(u"second"_s, complaints.all[1].field);
+}
+
 } // namespace
 } // namespace orvinel

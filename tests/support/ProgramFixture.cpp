@@ -2,6 +2,7 @@
 
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "support/NumberedCaptions.h"
 
 #include <QBuffer>
 
@@ -20,10 +21,7 @@ QByteArray jpeg(QSize size, QColor colour) {
 
 ProgramFixture::ProgramFixture() {
     state.AppPath = u"/o/"_s;
-    QByteArray language;
-    for (int n = 1; n <= 115; ++n)
-        language += QByteArray::number(n) + "\tText " + QByteArray::number(n) + "\r\n";
-    disk.put(u"/o/Data/Language.txt"_s, language);
+    disk.put(u"/o/Data/Language.txt"_s, numberedCaptions("Text "));
     disk.putFolder(u"/o/Campaign.00.Core"_s);
     putFile("Regions.txt", "1\tFjord\r\n2\tGlacier\r\n3\tVoid\r\n");
     putFile("Zones.txt", "11\t1\t1\t0\t700\t550\tHarbour\r\n12\t1\t1\t0\t700\t500\tCliffs\r\n"
@@ -35,7 +33,7 @@ ProgramFixture::ProgramFixture() {
 
 ProgramFixture::~ProgramFixture() = default;
 
-void ProgramFixture::putFile(const char* name, const char* text) {
+void ProgramFixture::putFile(const char* name, const QByteArray& text) {
     disk.put(u"/o/Campaign.03.Frost/"_s + QLatin1String(name), text);
 }
 

@@ -40,7 +40,7 @@ struct ProgramFixture : testing::Test {
     ~ProgramFixture() override;
 
     // Below the folder of campaign 3.
-    void putFile(const char* name, const char* text);
+    void putFile(const char* name, const QByteArray& text);
     void load();
     // Loads the tables, makes and shows the windows, fills the panel.
     void start();

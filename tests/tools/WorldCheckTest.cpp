@@ -1,5 +1,6 @@
 #include "tools/WorldCheck.h"
 #include "support/MemoryDisk.h"
+#include "support/NumberedCaptions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,10 +15,7 @@ struct WorldCheckTest : testing::Test {
     MemoryDisk disk;
 
     WorldCheckTest() {
-        QByteArray language;
-        for (int n = 1; n <= 115; ++n)
-            language += QByteArray::number(n) + "\tText\r\n";
-        disk.put(u"/o/Data/Language.txt"_s, language);
+        disk.put(u"/o/Data/Language.txt"_s, numberedCaptions("Text"));
         put("00.Core", "Professions.txt", "1\tMage\t&HFF\tM\tFire\r\n");
         put("00.Core", "PetsList.txt", "1\tWolf\tPine\r\n");
         put("00.Core", "imgPets/1.jpg", "jpeg");

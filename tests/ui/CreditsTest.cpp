@@ -55,5 +55,19 @@ TEST(CreditsList, keepsItsTwoColumnsApartWhereTheWindowPutsThem) {
     EXPECT_LE(drawnArea(image).bottom(), 15 + 11 * th + 5);
 }
 
+// A screen reader's frame stands around the line that it reads, the thanks below the gap included.
+TEST(CreditsList, eachLineIsPaintedWhereItIsSpokenOf) {
+    const QImage image = creditsOn({507, 205}, 0);
+    const std::vector<QRect> places = creditsPlaces(507);
+    ASSERT_EQ(creditsText().count(u'\n') + 1, qsizetype(places.size()));
+    QRect all;
+    for (const QRect& place : places) {
+        EXPECT_FALSE(drawnArea(image.copy(place)).isNull()) << place.y();
+        EXPECT_FALSE(all.intersects(place)) << place.y();
+        all |= place;
+    }
+    EXPECT_TRUE(all.contains(drawnArea(image)));
+}
+
 } // namespace
 } // namespace orvinel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/MemoryDisk.h"
+#include "support/NumberedCaptions.h"
 #include "support/RecordingDesktop.h"
 #include "ui/dialogs/Dialog.h"
 #include "ui/platform/ListBox.h"
@@ -29,8 +30,7 @@ struct DialogFixture : testing::Test {
     DialogFixture() {
         using namespace Qt::Literals::StringLiterals;
         state.AppPath = u"/o/"_s;
-        for (int n = 1; n <= 115; ++n)
-            state.LanguageTable.grow(n) = u"text %1"_s.arg(n);
+        numberCaptions(state, u"text "_s);
         for (const QString& name : {u"Aldric"_s, u"Maren"_s, u"Ysk"_s})
             state.Characters.append(name);
         state.Campaigns[0].CampaignName = u"Core"_s;

@@ -1,3 +1,4 @@
+#include "support/NumberedCaptions.h"
 #include "support/Printing.h"
 #include "ui/dialogs/frmLegenda.h"
 #include "ui/platform/Fonts.h"
@@ -21,8 +22,7 @@ ProgramState stateWith(int professions) {
     ProgramState state;
     for (int i = 1; i <= professions; ++i)
         state.Professions.append({u"Tidecaller"_s, u"M"_s, 0x100000u + static_cast<Colour>(i), {}});
-    for (int i = 1; i <= 115; ++i)
-        state.LanguageTable.append(u"Text %1"_s.arg(i));
+    numberCaptions(state, u"Text "_s);
     return state;
 }
 

@@ -8,9 +8,18 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 // Notes and the two menus of the map.
+const QPoint alpha(500, 100);
+
 struct NotesViewTest : LayersFixture {
     const QString file = u"/o/Personal/Notes.txt"_s;
 
+    // In a window that is higher than the map.
+    void showALongNote() {
+        startOnFjord();
+        state.Notes[1].setTexts(u"Alpha"_s, QString(u"line\r\n"_s).repeated(100));
+        hover(alpha);
+        ASSERT_GT(notes->window().height(), map->picMap().height());
+    }
     QAction& entry(const char* name) { return inMap<QAction>(name); }
     void choose(const char* name) {
         entry(name).trigger();
@@ -25,7 +34,6 @@ struct NotesViewTest : LayersFixture {
     bool menuOpen() { return inMap<QMenu>("MenuPopUp").isVisible(); }
 };
 
-const QPoint alpha(500, 100);
 const QPoint nothing(450, 330);
 
 TEST_F(NotesViewTest, theWindowShowsAllLinesOfTheNote) {
@@ -51,12 +59,9 @@ TEST_F(NotesViewTest, theMapShinesThroughTheWindowOnceAlsoBesideASmallRegion) {
 }
 
 TEST_F(NotesViewTest, theWheelScrollsAWindowThatIsHigherThanTheMap) {
-    startOnFjord();
-    state.Notes[1].setTexts(u"Alpha"_s, QString(u"line\r\n"_s).repeated(100));
-    hover(alpha);
+    showALongNote();
     InformationWindow& window = notes->window();
     MapViewport& view = map->picMap();
-    ASSERT_GT(window.height(), view.height());
     const auto wheel = [&](QWidget& over, QPoint at, int notches) {
         QWheelEvent event(at, over.mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
@@ -75,12 +80,9 @@ TEST_F(NotesViewTest, theWheelScrollsAWindowThatIsHigherThanTheMap) {
 }
 
 TEST_F(NotesViewTest, theKeysScrollAWindowThatIsHigherThanTheMapAndElseTheMap) {
-    startOnFjord();
-    state.Notes[1].setTexts(u"Alpha"_s, QString(u"line\r\n"_s).repeated(100));
-    hover(alpha);
+    showALongNote();
     InformationWindow& window = notes->window();
     MapViewport& view = map->picMap();
-    ASSERT_GT(window.height(), view.height());
     const int lowest = view.height() - window.height();
     const QPoint shownFirst = view.toWidget(QRect(0, 0, 1, 1)).topLeft();
     const auto yAfter = [&](Qt::Key key) {

@@ -1,4 +1,4 @@
-#include "compare/PlainMap.h"
+#include "support/PlainMap.h"
 #include "support/LayersFixture.h"
 #include "ui/map/RegionPictures.h"
 #include "world/modCampaigns.h"
@@ -17,15 +17,15 @@ struct PlainMapTest : LayersFixture {
 
     QImage plain(const QString& boss) {
         const QImage picture = loadPicture(disk, findRegion(state, 3, 1)->RegionPicture);
-        return bench::plainMap(picture, layers->zones, map->shown(0),
-                               bench::allMarkers(state, map->shown(0), boss), map->art());
+        return plainMap(picture, layers->zones, map->shown(0), allMarkers(state, map->shown(0), boss),
+                        map->art());
     }
     QImage plainGround() {
-        return bench::plainMap(loadPicture(disk, findRegion(state, 3, 1)->RegionPicture), layers->zones,
-                               map->shown(0), {}, map->art());
+        return plainMap(loadPicture(disk, findRegion(state, 3, 1)->RegionPicture), layers->zones,
+                        map->shown(0), {}, map->art());
     }
     void expectPlain(const QString& boss) {
-        map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0), boss));
+        map->picMap().surface()->setMarkers(allMarkers(state, map->shown(0), boss));
         EXPECT_EQ(plain(boss), map->picMap().surface()->composed()) << boss.toStdString();
     }
 };
@@ -43,7 +43,7 @@ TEST_F(PlainMapTest, aPictureDecodedInTwoStepsEndsAsOneDecodedAtOnce) {
     start();
     map->expect(PictureAhead(disk, findRegion(state, 3, 1)->RegionPicture, MapSurface::rowsNeededFor(64)));
     showFjord();
-    map->picMap().surface()->setMarkers(bench::allMarkers(state, map->shown(0)));
+    map->picMap().surface()->setMarkers(allMarkers(state, map->shown(0)));
     const QRect upper(0, 0, 800, 64);
     EXPECT_EQ(plain({}).copy(upper), map->picMap().surface()->composed(upper).copy(upper));
     expectPlain({});
@@ -54,7 +54,7 @@ TEST_F(PlainMapTest, aGroundDrawnInPartsEqualsOneDrawnAtOnce) {
     start();
     showFjord();
     MapSurface& surface = *map->picMap().surface();
-    surface.setMarkers(bench::allMarkers(state, map->shown(0)));
+    surface.setMarkers(allMarkers(state, map->shown(0)));
     const QImage expected = plain({});
     for (int i = 0; i < 12; ++i) {
         const QRect part(61 * i, 37 * i, 90, 150 - 7 * i);

@@ -1,4 +1,5 @@
 #include "app/ProgramState.h"
+#include "support/NumberedCaptions.h"
 #include "support/Printing.h"
 #include "ui/panel/frmPopupMenu.h"
 #include "ui/platform/SpokenRole.h"
@@ -19,8 +20,7 @@ using testing::Pair;
 
 ProgramState numberedTexts() {
     ProgramState state;
-    for (int i = 1; i <= 115; ++i)
-        state.LanguageTable.append(u"T%1"_s.arg(i));
+    numberCaptions(state, u"T"_s);
     return state;
 }
 

@@ -1,10 +1,8 @@
 #include "ui/dialogs/frmCredits.h"
 
 #include "ui/map/CreditsList.h"
-#include "ui/platform/Fonts.h"
 #include "ui/platform/PictureBox.h"
 
-#include <QFontMetrics>
 #include <QPushButton>
 #include <QStringList>
 
@@ -35,9 +33,9 @@ frmCredits::frmCredits(DialogContext context, QWidget* owner)
     picCredits->clear();
     DrawCreditsList(picCredits->surface(), 0);
     const QStringList lines = creditsText().split(u'\n');
-    const int lineHeight = QFontMetrics(arial(points9)).height();
-    for (int i = 0; i < lines.size(); ++i)
-        picCredits->tell({0, 15 + i * lineHeight, creditsPlace.width(), lineHeight}, lines[i]);
+    const std::vector<QRect> places = creditsPlaces(creditsPlace.width());
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        picCredits->tell(places[size_t(i)], lines[i]);
     QPushButton* cmdCancel = addButton(u"cmdCancel"_s, cancelPlace, state().text(closeCaption));
     cmdCancel->setDefault(true);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);

@@ -3,6 +3,7 @@
 #include "app/Opening.h"
 #include "base/About.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
@@ -38,7 +39,6 @@ constexpr QRect mailPlace(QPoint(22, 409), QPoint(130, 422));
 constexpr Colour grey = 0x808080;
 constexpr Colour lightGrey = 0xE0E0E0;
 constexpr Colour silver = 0xC0C0C0;
-constexpr Colour darkGrey = 0x404040;
 constexpr Colour lightOrange = 0x77DDFF;
 constexpr Colour darkBrown = 0x122550;
 

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmLegenda.h"
 
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/SpokenRole.h"
 
@@ -38,8 +39,6 @@ constexpr int greenTextShift = 14;
 
 constexpr Caption legendCaption = Caption::Legend;
 constexpr Caption closeCaption = Caption::CloseWindow;
-constexpr Colour bandBlue = 0xFF0000;
-constexpr Colour white = 0xFFFFFF;
 constexpr Colour lightGrey = 0xF0F0F0;
 
 enum class Symbol { Code, NoBoss, Green, Picture };
@@ -141,7 +140,7 @@ frmLegenda::frmLegenda(const ProgramState& state, QWidget* owner)
 void frmLegenda::DrawLegendTitle() {
     Drawing drawing(this);
     drawing.setFont(arial(points8_25, true));
-    drawing.filledBox(0, 0, width(), bandHeight, bandBlue);
+    drawing.filledBox(0, 0, width(), bandHeight, titleBlue);
     drawing.setForeground(white);
     drawing.print((width() - drawing.textWidth(title_)) / 2, (bandHeight - drawing.lineHeight()) / 2, title_);
 }

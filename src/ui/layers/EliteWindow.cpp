@@ -4,6 +4,7 @@
 #include "layers/modElite.h"
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 
 #include <algorithm>
 
@@ -39,7 +40,6 @@ constexpr int separatorAboveGreens = 5;
 constexpr int bottomMargin = 8;
 constexpr int fractionDrop = 2;
 
-constexpr Colour white = 0xFFFFFF;
 constexpr Colour captionColour = 0xCBECF5;
 constexpr Colour bossColour = 0x9CD8FF;
 constexpr Colour greenColour = 0x8CF08C;

@@ -3,7 +3,6 @@
 #include "ui/map/RegionPictures.h"
 #include "ui/map/ShowOnMap.h"
 #include "ui/map/WindowRules.h"
-#include "ui/platform/Fonts.h"
 
 #include <algorithm>
 
@@ -12,15 +11,6 @@ namespace orvinel {
 namespace {
 
 constexpr Caption countCaption = Caption::EliteSkills;
-constexpr int extentBeyondText = 4; // pixels
-
-int widestText(const std::vector<ListEntry>& entries) {
-    const QFontMetrics metrics(arial(points8_25));
-    int widest = 0;
-    for (const ListEntry& entry : entries)
-        widest = std::max(widest, metrics.horizontalAdvance(entry.text));
-    return widest;
-}
 
 } // namespace
 
@@ -113,9 +103,8 @@ void EliteView::ShowEliteTooltip(EliteHit hit) {
 void EliteView::listLocations() {
     ElitePage& page = panel_.elitePage();
     const int id = page.lstElite->selectedEntry().data;
-    const std::vector<ListEntry> entries = eliteLocationEntries(state_, id, panel_.eliteChoice());
-    page.lstLocations->setEntries(entries);
-    page.lstLocations->setHorizontalExtent(widestText(entries) + extentBeyondText);
+    page.lstLocations->setEntries(eliteLocationEntries(state_, id, panel_.eliteChoice()));
+    page.lstLocations->extendToTexts();
     const bool somewhere = !state_.EliteSkills[id].Locations.empty();
     page.lblLocations->setEnabled(somewhere);
     page.lstLocations->setEnabled(somewhere);

@@ -5,8 +5,6 @@
 #include "ui/map/WindowRules.h"
 #include "ui/platform/Fonts.h"
 
-#include <algorithm>
-
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +19,6 @@ constexpr int left = 14;
 constexpr int belowTitle = 8;
 constexpr int bottomMargin = 10;
 constexpr QSize largestPicture(320, 240);
-constexpr int extentBeyondText = 4;
 
 const MapLocation& locationOf(const Content& state, int id, int part) {
     return state.Pets[id].Locations[part];
@@ -66,12 +63,8 @@ void PetsView::ShowPetLocations() {
     const int id = page.lstPets->selectedEntry().data;
     listedPet_ = id;
     const std::vector<ListEntry> entries = petLocationEntries(state(), id, {panel().selection().place()});
-    const QFontMetrics metrics(panel().font());
-    int widest = 0;
-    for (const ListEntry& entry : entries)
-        widest = std::max(widest, metrics.horizontalAdvance(entry.text));
     page.lstPetLocations->setEntries(entries);
-    page.lstPetLocations->setHorizontalExtent(widest + extentBeyondText);
+    page.lstPetLocations->extendToTexts();
     page.lblPetLocations->setEnabled(state().Pets[id].Locations.count() >= 1);
     if (!entries.empty())
         page.lstPetLocations->select(0);

@@ -20,8 +20,9 @@ struct Credit {
 };
 
 // Pixels.
-constexpr int columnGap = 8; // of either column from the line between them
-constexpr int thanksGap = 5; // above the thanks
+constexpr int columnGap = 8;  // of either column from the line between them
+constexpr int windowTop = 15; // in the credits window
+constexpr int thanksGap = 5;  // above the thanks
 constexpr int thanksLines = 2;
 
 const std::array<Credit, 9>& credits() {
@@ -46,6 +47,11 @@ const std::array<QString, thanksLines>& thanks() {
     return lines;
 }
 
+// Where a line begins, from the first line's top.
+int belowTop(size_t line, int lineHeight) {
+    return static_cast<int>(line) * lineHeight + (line < credits().size() ? 0 : thanksGap);
+}
+
 int widestRole(const Drawing& drawing) {
     int widest = 0;
     for (const Credit& credit : credits())
@@ -62,19 +68,24 @@ void DrawCreditsList(QImage& target, int placement) {
     drawing.setForeground(creamText);
     const int th = drawing.lineHeight();
     const int lines = static_cast<int>(credits().size()) + thanksLines;
-    const int top = placement == 1 ? size.height() - lines * th - thanksGap : 15;
+    const int top = placement == 1 ? size.height() - lines * th - thanksGap : windowTop;
     const int middle = size.width() - widestRole(drawing) - (placement == 1 ? 16 : 50);
-    int y = top;
+    size_t line = 0;
     for (const Credit& credit : credits()) {
+        const int y = top + belowTop(line++, th);
         drawing.print(middle + columnGap, y, credit.role);
         drawing.print(middle - columnGap - drawing.textWidth(credit.name), y, credit.name);
-        y += th;
     }
-    y += thanksGap;
-    for (const QString& line : thanks()) {
-        drawing.print(middle + columnGap, y, line);
-        y += th;
-    }
+    for (const QString& text : thanks())
+        drawing.print(middle + columnGap, top + belowTop(line++, th), text);
+}
+
+std::vector<QRect> creditsPlaces(int width) {
+    const int th = QFontMetrics(arial(points9)).height();
+    std::vector<QRect> places;
+    for (size_t line = 0; line < credits().size() + thanks().size(); ++line)
+        places.emplace_back(0, windowTop + belowTop(line, th), width, th);
+    return places;
 }
 
 QString creditsText() {

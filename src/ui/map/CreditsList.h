@@ -3,7 +3,10 @@
 #include "base/Colour.h"
 
 #include <QImage>
+#include <QRect>
 #include <QString>
+
+#include <vector>
 
 namespace orvinel {
 
@@ -16,5 +19,8 @@ void DrawCreditsList(QImage& target, int placement);
 
 // The same as lines of plain text, for those who have them read out.
 QString creditsText();
+
+// Where each of these lines stands in a picture of that width with placement 0: as wide as the picture.
+std::vector<QRect> creditsPlaces(int width);
 
 } // namespace orvinel

@@ -9,12 +9,6 @@ namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-constexpr Colour cream = 0xCBECF5;
-
-} // namespace
-
 QImage drawEmptyMap(QSize size, const QString& title) {
     QImage picture(size.expandedTo({1, 1}), QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -23,7 +17,7 @@ QImage drawEmptyMap(QSize size, const QString& title) {
         const QImage splash(u":/windows/picSplash.png"_s);
         drawing.painter().drawImage(0, size.height() - splash.height(), splash);
         drawing.setFont(arial(points24));
-        drawing.setForeground(cream);
+        drawing.setForeground(creamText);
         const int width = drawing.textWidth(title);
         const int height = drawing.lineHeight();
         const int left = (size.width() - width) / 2;

@@ -3,6 +3,7 @@
 #include "ui/panel/Controls.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 
 #include <QKeyEvent>
 
@@ -17,9 +18,6 @@ namespace {
 constexpr QRect barPlace(0, 17, 221, 19);
 constexpr QRect framePlace(40, 0, 53, 18);
 constexpr std::array<QPoint, 3> wordPlaces = {QPoint(6, 1), QPoint(46, 1), QPoint(98, 1)};
-constexpr Colour ground = 0xFF8080;
-constexpr Colour darkGrey = 0x404040;
-constexpr Colour pureBlue = 0xFF0000;
 
 } // namespace
 
@@ -34,7 +32,7 @@ MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
         lblMenu[i]->installEventFilter(this);
         lblMenu[i]->setFont(arial(points8_25));
         lblMenu[i]->move(wordPlaces[i]);
-        connect(lblMenu[i], &Label::pressed, this, [this, i] { lblMenu[i]->setColour(pureBlue); });
+        connect(lblMenu[i], &Label::pressed, this, [this, i] { lblMenu[i]->setColour(titleBlue); });
         connect(lblMenu[i], &Label::released, this, [this, i, index] {
             if (open_ != index)
                 lblMenu[i]->setColour(0);
@@ -52,7 +50,7 @@ void MenuBar::markOpen(int index) {
     markClosed();
     open_ = index;
     Label& word = *lblMenu[static_cast<size_t>(index)];
-    word.setColour(pureBlue);
+    word.setColour(titleBlue);
     frame(word);
 }
 
@@ -105,7 +103,7 @@ void MenuBar::markClosed() {
 
 void MenuBar::paintEvent(QPaintEvent*) {
     Drawing drawing(this);
-    drawing.filledBox(0, 0, width() - 1, height() - 1, ground);
+    drawing.filledBox(0, 0, width() - 1, height() - 1, barBlue);
     drawing.line(0, 17, 216, 17, darkGrey);
     if (!frame_.isEmpty())
         drawing.outline(frame_.left(), frame_.top(), frame_.right(), frame_.bottom(), darkGrey);

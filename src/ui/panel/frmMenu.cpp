@@ -7,6 +7,7 @@
 #include "progress/modCharacters.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 #include "ui/platform/PictureButton.h"
 #include "ui/platform/SpokenRole.h"
 #include "world/modCampaigns.h"
@@ -25,8 +26,6 @@ namespace {
 constexpr QSize designSize(217, 790);
 constexpr QPoint quitPlace(201, 1);
 constexpr int titleHeight = 16;
-constexpr Colour pureBlue = 0xFF0000;
-constexpr Colour white = 0xFFFFFF;
 
 QString titleText() {
     return u"Orvinel v%1    "_s.arg(programVersion()) + byLine();
@@ -342,7 +341,7 @@ void frmMenu::layerSwitched(Tab tab) {
 
 void frmMenu::paintEvent(QPaintEvent*) {
     Drawing drawing(this);
-    drawing.filledBox(0, 0, width() - 1, titleHeight, pureBlue);
+    drawing.filledBox(0, 0, width() - 1, titleHeight, titleBlue);
     drawing.setFont(arial(points8_25, true));
     drawing.setForeground(white);
     drawing.print(2, (titleHeight - drawing.lineHeight()) / 2, titleText());

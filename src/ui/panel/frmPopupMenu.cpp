@@ -4,6 +4,7 @@
 #include "base/Colour.h"
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Palette.h"
 #include "ui/platform/SpokenRole.h"
 #include "ui/platform/Windows.h"
 
@@ -32,8 +33,6 @@ constexpr int labelFrame = 8; // how much wider the frame of the open label is
 constexpr int holeTop = -6;
 constexpr int holeHeight = 14;
 
-constexpr Colour darkGrey = 0x404040;
-constexpr Colour barBlue = 0xFF8080;
 constexpr Colour highlightBlue = 0xFF4040;
 
 constexpr const char* tag = "Tag";

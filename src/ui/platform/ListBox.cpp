@@ -160,6 +160,14 @@ void ListBox::setHorizontalExtent(int pixels) {
     model_->setExtent(pixels);
 }
 
+void ListBox::extendToTexts() {
+    constexpr int beyond = 4; // pixels
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(entry(row).text));
+    setHorizontalExtent(widest + beyond);
+}
+
 bool ListBox::isCut(const QModelIndex& index) const {
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     const int box =

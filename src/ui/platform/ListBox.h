@@ -54,6 +54,8 @@ class ListBox : public QListView {
 
     // Pixels that can be scrolled into view sideways; 0: as wide as the list.
     void setHorizontalExtent(int pixels);
+    // Lets the widest text be scrolled into view.
+    void extendToTexts();
 
     // Nothing while the list is not to be seen: so a screen reader does not hear its rows as shown.
     QRect visualRect(const QModelIndex& index) const override;

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace orvinel::bench {
+namespace orvinel {
 
 // What the layers draw on a region when everything is listed; `boss` restricts the skills' boxes.
 std::vector<Marker> allMarkers(const ProgramState& tables, const MapShown& shown, const QString& boss = {});
@@ -18,4 +18,4 @@ std::vector<Marker> allMarkers(const ProgramState& tables, const MapShown& shown
 QImage plainMap(const QImage& picture, ZonesView& zones, const MapShown& shown,
                 const std::vector<Marker>& markers, const MarkerArt& art);
 
-} // namespace orvinel::bench
+} // namespace orvinel

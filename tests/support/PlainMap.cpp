@@ -1,4 +1,4 @@
-#include "compare/PlainMap.h"
+#include "support/PlainMap.h"
 
 #include "app/ProgramState.h"
 #include "layers/modCollectors.h"
@@ -10,7 +10,7 @@
 #include "ui/platform/Drawing.h"
 #include "ui/platform/Fonts.h"
 
-namespace orvinel::bench {
+namespace orvinel {
 
 namespace {
 
@@ -56,4 +56,4 @@ QImage plainMap(const QImage& picture, ZonesView& zones, const MapShown& shown,
     return map;
 }
 
-} // namespace orvinel::bench
+} // namespace orvinel
