@@ -142,28 +142,14 @@ TEST_F(EliteViewTest, theWindowTellsAllAboutTheSkillTheBossAndItsItems) {
     EXPECT_EQ(nullptr, on<Label>(window(), "lblGreen(1)"));
 }
 
-TEST_F(EliteViewTest, theWindowsPartsFollowEachOther) {
+TEST_F(EliteViewTest, withoutTheSkillsLayerTheWindowBeginsWithTheBoss) {
     startOnFjord();
-    hover(bront);
-    const auto bottom = [&](const char* name) { return label(name).y() + label(name).height(); };
-    EXPECT_EQ(bottom("lblExtDescription") + 9, label("lblExtBoss").y());
-    EXPECT_EQ(bottom("lblExtBoss") + 2, label("lblExtZone").y());
-    EXPECT_EQ(label("lblExtZone").y(), label("lblExtCaptionZone").y());
-    EXPECT_EQ(bottom("lblExtCaptionNote") + 2, label("lblExtNote").y());
-    EXPECT_EQ(bottom("lblExtNote") + 2 + 7, label("lblGreen(0)").y());
-    EXPECT_EQ(bottom("lblGreenStats(0)") + 1, label("lblGreen(1)").y());
-    EXPECT_EQ(label("lblGreenStats(0)").x(), label("lblGreenStats(1)").x());
-    EXPECT_EQ(bottom("lblGreenStats(1)") + 1 + 8, window().height());
-    EXPECT_EQ(label("lblExtRechargeTime").y() + 2, label("lblExtCastTime").y());
-    hover(chorister);
-    EXPECT_EQ(label("lblExtRechargeTime").y(), label("lblExtCastTime").y());
     panel->tabs().chkShowObject[0]->setValue(0);
-    map->HideInformationWindows();
     hover(bront);
     EXPECT_EQ(u"(hidden)"_s, shownText("lblExtEliteName"));
     EXPECT_EQ(u"(hidden)"_s, shownText("lblExtEnergy"));
-    EXPECT_EQ(label("lblExtEliteName").y() + 2, label("lblExtBoss").y());
     EXPECT_EQ(u"Bront"_s, shownText("lblExtBoss"));
+    EXPECT_LT(label("lblExtBoss").y(), label("lblExtBoss").height()) << "room for a skill that is not shown";
 }
 
 TEST_F(EliteViewTest, theFrameLetsTheMapShineThroughItsBand) {
