@@ -40,6 +40,11 @@ bool onWater(SiteNear near) {
     return near == SiteNear::Water || near == SiteNear::Sea;
 }
 
+// A mere or a deep is a lake: its name off the coast would say something else than the picture.
+bool isWaterOf(const Landscape& land, QPoint p, SiteNear near) {
+    return land.water(p.x(), p.y()) && land.sea(p.x(), p.y()) == (near == SiteNear::Sea);
+}
+
 double highestAround(const Landscape& land, QPoint p, int reach) {
     double highest = 0;
     for (int j = -3; j <= 3; ++j)
@@ -171,10 +176,11 @@ double Finder::suitability(QPoint p, const SiteWish& wish) const {
                    ? 2 + smoothStep(60, 260, room(p)) - 4 * land_.height.clamped(x, y)
                    : -1;
     if (onWater(wish.near))
-        return (wish.near == SiteNear::Sea && !land_.sea(x, y)) || land_.toLand.clamped(x, y) < 22 ||
+        return !isWaterOf(land_, p, wish.near) || land_.toLand.clamped(x, y) < 22 ||
                        wish.role != SiteRole::Area
                    ? -1
-                   : 2 + smoothStep(60, 260, room(p)) - smoothStep(60, 140, land_.toLand.clamped(x, y));
+                   : 2 + smoothStep(60, 260, room(p)) + smoothStep(22, 60, land_.toLand.clamped(x, y)) -
+                         smoothStep(60, 140, land_.toLand.clamped(x, y));
     const double shore = land_.toWater.clamped(x, y);
     const bool large = wish.role == SiteRole::Town || wish.role == SiteRole::Mission;
     if (shore < (large ? 30 : 20) || land_.highGround(x, y) ||
@@ -253,7 +259,7 @@ bool groundOffers(const Landscape& land, QPoint site, SiteNear near) {
         return passBetweenHeights(land, site);
     case SiteNear::Water:
     case SiteNear::Sea:
-        return land.water(site.x(), site.y()) && land.sea(site.x(), site.y()) >= (near == SiteNear::Sea);
+        return isWaterOf(land, site, near);
     case SiteNear::Forest:
     case SiteNear::Bamboo:
         return woodedShare(land, site, 80) > 0.4;
