@@ -1,3 +1,4 @@
+#include "Placement.h"
 #include "RegionPainter.h"
 
 #include <QCryptographicHash>
@@ -104,6 +105,19 @@ TEST(Painter, PlacesEvenMoreSitesThanThereIsRoomFor) {
     ASSERT_EQ(region.sites.size(), 14U);
     for (const QPoint& site : region.sites)
         EXPECT_TRUE(QRect(QPoint(), recipe.size).contains(site));
+}
+
+// A name that the picture does not have hides no marker, one that it has keeps them away.
+TEST(Painter, KeepsMarkersOffTheRegionsName) {
+    RegionRecipe recipe{5, QSize(700, 500), Theme::Temperate, 1, u"Vale"_s, {}};
+    const SurveyedRegion named = surveyRegion(recipe);
+    EXPECT_TRUE(QRect(QPoint(), recipe.size).contains(named.title));
+    const Ground ground = groundOf(named);
+    for (int y = named.title.top(); y <= named.title.bottom(); y += 6)
+        for (int x = named.title.left(); x <= named.title.right(); x += 6)
+            EXPECT_FALSE(ground.land({x, y})) << x << ' ' << y;
+    recipe.title.clear();
+    EXPECT_TRUE(surveyRegion(recipe).title.isEmpty());
 }
 
 TEST(Painter, TellsSkillsAndAnimalsApart) {

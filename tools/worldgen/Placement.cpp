@@ -243,8 +243,10 @@ RegionRecipe recipeFor(const WorldSource& source, const SourceRegion& region) {
 }
 
 Ground groundOf(const SurveyedRegion& survey) {
-    return {survey.sites, [&survey](QPoint place) {
-                return survey.land(place) && survey.distanceToWater(place) > markerHalf &&
+    const QRect title = survey.title.adjusted(-markerSpacing, -markerSpacing, markerSpacing, markerSpacing);
+    return {survey.sites, [&survey, title](QPoint place) {
+                return survey.land(place) && !title.contains(place) &&
+                       survey.distanceToWater(place) > markerHalf &&
                        survey.distanceToRiver(place) > markerHalf;
             }};
 }

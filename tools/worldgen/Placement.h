@@ -65,7 +65,8 @@ struct Ground {
     std::function<bool(QPoint)> land;
 };
 
-// Markers stand with their feet dry all around. `survey` must live as long.
+// Markers stand with their feet dry all around, and off the region's written name. `survey` must live as
+// long.
 Ground groundOf(const SurveyedRegion& survey);
 
 // Fills in all places that lie in `region`, and no others, so that regions may be done side by side.

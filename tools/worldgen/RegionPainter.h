@@ -76,6 +76,9 @@ struct SurveyedRegion {
     // from the border as long as the land has room; a region asked for more sites than fit gets them closer.
     std::vector<QPoint> sites;
 
+    // What the region's name covers; empty where the recipe has none.
+    QRect title;
+
     // Height, water and woods behind the picture. Never null in what surveyRegion returns.
     std::shared_ptr<const Landscape> landscape;
 

@@ -47,24 +47,10 @@ int landUnder(const Landscape& land, const QRect& box) {
     return count;
 }
 
-QRect titleBox(const Landscape& land, const std::vector<QPoint>& sites, QSize size) {
-    constexpr int margin = 44;
-    const int width = land.size.width();
-    const int height = land.size.height();
-    QRect best;
-    int fewest = -1;
-    for (const int y : {margin, height - margin - size.height()})
-        for (const int x : {margin, (width - size.width()) / 2, width - margin - size.width()}) {
-            const QRect box(QPoint(x, y), size);
-            int covered = landUnder(land, box);
-            for (const QPoint& site : sites)
-                covered += box.adjusted(-70, -50, 70, 50).contains(site) ? 2000 : 0;
-            if (fewest < 0 || covered < fewest) {
-                fewest = covered;
-                best = box;
-            }
-        }
-    return best;
+QPainterPath titleLetters(const QString& title) {
+    QPainterPath letters;
+    letters.addText(0, 0, titleFace(58), title);
+    return letters;
 }
 
 void paintNeedle(QPainter& painter, double length, double breadth) {
@@ -146,14 +132,30 @@ void paintFrame(QImage& picture) {
     }
 }
 
-QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoint>& sites,
-                 const QString& title) {
-    if (title.isEmpty())
-        return {};
-    QPainterPath letters;
-    letters.addText(0, 0, titleFace(58), title);
+QRect titleBox(const Landscape& land, const std::vector<QPoint>& sites, const QString& title) {
+    constexpr int margin = 44;
+    const QSize size = titleLetters(title).boundingRect().size().toSize();
+    const int width = land.size.width();
+    const int height = land.size.height();
+    QRect best;
+    int fewest = -1;
+    for (const int y : {margin, height - margin - size.height()})
+        for (const int x : {margin, (width - size.width()) / 2, width - margin - size.width()}) {
+            const QRect box(QPoint(x, y), size);
+            int covered = landUnder(land, box);
+            for (const QPoint& site : sites)
+                covered += box.adjusted(-70, -50, 70, 50).contains(site) ? 2000 : 0;
+            if (fewest < 0 || covered < fewest) {
+                fewest = covered;
+                best = box;
+            }
+        }
+    return title.isEmpty() ? QRect() : best;
+}
+
+void paintTitle(QImage& picture, const QRect& box, const QString& title) {
+    QPainterPath letters = titleLetters(title);
     const QRectF bounds = letters.boundingRect();
-    const QRect box = titleBox(land, sites, bounds.size().toSize());
     letters.translate(box.left() - bounds.left(), box.top() - bounds.top());
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -165,7 +167,6 @@ QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoin
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(226, 200, 140));
     painter.drawPath(letters);
-    return box;
 }
 
 QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {

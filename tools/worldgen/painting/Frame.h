@@ -9,9 +9,9 @@ namespace worldgen {
 // Grain of the canvas, darker corners, a frayed dark edge.
 void agePicture(QImage& picture, const Landscape& land);
 void paintFrame(QImage& picture);
-// In a chancery face, where it covers the fewest sites and the least land. Returns the ground it covers.
-QRect paintTitle(QImage& picture, const Landscape& land, const std::vector<QPoint>& sites,
-                 const QString& title);
+// Where a title in a chancery face covers the fewest sites and the least land; empty without a title.
+QRect titleBox(const Landscape& land, const std::vector<QPoint>& sites, const QString& title);
+void paintTitle(QImage& picture, const QRect& box, const QString& title);
 // A compass in the widest open water, clear of `taken`; none where there is no room. Returns its box.
 QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
 

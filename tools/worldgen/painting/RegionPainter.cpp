@@ -75,6 +75,7 @@ SurveyedRegion surveyRegion(const RegionRecipe& recipe) {
         else if (near == SiteNear::Open)
             land->plant(result.sites[k], 170, -0.6);
     }
+    result.title = titleBox(*land, result.sites, recipe.title);
     result.landscape = land;
     return result;
 }
@@ -108,9 +109,9 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
     for (std::size_t k = 0; k < survey.sites.size(); ++k)
         shadeName(picture, nameBox(survey.sites[k], recipe.sites[k], recipe.campaign), recipe.sites[k].name);
     paintFrame(picture);
-    const QRect title = paintTitle(picture, land, survey.sites, recipe.title);
-    const QRect rose = paintCompass(picture, land, title);
-    paintSeafarers(picture, land, recipe.campaign, {title, rose});
+    paintTitle(picture, survey.title, recipe.title);
+    const QRect rose = paintCompass(picture, land, survey.title);
+    paintSeafarers(picture, land, recipe.campaign, {survey.title, rose});
     return picture;
 }
 
