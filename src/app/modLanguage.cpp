@@ -17,7 +17,7 @@ bool LoadLanguage(World& state, const Disk& disk, Complaints* complaints) {
         if (!file.hasFields(2))
             continue;
         if (const auto index = file.integer(0, "number", 0, largestIdentifier))
-            state.LanguageTable.grow(*index) = withLineBreaks(file.field(1));
+            state.LanguageTable.grow(*index) = withLineBreaks(file.text(1));
     }
     return true;
 }

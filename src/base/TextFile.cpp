@@ -11,14 +11,16 @@ constexpr size_t mostFields = 255;
 
 } // namespace
 
-TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints)
+TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints, FileTexts* kept)
     : path_(std::move(path)), complaints_(complaints), source_(disk.read(path_)),
-      wholeText_(isWholeText(source_.bytes)) {
+      wholeText_(isWholeText(source_.bytes)), kept_(kept != nullptr) {
     if (source_.outcome == ReadResult::Outcome::Failed && complaints_)
         complaints_->add({path_, 0, {}, source_.reason});
     if (!wholeText_ && complaints_)
         complaints_->add({path_, 0, u"text"_s, u"marked as UTF-8, but not all of its bytes are"_s});
     text_ = decodeText(source_.bytes);
+    if (kept)
+        kept->push_back(text_);
 }
 
 bool TextFile::nextLine() {
@@ -75,6 +77,12 @@ bool TextFile::hasFields(size_t fewest) {
     if (!line_.trimmed().isEmpty())
         skip({}, u"%1 fields instead of %2"_s.arg(fields_.size()).arg(fewest));
     return false;
+}
+
+QString TextFile::rest(size_t position) const {
+    if (position >= fields_.size())
+        return {};
+    return text(QStringView(fields_[position].begin() - 1, fields_.back().end()));
 }
 
 std::optional<int> TextFile::integer(size_t position, const char* name, int lowest, int highest) {

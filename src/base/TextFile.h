@@ -6,10 +6,9 @@
 
 #include <QString>
 
-#include <algorithm>
 #include <initializer_list>
 #include <limits>
-#include <span>
+#include <vector>
 
 namespace orvinel {
 
@@ -17,11 +16,17 @@ namespace orvinel {
 // show it.
 inline constexpr qsizetype longestLine = 100'000;
 
+// Files as they were read, of which the texts of a table are parts: an object for each text would take twice
+// its memory and most of the time of a start. To be kept as long as the table and every copy of one of its
+// texts.
+using FileTexts = std::vector<QString>;
+
 // A data file read whole and walked line by line. Lines end with CR LF, LF or CR; the last one needs no end.
 // A missing, empty, unreadable or oversized file has no lines.
 class TextFile {
   public:
-    TextFile(const Disk& disk, QString path, Complaints* complaints = nullptr);
+    // With `kept` its texts are parts of what is kept there, else objects of their own.
+    TextFile(const Disk& disk, QString path, Complaints* complaints = nullptr, FileTexts* kept = nullptr);
     TextFile(const TextFile&) = delete;
     TextFile& operator=(const TextFile&) = delete;
 
@@ -51,11 +56,13 @@ class TextFile {
     QStringView field(size_t position) const {
         return position < fields_.size() ? fields_[position] : QStringView();
     }
-    // The fields from a position on; none beyond the last one. Valid while the line is.
-    std::span<const QStringView> fieldsFrom(size_t position) const {
-        return std::span(fields_).subspan(std::min(position, fields_.size()));
+    QString text(size_t position) const { return text(field(position)); }
+    // Of a part of the current line.
+    QString text(QStringView part) const {
+        return kept_ ? QString::fromRawData(part.data(), part.size()) : part.toString();
     }
-    QString text(size_t position) const { return field(position).toString(); }
+    // The fields from a position on, 1 or higher, each with the TAB before it; empty beyond the last one.
+    QString rest(size_t position) const;
 
     // The field's leading number, rounded; nothing, with a complaint that calls it `name`, when out of range.
     // Only the first fault of a line is told, so that all of its fields can be read before one looks.
@@ -77,6 +84,7 @@ class TextFile {
     Complaints* complaints_;
     ReadResult source_;
     bool wholeText_;
+    bool kept_;
     QString text_;
     qsizetype next_ = 0;
     QStringView line_;

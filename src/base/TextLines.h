@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <span>
 #include <vector>
 
 namespace orvinel {
@@ -11,36 +10,37 @@ namespace orvinel {
 class TextLines {
   public:
     TextLines() = default;
-    // No line holds a line feed.
+    // No line holds a TAB.
     TextLines(const std::vector<QString>& lines) {
         for (const QString& line : lines)
-            text_ += line + u'\n';
+            text_ += u'\t' + line;
         text_.squeeze();
     }
-    TextLines(std::span<const QStringView> lines) {
-        qsizetype length = 0;
-        for (const QStringView line : lines)
-            length += line.size() + 1;
-        text_.reserve(length);
-        for (const QStringView line : lines)
-            text_.append(line).append(u'\n');
-    }
+    // Each line of `text` has a TAB before it.
+    explicit TextLines(QString text) : text_(std::move(text)) {}
+
     operator std::vector<QString>() const {
         std::vector<QString> lines;
-        for (qsizetype from = 0; from < text_.size();) {
-            const qsizetype end = text_.indexOf(u'\n', from);
-            lines.push_back(text_.sliced(from, end - from));
-            from = end + 1;
-        }
+        forEach([&](QStringView line) { lines.push_back(line.toString()); });
         return lines;
     }
+    // The lines are parts of this object.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        for (qsizetype from = 1; from <= text_.size();) {
+            const qsizetype tab = text_.indexOf(u'\t', from);
+            const qsizetype end = tab < 0 ? text_.size() : tab;
+            visit(QStringView(text_).sliced(from, end - from));
+            from = end + 1;
+        }
+    }
     bool empty() const { return text_.isEmpty(); }
-    size_t size() const { return static_cast<size_t>(text_.count(u'\n')); }
+    size_t size() const { return static_cast<size_t>(text_.count(u'\t')); }
 
     bool operator==(const TextLines&) const = default;
 
   private:
-    QString text_; // each line ended by a line feed
+    QString text_; // each line after a TAB
 };
 
 } // namespace orvinel

@@ -259,10 +259,10 @@ void appendFolded(std::string& all, QStringView text) {
         all.replace(before, length, foldedUnicode(text));
 }
 
-QString withLineBreaks(QStringView text) {
-    if (!text.contains(u'\\'))
-        return text.toString();
-    return text.toString().replace(QLatin1String("\\n"), QLatin1String("\r\n"));
+QString withLineBreaks(QString text) {
+    if (text.contains(u'\\'))
+        text.replace(QLatin1String("\\n"), QLatin1String("\r\n"));
+    return text;
 }
 
 QString oneLine(QString text) {

@@ -44,7 +44,7 @@ std::string folded(QStringView text);
 void appendFolded(std::string& all, QStringView text);
 
 // "\n" written as backslash and n becomes CR LF.
-QString withLineBreaks(QStringView text);
+QString withLineBreaks(QString text);
 
 // A text typed or pasted into a one-line field: TAB and every kind of line break become blanks.
 QString oneLine(QString text);

@@ -14,19 +14,20 @@ void Collector::setRequest(const QString& text) {
     FoldedRequest = folded(text);
 }
 
-void Collector::addObject(QStringView name, int handMask, std::span<const QStringView> stats) {
+void Collector::addObject(const QString& name, int handMask, const TextLines& stats) {
     const auto end = [this] { return static_cast<int>(FoldedObjects.size()); };
     const auto fold = [this](QStringView text) {
         appendFolded(FoldedObjects, text);
         FoldedObjects += textEnd;
     };
-    Objects.push_back({name.toString(), handMask, TextLines(stats), end(), 0, 0});
+    Objects.push_back({name, handMask, stats, end(), 0, 0});
     CollectorObject& object = Objects.back();
     fold(name);
     object.FoldedStats = end();
-    for (const QStringView line : stats)
+    stats.forEach([&](QStringView line) {
         if (!line.trimmed().isEmpty())
             fold(line);
+    });
     object.FoldedEnd = end();
 }
 

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <span>
 #include <string>
 #include <vector>
 
@@ -36,7 +35,7 @@ struct Collector {
     std::string FoldedObjects; // names and stat lines that are not blank, each ended by 0xFF
 
     void setRequest(const QString& text);
-    void addObject(QStringView name, int handMask, std::span<const QStringView> stats);
+    void addObject(const QString& name, int handMask, const TextLines& stats);
 
     bool operator==(const Collector&) const = default;
 };

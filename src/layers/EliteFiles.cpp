@@ -52,7 +52,7 @@ void readSkill(Content& state, TextFile& file, int campaign, const QString& pict
     EliteSkill& skill = state.EliteSkills.grow(*id);
     skill.Campaign = campaign;
     skill.Profession = *profession;
-    skill.setName(file.text(2).trimmed());
+    skill.setName(file.text(file.field(2).trimmed()));
     skill.Picture.clear();
     if (!full)
         return;
@@ -80,8 +80,9 @@ void sortSkills(Content& state) {
 // Coordinates are twips until a comment names another version than 1.0.
 class LocationFile {
   public:
-    LocationFile(const Content& state, const Disk& disk, int campaign, Complaints* complaints)
-        : file_(disk, campaignFolder(state, campaign) + u"/EliteLocations.txt"_s, complaints),
+    LocationFile(Content& state, const Disk& disk, int campaign, Complaints* complaints)
+        : file_(disk, campaignFolder(state, campaign) + u"/EliteLocations.txt"_s, complaints,
+                &state.EliteTexts),
           campaign_(campaign) {}
 
     // Calls store(skill, location) for every line that can be used.
@@ -129,7 +130,7 @@ class LocationFile {
         location.setBoss(file_.text(4));
         location.MarkerCode = file_.text(5);
         if (file_.fieldCount() == locationLineWithNote)
-            location.Note = withLineBreaks(file_.field(7));
+            location.Note = withLineBreaks(file_.text(7));
         return location;
     }
 
@@ -143,10 +144,11 @@ class LocationFile {
 
 void LoadEliteSkills(Content& state, const Disk& disk, Complaints* complaints) {
     state.EliteSkills.reset();
+    state.EliteTexts.clear();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
         const QString folder = campaignFolder(state, n);
         const QString pictures = folder + u"/imgElite/"_s;
-        TextFile file(disk, folder + u"/EliteList.txt"_s, complaints);
+        TextFile file(disk, folder + u"/EliteList.txt"_s, complaints, &state.EliteTexts);
         while (file.nextRecord())
             if (file.hasFields(3))
                 readSkill(state, file, n, pictures);

@@ -59,10 +59,10 @@ class CollectorReader {
         collector.Level = *level;
         if (!file_.nextLine())
             return complainOfEnd();
-        collector.LocationText = file_.line().toString();
+        collector.LocationText = file_.text(file_.line());
         if (!file_.nextLine())
             return complainOfEnd();
-        collector.setRequest(file_.line().toString());
+        collector.setRequest(file_.text(file_.line()));
         addRequestType(collector);
         readObjects(collector);
         state_.Collectors.grow(*id) = std::move(collector);
@@ -87,7 +87,7 @@ class CollectorReader {
             }
             // Without a name there would be nothing to choose in a list; without rewards it is in none.
             if (!collector.Name.isEmpty())
-                collector.addObject(file_.field(0), *mask, file_.fieldsFrom(2));
+                collector.addObject(file_.text(0), *mask, TextLines(file_.rest(2)));
         }
     }
 
@@ -220,10 +220,12 @@ QString statsText(const std::vector<QString>& stats) {
 // no pass that makes them so after loading.
 void LoadCollectors(Content& state, const Disk& disk, Complaints* complaints) {
     state.Collectors.reset();
+    state.CollectorTexts.clear();
     state.RequestTypes.clear();
     RequestTypeSet requestTypes;
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
-        TextFile file(disk, campaignFolder(state, n) + u"/Collectors.txt"_s, complaints);
+        TextFile file(disk, campaignFolder(state, n) + u"/Collectors.txt"_s, complaints,
+                      &state.CollectorTexts);
         CollectorReader(state, file, requestTypes).readAll();
     }
     state.CollectorOrder = orderByName(state.Collectors);

@@ -34,9 +34,9 @@ void readGreens(Content& state, TextFile& file) {
         }
         std::vector<QString> stats;
         for (size_t i = 2; i < file.fieldCount(); ++i)
-            stats.push_back(file.text(i).trimmed());
+            stats.push_back(file.field(i).trimmed().toString());
         GreenItem item;
-        item.setTexts(file.text(0).trimmed(), file.text(1).trimmed(), stats);
+        item.setTexts(file.text(file.field(0).trimmed()), file.text(file.field(1).trimmed()), stats);
         ofBoss.push_back(state.GreenItems.append(std::move(item)));
     }
 }
@@ -68,9 +68,10 @@ struct Search {
 
 void LoadGreens(Content& state, const Disk& disk, Complaints* complaints) {
     state.GreenItems.clear();
+    state.GreenTexts.clear();
     state.GreensOfBosses.clear();
     for (int n = 0; n <= state.Campaigns.highest(); ++n) {
-        TextFile file(disk, campaignFolder(state, n) + u"/Greens.txt"_s, complaints);
+        TextFile file(disk, campaignFolder(state, n) + u"/Greens.txt"_s, complaints, &state.GreenTexts);
         readGreens(state, file);
     }
     std::vector<QString> names;

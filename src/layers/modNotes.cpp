@@ -23,7 +23,10 @@ std::optional<Note> readNote(TextFile& file) {
     if (!x || !y || !campaign || !region)
         return std::nullopt;
     Note note;
-    note.setTexts(file.field(0).trimmed().toString(), file.text(1).replace(writtenLineBreak, lineBreak));
+    QString body = file.text(1);
+    if (body.contains(writtenLineBreak))
+        body.replace(writtenLineBreak, lineBreak);
+    note.setTexts(file.text(file.field(0).trimmed()), body);
     note.At.Campaign = *campaign;
     note.At.Region = *region;
     note.At.placeAt(*x, *y, treasureReach);
@@ -107,7 +110,8 @@ constexpr auto eachPlace = [](const Note& note, const auto& visit) { visit(0, no
 
 void LoadNotes(Content& state, PlayerFiles& files, Complaints* complaints) {
     state.Notes.clear();
-    TextFile file(files.source(), notesPath(state), complaints);
+    state.NoteTexts.clear();
+    TextFile file(files.source(), notesPath(state), complaints, &state.NoteTexts);
     while (file.nextLine())
         readLine(state, file);
     files.loaded(notesPath(state), file);

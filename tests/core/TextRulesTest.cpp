@@ -134,8 +134,9 @@ TEST(TextFile, cutsLinesAndFieldsAsThePlainWayDoes) {
         while (file.nextLine()) {
             lines << file.line().toString();
             QStringList fields;
-            for (const QStringView field : file.fieldsFrom(0))
-                fields << field.toString();
+            for (size_t i = 0; i < file.fieldCount(); ++i)
+                fields << file.text(i);
+            EXPECT_EQ(fields.mid(1), file.rest(1).split(u'\t').mid(1));
             EXPECT_EQ(lines.back().split(u'\t'), fields);
         }
         const QString text = QString::fromLatin1(bytes).replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
