@@ -9,6 +9,17 @@ namespace {
 // A field takes far more memory than its TAB: no line of the program needs a tenth of these.
 constexpr size_t mostFields = 255;
 
+// Where a TAB, a line end or the text's end is. Fields are short, and no other character of a text is as
+// small; the 0 behind the text stops the search too.
+const QChar* endOfField(const QChar* at, const QChar* end) {
+    for (;; ++at) {
+        while (*at > u'\r')
+            ++at;
+        if (at == end || *at == u'\t' || *at == u'\n' || *at == u'\r')
+            return at;
+    }
+}
+
 } // namespace
 
 TextFile::TextFile(const Disk& disk, QString path, Complaints* complaints, FileTexts* kept)
@@ -32,30 +43,21 @@ bool TextFile::nextLine() {
     return false;
 }
 
-// Line ends and TABs are looked for in one go: fields are short, and no other character of a text is as
-// small.
+// Line ends and TABs are looked for in one go.
 bool TextFile::cutLine() {
     if (next_ >= text_.size())
         return false;
     fields_.clear();
     const QChar* const begin = text_.constData() + next_;
     const QChar* const end = text_.constData() + text_.size();
-    const QChar* field = begin;
     const QChar* at = begin;
-    const auto endField = [&] {
+    for (const QChar* field = begin;; field = ++at) {
+        at = endOfField(field, end);
         if (fields_.size() < mostFields)
-            fields_.emplace_back(field, at - field);
-        field = at + 1;
-    };
-    for (;; ++at) {
-        while (*at > u'\r') // the 0 behind the text stops it too
-            ++at;
-        if (at == end || *at == u'\n' || *at == u'\r')
+            fields_.push_back(QStringView(field, at));
+        if (at == end || *at != u'\t')
             break;
-        if (*at == u'\t')
-            endField();
     }
-    endField();
     line_ = QStringView(begin, at);
     next_ += at - begin + 1;
     if (end - at > 1 && at[0] == u'\r' && at[1] == u'\n')
