@@ -65,6 +65,7 @@ class List1 {
         return count();
     }
     void clear() { elements_.clear(); }
+    void reserve(size_t count) { elements_.reserve(count); }
 
     auto begin() { return elements_.begin(); }
     auto end() { return elements_.end(); }

@@ -20,7 +20,7 @@ constexpr std::array<char16_t, 32> upperControls = {
 
 const QByteArray utf8Mark = QByteArrayLiteral("\xEF\xBB\xBF");
 
-bool isBlank(QChar c) {
+bool isNumberBlank(QChar c) {
     return c == u' ' || c == u'\t';
 }
 
@@ -65,7 +65,7 @@ struct NumberPrefix {
 NumberPrefix numberPrefix(QStringView text) {
     NumberPrefix result;
     qsizetype i = 0;
-    while (i < text.size() && isBlank(text[i]))
+    while (i < text.size() && isNumberBlank(text[i]))
         ++i;
     std::string ascii;
     if (i < text.size() && (text[i] == u'-' || text[i] == u'+')) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -45,6 +46,11 @@ void appendFolded(std::string& all, QStringView text);
 
 // "\n" written as backslash and n becomes CR LF.
 QString withLineBreaks(QString text);
+
+// Whether there is nothing to be seen: no character, or blanks alone.
+inline bool isBlank(QStringView text) {
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
 
 // A text typed or pasted into a one-line field: TAB and every kind of line break become blanks.
 QString oneLine(QString text);

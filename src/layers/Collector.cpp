@@ -25,7 +25,7 @@ void Collector::addObject(const QString& name, int handMask, const TextLines& st
     fold(name);
     object.FoldedStats = end();
     stats.forEach([&](QStringView line) {
-        if (!line.trimmed().isEmpty())
+        if (!isBlank(line))
             fold(line);
     });
     object.FoldedEnd = end();

@@ -4,6 +4,12 @@
 
 namespace orvinel {
 
+namespace {
+
+constexpr size_t usualLocations = 4; // no growing in steps for most skills
+
+} // namespace
+
 void EliteSkill::setName(const QString& name) {
     Name = name;
     FoldedName = folded(name);
@@ -15,7 +21,9 @@ void EliteSkill::setAttribute(const QString& attribute) {
     FoldedAttribute = folded(attribute);
 }
 
-int EliteSkill::addLocation(MapLocation location) {
+int EliteSkill::addLocation(MapLocation&& location) {
+    if (Locations.empty())
+        Locations.reserve(usualLocations);
     FoldedBosses += location.FoldedBoss;
     FoldedBosses += '\n';
     return Locations.append(std::move(location));

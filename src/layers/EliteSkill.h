@@ -34,7 +34,7 @@ struct EliteSkill {
     void setName(const QString& name);
     void setAttribute(const QString& attribute);
     // Returns the location's index.
-    int addLocation(MapLocation location);
+    int addLocation(MapLocation&& location);
     // Also for characters that the skill knows nothing of.
     bool capturedBy(int character) const {
         const auto c = static_cast<size_t>(character);

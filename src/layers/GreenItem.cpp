@@ -4,7 +4,7 @@
 
 namespace orvinel {
 
-void GreenItem::setTexts(const QString& name, const QString& boss, const std::vector<QString>& stats) {
+void GreenItem::setTexts(const QString& name, const QString& boss, const TextLines& stats) {
     Name = name;
     Boss = boss;
     Stats = {};
@@ -13,12 +13,12 @@ void GreenItem::setTexts(const QString& name, const QString& boss, const std::ve
     if (name.isEmpty())
         return;
     Stats = stats;
-    for (const QString& line : stats) {
-        if (QStringView(line).trimmed().isEmpty())
-            continue;
+    stats.forEach([this](QStringView line) {
+        if (isBlank(line))
+            return;
         appendFolded(FoldedStats, line);
         FoldedStats += '\n';
-    }
+    });
 }
 
 } // namespace orvinel

@@ -21,7 +21,7 @@ struct GreenItem {
     std::string FoldedStats; // the lines that are not blank, each ended by '\n'
 
     // An item without a name has no stat lines.
-    void setTexts(const QString& name, const QString& boss, const std::vector<QString>& stats);
+    void setTexts(const QString& name, const QString& boss, const TextLines& stats);
 
     bool operator==(const GreenItem&) const = default;
 };

@@ -34,7 +34,7 @@ class CollectorReader {
 
     void readAll() {
         while (file_.nextRecord()) {
-            if (file_.line().trimmed().isEmpty())
+            if (isBlank(file_.line()))
                 continue;
             if (!readBlock())
                 passOverBlock();
@@ -76,7 +76,7 @@ class CollectorReader {
 
     void readObjects(Collector& collector) {
         while (file_.nextLine() && !file_.line().isEmpty()) {
-            if (file_.line().trimmed().isEmpty() || !file_.hasFields(2))
+            if (isBlank(file_.line()) || !file_.hasFields(2))
                 continue;
             const auto mask = file_.integer(1, "hand mask", -32768, 32767);
             if (!mask)

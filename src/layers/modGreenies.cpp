@@ -18,6 +18,16 @@ constexpr int barHeight = 3;
 // Every location of a boss lists its items: without a bound two long files would multiply each other.
 constexpr size_t mostItemsOfBoss = 128;
 
+// The fields from a position on. They are the file's own unless there is something to trim.
+TextLines trimmedLines(const TextFile& file, size_t position) {
+    QString rest = file.rest(position);
+    QString trimmed;
+    trimmed.reserve(rest.size());
+    for (size_t i = position; i < file.fieldCount(); ++i)
+        trimmed.append(u'\t').append(file.field(i).trimmed());
+    return TextLines(trimmed.size() == rest.size() ? rest : trimmed);
+}
+
 void readGreens(Content& state, TextFile& file) {
     while (file.nextLine()) {
         const QStringView line = file.line().trimmed();
@@ -32,11 +42,9 @@ void readGreens(Content& state, TextFile& file) {
             file.skip(u"boss"_s, u"more than %1 items of one boss"_s.arg(mostItemsOfBoss));
             continue;
         }
-        std::vector<QString> stats;
-        for (size_t i = 2; i < file.fieldCount(); ++i)
-            stats.push_back(file.field(i).trimmed().toString());
         GreenItem item;
-        item.setTexts(file.text(file.field(0).trimmed()), file.text(file.field(1).trimmed()), stats);
+        item.setTexts(file.text(file.field(0).trimmed()), file.text(file.field(1).trimmed()),
+                      trimmedLines(file, 2));
         ofBoss.push_back(state.GreenItems.append(std::move(item)));
     }
 }

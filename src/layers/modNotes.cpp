@@ -24,7 +24,7 @@ std::optional<Note> readNote(TextFile& file) {
         return std::nullopt;
     Note note;
     QString body = file.text(1);
-    if (body.contains(writtenLineBreak))
+    if (body.contains(QLatin1Char(writtenLineBreak.front())))
         body.replace(writtenLineBreak, lineBreak);
     note.setTexts(file.text(file.field(0).trimmed()), body);
     note.At.Campaign = *campaign;
