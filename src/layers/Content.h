@@ -14,11 +14,12 @@
 
 namespace orvinel {
 
-// The world with what is to be found in it. Filled by the loaders; notes are changed by their dialog too.
+// The world with what is to be found in it. Skills, collectors and items stay in the object that loaded them:
+// only notes, whose texts are their own, may move to another. Filled by the loaders; notes are changed by
+// their dialog too.
 struct Content : World {
     IndexedTable<Collector> Collectors;
-    FileTexts
-        CollectorTexts; // kept by the loader; so are those of skills (and their bosses), items and notes
+    FileTexts CollectorTexts;        // what their texts are parts of; so for skills and items below
     List1<RequestType> RequestTypes; // in order of first appearance
     std::vector<int> CollectorOrder; // IDs of the collectors from 1 up, by name; kept by the loader
     IndexedTable<EliteSkill> EliteSkills;
@@ -29,7 +30,6 @@ struct Content : World {
     std::vector<int> GreenOrder; // indexes of GreenItems, by name; kept by the loader
     GreensByBoss GreensOfBosses; // kept by the loader
     List1<Note> Notes;
-    FileTexts NoteTexts;
     std::vector<int> NoteOrder; // indexes of Notes, by title; kept by whoever changes the notes
     List1<Treasure> Treasures;
     IndexedTable<Pet> Pets;

@@ -110,8 +110,7 @@ constexpr auto eachPlace = [](const Note& note, const auto& visit) { visit(0, no
 
 void LoadNotes(Content& state, PlayerFiles& files, Complaints* complaints) {
     state.Notes.clear();
-    state.NoteTexts.clear();
-    TextFile file(files.source(), notesPath(state), complaints, &state.NoteTexts);
+    TextFile file(files.source(), notesPath(state), complaints);
     while (file.nextLine())
         readLine(state, file);
     files.loaded(notesPath(state), file);
