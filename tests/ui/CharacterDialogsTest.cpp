@@ -6,6 +6,7 @@
 #include "ui/dialogs/frmMarkEliteAsCaptured.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTimer>
 
 namespace orvinel {
@@ -50,6 +51,18 @@ TEST_F(MarkElite, savesRefiltersAndCloses) {
     EXPECT_EQ(bytes("0003\r\n0005\r\n"), saved("Char01CapElite.txt"));
     EXPECT_EQ(1, refilters);
     EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(MarkElite, mayBeGoneBeforeTheListIsFilled) {
+    QPointer<frmMarkEliteAsCaptured> other;
+    other = new frmMarkEliteAsCaptured(
+        context(), [&] { delete other; }, &dialog);
+    other->setCharacter(1);
+    other->SetEliteNumber(5);
+    other->show();
+    button(*other, "cmdSave").click();
+    EXPECT_FALSE(other);
+    EXPECT_TRUE(state.EliteSkills[5].capturedBy(1));
 }
 
 TEST_F(MarkElite, staysOpenWithItsSelectionWhenTheFileCannotBeWritten) {

@@ -6,6 +6,7 @@
 #include "ui/platform/Label.h"
 #include "ui/platform/ListBox.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -85,8 +86,13 @@ void frmMarkEliteAsCaptured::save() {
     };
     if (!saveAndTell(state(), desktop(), capture))
         return;
-    refilter_();
-    accept();
+    // A screen reader's press of another button is handled while the list is filled, and may close the
+    // dialog.
+    const QPointer<frmMarkEliteAsCaptured> open(this);
+    const auto refilter = refilter_;
+    refilter();
+    if (open)
+        accept();
 }
 
 } // namespace orvinel
