@@ -77,6 +77,12 @@ class Nested(Running):
             return None
         return found
 
+    def settled(self):
+        """Where it still is a moment later: the session may move what it has just shown."""
+        found = self.beside()
+        time.sleep(0.4)
+        return found if found and found == self.beside() else None
+
     def main_windows(self):
         with mock.patch.dict(os.environ, DISPLAY=self.display):
             return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
@@ -91,7 +97,7 @@ def beside(folder, display):
         with Nested(folder, display) as player:
             if display:
                 until("one window", lambda: len(player.main_windows()) == 1)
-            x, y = until("the map beside the panel", player.beside)
+            x, y = until("the map beside the panel", player.settled)
             below = (x + 88, y + 218)  # the page of bosses, where the menu is going to be
             page = colour(*below)
             for wanted in (True, False) * (display is None):  # through Xwayland weston tells no window its place
