@@ -53,7 +53,7 @@ def faults(folder):
     for path in set(pages) - reached:
         yield f"{path.relative_to(folder)}: no page leads there"
     for language in "de", "it":
-        for name in "start", "guide", "data-formats", "translating":
+        for name in "start", "guide", "data-formats", "translating", "make-a-campaign":
             yield from translated(folder, pages, language, name)
 
 
