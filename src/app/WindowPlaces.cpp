@@ -97,14 +97,14 @@ void WindowPlaces::settle() {
         return;
     const QRect panel = shownPlace(windows_.panel);
     const QRect map = shownPlace(windows_.map);
-    if (refused(panel.width())) {
+    if (refused(panel)) {
         leavePair();
         return unplaceable();
     }
     const QPoint beside(panel.width(), 0);
     if (map.topLeft() == panel.topLeft() + beside) {
         asked_.reset();
-        wereBeside_ = wereBeside_ || apart_ == 0;
+        wereBeside_ = wereBeside_ || (apart_ == 0 && tiled_ == 0);
         return;
     }
     const QPoint to(std::min(panel.left(), map.left() - panel.width()), std::min(panel.top(), map.top()));
@@ -119,17 +119,21 @@ void WindowPlaces::settle() {
     settling_.start();
 }
 
-bool WindowPlaces::refused(int panelShown) {
-    tiled_ = isTiled(panelShown, panelWidth()) ? tiled_ + 1 : 0;
-    if (tiled_ == tiledLooks || wereBeside_)
-        return tiled_ == tiledLooks;
+bool WindowPlaces::refused(const QRect& panelShown) {
     const WindowPair now{placeOnServer(windows_.panel), placeOnServer(windows_.map)};
+    // Some that tile keep quiet about a move that they refuse; then the window is thought to have moved.
+    const int width = qRound(now.panel.width() / windows_.panel.devicePixelRatio());
+    tiled_ = isTiled(width, panelWidth()) || isTiled(panelShown.width(), panelWidth()) ? tiled_ + 1 : 0;
+    if (tiled_ > 0)
+        settling_.start();
+    if (tiled_ > 0 || wereBeside_)
+        return tiled_ == tiledLooks;
     // No window manager refuses what lies wholly within its work area.
     const QRect area = desktop_.workArea();
     WindowPair pair = wanted();
     if (asked_) {
         pair.panel.moveTopLeft(*asked_);
-        pair.map.moveTopLeft(*asked_ + QPoint(panelShown, 0));
+        pair.map.moveTopLeft(*asked_ + QPoint(panelShown.width(), 0));
     }
     const bool granted = area.contains(pair.panel) && area.contains(pair.map);
     apart_ = granted && isLeftApart(before_.value_or(now), now) ? apart_ + 1 : 0;

@@ -6,10 +6,15 @@ import subprocess
 import time
 
 LIMIT = 10  # seconds until something that does not come counts as missing
+ACTING = {"mousemove", "mousedown", "mouseup", "click", "key", "type"}  # what a player's hands do
 
 
-def run(*command):
-    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+def run(*command, **how):
+    """Asks and acts. In a nested session ORVINEL_NESTED_DISPLAY knows the windows, the display around it has mouse and keys."""
+    environment = os.environ
+    if "ORVINEL_NESTED_DISPLAY" in environment and not ACTING & set(command[1:2]):
+        environment = {**environment, "DISPLAY": environment["ORVINEL_NESTED_DISPLAY"]}
+    return subprocess.run(command, **{"check": True, **how}, capture_output=True, text=True, env=environment).stdout
 
 
 def until(what, look, limit=None):
@@ -85,9 +90,7 @@ class Window:
 def windows(pid):
     """The program's windows on the screen."""
     found = []
-    search = subprocess.run(["xdotool", "search", "--all", "--onlyvisible", "--pid", str(pid), "--name", ""],
-                            capture_output=True, text=True)
-    for number in search.stdout.split():
+    for number in run("xdotool", "search", "--all", "--onlyvisible", "--pid", str(pid), "--name", "", check=False).split():
         try:
             info = run("xwininfo", "-id", number)
         except subprocess.CalledProcessError:
@@ -101,8 +104,7 @@ def windows(pid):
 
 
 def has_focus(window):
-    focus = subprocess.run(["xdotool", "getwindowfocus", "-f"], capture_output=True, text=True).stdout.strip()
-    return focus == str(window.number)
+    return run("xdotool", "getwindowfocus", "-f", check=False).strip() == str(window.number)
 
 
 class Running:

@@ -1,71 +1,143 @@
 #!/usr/bin/env python3
-"""wayland.py PROGRAM: the program in a nested Wayland session that places windows as it likes: through Xwayland, and with
-Qt's Wayland plugin alone.
+"""wayland.py PROGRAM: the program in nested Wayland sessions, through Xwayland and with Qt's Wayland plugin alone: in those that
+place windows as they like, and in one that lets them be placed.
 
 Exit code 77: a tool is missing here.
 """
 
+import contextlib
 import glob
 import os
+import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
+import tempfile
 import time
 from unittest import mock
 
 import journeys
-from screen import Running, click, colour, near, pixels, run, until, windows
+import windows as placed
+from managed import steady
+from screen import Running, click, colour, hover, keys, near, pixels, run, until, windows
 
 SOCKET = "orvinel-nested"
-SIZE = (1240, 820)
+SCREEN = (1280, 900)
 TITLE = (0, 0, 255)
-PLUGIN = "/usr/lib/*/qt6/plugins/platforms/libqwayland-generic.so"
+PASTURE = (700, 700)  # a place of the screen where the mouse changes nothing: on the map, far from its markers
+PLUGIN = "/usr/lib/*/qt6/plugins/platforms/libqwayland*.so"
+NOBODY = 65534
+SMALLEST = 2000  # pixels of what is looked for on the screen, a menu of three rows
+SESSION_ENDS = 5  # seconds: a session may be left hanging by what it shows
 
 
 class Session:
-    """weston in a window on the screen; its files and its socket lie in the folder."""
+    """A desktop in a window on the screen. `socket` and `display` are what programs connect to; its files lie in a folder of
+    its own, as it may have to run as somebody else."""
 
-    def __init__(self, folder):
-        self.log = folder / "weston.log"
-        command = ["weston", "--backend=x11-backend.so", "--use-pixman", "--no-config", "--idle-time=0", "--xwayland",
-                   f"--width={SIZE[0]}", f"--height={SIZE[1]}", f"--socket={SOCKET}", f"--log={self.log}"]
-        self.process = subprocess.Popen(command, env={**os.environ, "XDG_RUNTIME_DIR": str(folder)},
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    def __enter__(self):
+        self.folder = pathlib.Path(self.files.enter_context(tempfile.TemporaryDirectory()))
+        self.socket = self.folder / SOCKET
+        environment = {**os.environ, "XDG_RUNTIME_DIR": str(self.folder), "XDG_CONFIG_HOME": str(self.folder)}
+        self.process = subprocess.Popen(self.command(), env=environment,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
         self.display = until("the nested session", self.ready)
         self.take_pointer()
+        return self
+
+    def __init__(self):
+        self.files = contextlib.ExitStack()
+
+    def __exit__(self, *_):
+        try:
+            os.killpg(self.process.pid, signal.SIGTERM)
+            until("the end of the session", self.ended, SESSION_ENDS)
+        except AssertionError:
+            os.killpg(self.process.pid, signal.SIGKILL)
+        self.files.close()
+
+    def ended(self):
+        self.process.poll()  # takes notice of it
+        try:
+            os.killpg(self.process.pid, 0)
+        except ProcessLookupError:
+            return True
+        return False
+
+    def told(self):
+        """What the session starts first writes down the displays."""
+        return f"sh -c 'env > {self.folder}/new && mv {self.folder}/new {self.folder}/told'"
+
+    def ready(self):
+        told = self.folder / "told"
+        if not told.exists():
+            return None
+        told = dict(line.partition("=")[::2] for line in told.read_text().splitlines())
+        self.socket = self.folder / told["WAYLAND_DISPLAY"]
+        return told["DISPLAY"]
+
+    def take_pointer(self):
+        pass
+
+
+class Weston(Session):
+    size = (1240, 820)
+
+    def command(self):
+        return ["weston", "--backend=x11-backend.so", "--use-pixman", "--no-config", "--idle-time=0", "--xwayland",
+                f"--width={self.size[0]}", f"--height={self.size[1]}", f"--socket={SOCKET}", f"--log={self.folder}/log"]
+
+    def ready(self):
+        log = self.folder / "log"
+        found = re.search(r"xserver listening on display (:\d+)", log.read_text() if log.exists() else "")
+        return found and found.group(1)
 
     def take_pointer(self):
         """The session follows the mouse by how far it moves: in its upper left corner both are at the same place."""
         info = run("xwininfo", "-name", "Weston Compositor - screen0")
         x, y = (int(re.search(rf"Absolute upper-left {axis}:\s+(-?\d+)", info).group(1)) for axis in "XY")
-        for dx, dy in ((600, 400), (SIZE[0] - 2, SIZE[1] - 2), (300, 200), (0, 0), (600, 400)):
+        for dx, dy in ((600, 400), (self.size[0] - 2, self.size[1] - 2), (300, 200), (0, 0), (600, 400)):
             run("xdotool", "mousemove", str(x + dx), str(y + dy))
             time.sleep(0.1)
 
-    def ready(self):
-        found = re.search(r"xserver listening on display (:\d+)", self.log.read_text() if self.log.exists() else "")
-        return found and found.group(1)
 
-    def __enter__(self):
-        return self
+class Sway(Session):
+    """It tiles. It never runs as root."""
 
-    def __exit__(self, *_):
-        self.process.terminate()
-        self.process.wait()
+    size = SCREEN
+
+    def command(self):
+        config = self.folder / "config"
+        config.write_text(f"output * mode --custom {self.size[0]}x{self.size[1]}\n"
+                          f'exec "xhost +si:localuser:root; {self.told()}"\n')
+        everywhere = ["env", "WLR_BACKENDS=x11", "WLR_RENDERER=pixman"]
+        if os.geteuid() == 0:
+            os.chown(self.folder, NOBODY, NOBODY)
+            everywhere += ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
+        return [*everywhere, "sway", "--config", str(config)]
+
+
+class Kwin(Session):
+    """It lets programs that come through Xwayland place their windows."""
+
+    size = (2 * placed.MONITOR, SCREEN[1])
+
+    def command(self):
+        # The installed file may raise its own priority, which no container grants: a copy may not.
+        program = shutil.copyfile(shutil.which("kwin_wayland"), self.folder / "kwin_wayland")
+        program.chmod(0o755)
+        return ["env", "KWIN_COMPOSE=Q", "dbus-run-session", "--", str(program), "--x11-display", os.environ["DISPLAY"], "--xwayland", "--no-lockscreen",
+                "--width", str(self.size[0]), "--height", str(self.size[1]), "--socket", SOCKET, self.told()]
 
 
 class Nested(Running):
-    """The program in the session; `display`: its X display, None where it is to do without."""
-
-    def __init__(self, folder, display):
-        self.display = display
-        self.launcher = ["env", "-u", "DISPLAY", f"WAYLAND_DISPLAY={SOCKET}", *([f"DISPLAY={display}"] if display else [])]
-        super().__init__(folder)
+    """The program in one window, found by what is seen of it: not every session tells where its windows are."""
 
     def corner(self):
         """The panel's upper left corner, where its title begins; None when it is not to be seen."""
-        width, height = 1280, 900
+        width, height = SCREEN
         shown = pixels(0, 0, width, height)
         row = bytes(TITLE) * 20
         at = shown.find(row)
@@ -84,25 +156,52 @@ class Nested(Running):
         return found if found and found == self.beside() else None
 
     def main_windows(self):
-        with mock.patch.dict(os.environ, DISPLAY=self.display):
-            return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
+        return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
+
+    def appears_and_goes(self, what, come, go):
+        """Something is shown and taken away again; what is left of the change is a clock, the mouse, a frame of the focus."""
+        def shown():
+            hover(*PASTURE)
+            return int.from_bytes(pixels(0, 0, *SCREEN), "big")
+
+        def changed():
+            """In bytes, three of a pixel."""
+            size = 3 * SCREEN[0] * SCREEN[1]
+            return size - (shown() ^ before).to_bytes(size, "big").count(0)
+        before = shown()
+        come()
+        there = until(what, lambda: (now := changed()) > 3 * SMALLEST and now)
+        go()
+        until(f"the end of {what}", lambda: changed() < there / 2)
 
 
-def beside(folder, display):
-    """One window with the map beside the panel, a menu and the button that quits, again and again; the places remembered
-    elsewhere stay."""
+def uses(player, x, y):
+    """Its menus, the legend and a dialog, as players come to them by mouse and keys."""
+    def options(*way):
+        click(x + journeys.OPTIONS_MENU[0], y + journeys.OPTIONS_MENU[1])
+        time.sleep(0.3)  # a menu hears keys once the session has given it the keyboard
+        if way:
+            keys(*way)
+    player.appears_and_goes("a menu", options, lambda: keys("Escape"))
+    player.appears_and_goes("the legend", lambda: options("Home", "Return"), lambda: options("Home", "Return"))
+    player.appears_and_goes("the characters", lambda: options("End", "Return"), lambda: keys("Escape"))
+    boss = (x + journeys.PANEL_WIDTH + 2 + journeys.BOSS[0], y + 2 + journeys.BOSS[1])
+    player.appears_and_goes("the capture dialog", lambda: click(*boss, times=2), lambda: keys("Escape"))
+
+
+def beside(folder):
+    """One window with the map beside the panel and the button that quits, again and again; the places remembered elsewhere
+    stay."""
     journeys.make_world(folder)
     journeys.options(folder, Campaign=2, Region=1, PosX=1500, PosY=1500, DimX=9000, DimY=6000)
     for _ in range(2):
-        with Nested(folder, display) as player:
-            if display:
+        with Nested(folder) as player:
+            through_x11 = "ORVINEL_NESTED_DISPLAY" in os.environ
+            if through_x11:
                 until("one window", lambda: len(player.main_windows()) == 1)
             x, y = until("the map beside the panel", player.settled)
-            below = (x + 88, y + 218)  # the page of bosses, where the menu is going to be
-            page = colour(*below)
-            for wanted in (True, False) * (display is None):  # through Xwayland weston tells no window its place
-                click(x + journeys.OPTIONS_MENU[0], y + journeys.OPTIONS_MENU[1])
-                until(f"a menu: {wanted}", lambda: near(colour(*below), page) != wanted)
+            if not through_x11:  # through Xwayland weston tells no window its place
+                uses(player, x, y)
             click(x + journeys.QUIT[0], y + journeys.QUIT[1])
             code = player.end()
             assert code == 0, f"exit code {code}"
@@ -110,24 +209,47 @@ def beside(folder, display):
         assert all(f"{line}\n" in kept for line in ("PosX=1500", "PosY=1500", "DimX=9000", "DimY=6000")), kept
 
 
-def through_xwayland(folder):
-    with Session(folder) as session:
-        beside(folder, session.display)
+def nested(session, errand, x11):
+    """The errand in a session of its own, through Xwayland or without an X display."""
+    def played(folder):
+        with contextlib.ExitStack() as during:
+            opened = during.enter_context(session())
+            launcher = ["env", "-u", "DISPLAY", f"WAYLAND_DISPLAY={opened.socket}", *([f"DISPLAY={opened.display}"] if x11 else [])]
+            during.enter_context(mock.patch.object(Running, "launcher", launcher))
+            if x11:
+                during.enter_context(mock.patch.dict(os.environ, ORVINEL_NESTED_DISPLAY=opened.display))
+            errand(folder)
+    played.__name__ = f"{session.__name__.lower()}_{errand.__name__}" + "_plugin" * (not x11)
+    return played
 
 
-def with_the_plugin(folder):
-    with Session(folder):
-        beside(folder, None)
+# The sessions by the programs that they are, with what is played in them.
+PLACED = [placed.task_bar, placed.calm_start, placed.comes_back, placed.goes_along, placed.always_on_top,
+          placed.dragged_past_the_edge, placed.hasty_click]
+SESSIONS = {"weston": (Weston, [beside], "openbox"), "sway": (Sway, [placed.one_window], "none"),
+            "kwin_wayland": (Kwin, PLACED, "none")}
 
 
 def main():
-    missing = [tool for tool in ("weston", "Xwayland") if not shutil.which(tool)]
+    missing = [tool for tool in ("Xwayland", "xhost") if not shutil.which(tool)]
     if not glob.glob(PLUGIN):
         missing.append("qt6-wayland")
     if missing:
         print("skipped, not installed:", ", ".join(missing))
         return 77
-    return journeys.main(__file__, [through_xwayland, with_the_plugin])
+    if "ORVINEL_JOURNEYS" in os.environ:
+        session, errands, _ = SESSIONS[os.environ["ORVINEL_SESSION"]]
+        return journeys.main(__file__, [*(nested(session, e, True) for e in errands), nested(session, beside, False)])
+    results = []
+    for name, (session, _, manager) in SESSIONS.items():
+        if not shutil.which(name):
+            print("skipped, not installed:", name)
+            continue
+        print(f"in {name}", flush=True)
+        width, height = max(SCREEN[0], session.size[0]), SCREEN[1]
+        os.environ.update(ORVINEL_SESSION=name, ORVINEL_WINDOW_MANAGER=manager, ORVINEL_SCREEN=f"{width}x{height}")
+        results.append(journeys.main(__file__, []))
+    return next((code for code in results if code), 0) if results else 77
 
 
 if __name__ == "__main__":
