@@ -20,7 +20,7 @@ from screen import click, hover, keys, type_text, until
 
 SYSTEM_PYTHON = "/usr/bin/python3"  # the one that the desktop's own packages are for
 LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
-RENAMED = {"push button": ("push button", "button")}  # by newer versions of AT-SPI
+RENAMED = {"push button": ("push button", "button"), "separator": ("separator", "filler")}  # by newer versions of AT-SPI
 PAGES = ["Elites", "Collectors", "Greens", "Notes", "Various"]
 
 
@@ -140,7 +140,9 @@ def map_and_its_windows(folder):
 
 def rows(menu):
     """(role, name) of what stands in an open menu."""
-    return [(n.getRoleName(), n.name) for n in (menu.getChildAtIndex(i) for i in range(menu.childCount))]
+    known = {new: role for role, names in RENAMED.items() for new in names}
+    shown = [menu.getChildAtIndex(i) for i in range(menu.childCount)]
+    return [(known.get(n.getRoleName(), n.getRoleName()), n.name) for n in shown]
 
 
 def focused(tree):

@@ -89,6 +89,7 @@ class Updater(Running):
         pass  # it ends by itself; what does not goes with the errand
 
     def begin(self):
+        self.box = self.window("its window", lambda w: w.title == TITLE)  # where it is once it shows what it asks
         self.box.click(self.box.width - 138, self.box.height - 23)
 
     def message(self):

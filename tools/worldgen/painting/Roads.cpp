@@ -30,7 +30,6 @@ class PathFinder {
     void relax(int cell, float reached, Front& front);
     QPolygonF traced(int end);
 
-    const Landscape& land_;
     int columns_;
     int rows_;
     std::vector<float> toll_; // of entering a cell
@@ -41,7 +40,7 @@ class PathFinder {
 };
 
 PathFinder::PathFinder(const Landscape& land)
-    : land_(land), columns_(land.size.width() / pace), rows_(land.size.height() / pace) {
+    : columns_(land.size.width() / pace), rows_(land.size.height() / pace) {
     for (int row = 0; row < rows_; ++row)
         for (int column = 0; column < columns_; ++column) {
             const int x = column * pace;
