@@ -100,7 +100,7 @@ void Program::act(MenuAction action) {
         return OpenCharacterList();
     case MenuAction::Update:
         return RunUpdater();
-    case MenuAction::HomePage:
+    case MenuAction::StartPage:
         return showStartPage();
     case MenuAction::Credits:
         return openCredits();

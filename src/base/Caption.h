@@ -114,7 +114,7 @@ enum class Caption : int {
     InvalidDate = 104,            // "This is not a valid date."
     TreasureOpened = 105,         // "Treasure opened"
     OpenedWhen = 106,             // "Opened on"
-    HomePage = 107,               // "Orvinel on the web"
+    StartPage = 107,              // "Start page"
     ProgramVersion = 108,         // "Orvinel 4.0.0"
     Help = 109,                   // "Help"
     About = 110,                  // "About Orvinel..."

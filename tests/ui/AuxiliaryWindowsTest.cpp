@@ -4,6 +4,7 @@
 #include "ui/dialogs/frmFAKE.h"
 #include "ui/dialogs/frmInformation.h"
 #include "ui/platform/Fonts.h"
+#include "ui/platform/Windows.h"
 
 #include <QAccessible>
 #include <QPushButton>
@@ -96,6 +97,12 @@ TEST_F(DialogFixture, withoutAddressesTheInformationWindowOpensTheStartPageAndNo
     auto* container = window.findChild<QWidget*>(u"picOntainer"_s);
     QTest::mouseMove(container, {60, 415});
     EXPECT_EQ(frmInformation::Mail, window.linkHot());
+    EXPECT_EQ(programCursor(Pointer::Usual).pixmap().toImage(), container->cursor().pixmap().toImage());
+    const QImage seen = container->grab({22, 409, 109, 14}).toImage();
+    for (int y = 0; y < seen.height(); ++y)
+        for (int x = 0; x < seen.width(); ++x)
+            ASSERT_EQ(qBlue(seen.pixel(x, y)), qRed(seen.pixel(x, y)))
+                << "looks like a link at " << x << ", " << y;
     const auto before = desktop.log;
     QTest::mouseClick(container, Qt::LeftButton, {}, {60, 415});
     EXPECT_EQ(before, desktop.log) << "there is nobody to write to";

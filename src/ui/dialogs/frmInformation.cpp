@@ -61,8 +61,8 @@ QString dedication() {
            "And for you, who still walk them."_s.arg(authorName(), guildName());
 }
 
-QString linkText(frmInformation::Link link) {
-    return link == frmInformation::WebPage ? guildName() : u"Mail to "_s + authorName();
+QString mailText(const frmInformation::Addresses& addresses) {
+    return addresses.mail.isEmpty() ? authorName() : u"Mail to "_s + authorName();
 }
 
 QFont FontCrea(int height, bool underline, bool bold) {
@@ -113,12 +113,11 @@ frmInformation::frmInformation(DialogContext dialogContext, QWidget* owner, Addr
         addFigure(i);
     for (int i = 0; i < figures; ++i)
         addCaption(i);
-    addLink(u"lnkWebPage"_s, WebPage);
-    // Without an address the text stands there all the same, but nobody is told of a link.
+    addLink(u"lnkWebPage"_s, WebPage, guildName());
     if (addresses_.mail.isEmpty())
-        picOntainer->tell(mailPlace, linkText(Mail));
+        picOntainer->tell(mailPlace, mailText(addresses_));
     else
-        addLink(u"lnkMail"_s, Mail);
+        addLink(u"lnkMail"_s, Mail, mailText(addresses_));
     picOntainer->setFocus();
 }
 
@@ -192,8 +191,8 @@ void frmInformation::addCaption(int index) {
                                              line(u"lblZbq(%1)"_s, 2, silver, text.tag)};
 }
 
-void frmInformation::addLink(const QString& name, Link link) {
-    auto* spot = new LinkSpot(linkText(link), picOntainer);
+void frmInformation::addLink(const QString& name, Link link, const QString& text) {
+    auto* spot = new LinkSpot(text, picOntainer);
     spot->setObjectName(name);
     spot->setGeometry((link == WebPage ? webPlace : mailPlace).adjusted(0, 0, 1, 1));
     spot->setAutoDefault(false);
@@ -208,8 +207,11 @@ void frmInformation::DrawInformationText() {
     drawing.setFont(FontCrea(points8_25, false, false));
     drawCentred(drawing, dedicationPlace, grey, dedication());
     drawing.setFont(FontCrea(points8_25, true, true));
-    drawCentred(drawing, webPlace, lightOrange, linkText(WebPage));
-    drawCentred(drawing, mailPlace, lightOrange, linkText(Mail));
+    drawCentred(drawing, webPlace, lightOrange, guildName());
+    // Without an address a name stands there, which doesn't look like a link.
+    if (addresses_.mail.isEmpty())
+        drawing.setFont(FontCrea(points8_25, false, true));
+    drawCentred(drawing, mailPlace, addresses_.mail.isEmpty() ? grey : lightOrange, mailText(addresses_));
     drawing.filledBox(14, 58, 139, 73, darkBrown);
     drawing.setFont(FontCrea(points8_25, false, true));
     drawCentred(drawing, headingPlace, lightGrey, u"Informations"_s);
@@ -248,7 +250,8 @@ void frmInformation::hover(QPoint inContainer) {
     if (link == LinkHot)
         return;
     LinkHot = link;
-    picOntainer->setCursor(programCursor(link == NoLink ? Pointer::Usual : Pointer::OpenHand));
+    const bool opens = link == WebPage || (link == Mail && !addresses_.mail.isEmpty());
+    picOntainer->setCursor(programCursor(opens ? Pointer::OpenHand : Pointer::Usual));
 }
 
 void frmInformation::click(QPoint inContainer) {

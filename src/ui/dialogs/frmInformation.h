@@ -10,8 +10,8 @@ namespace orvinel {
 
 // The picture window about the program: a text column with two links beside a scene of four figures, whose
 // captions show while the mouse is over them or the focus is on them. A click anywhere else closes it.
-// Without a home page the first link opens the page that came with the program; without a mail address there
-// is no second.
+// Without a home page the first link opens the page that came with the program; without a mail address
+// the author's name stands in place of the second.
 class frmInformation : public Dialog {
     Q_OBJECT
   public:
@@ -48,7 +48,7 @@ class frmInformation : public Dialog {
     void ArrangeInformation(QWidget* client);
     void addFigure(int index);
     void addCaption(int index);
-    void addLink(const QString& name, Link link);
+    void addLink(const QString& name, Link link, const QString& text);
     void DrawInformationText();
     void ShowCharacterCaption(int index, bool visible);
     void HideCharacterCaption();

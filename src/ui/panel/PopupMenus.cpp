@@ -33,7 +33,7 @@ constexpr Row optionRows[] = {{MenuKind::Check, Caption::ShowLegend, MenuAction:
                               separator,
                               {MenuKind::Command, Caption::MyCharacters, MenuAction::MyCharacters}};
 constexpr Row helpRows[] = {{MenuKind::Command, Caption::UpdateAndQuit, MenuAction::Update},
-                            {MenuKind::Command, Caption::HomePage, MenuAction::HomePage},
+                            {MenuKind::Command, Caption::StartPage, MenuAction::StartPage},
                             separator,
                             {MenuKind::Command, Caption::ShowCredits, MenuAction::Credits},
                             {MenuKind::Command, Caption::ProgramVersion},

@@ -28,7 +28,7 @@ enum class MenuAction {
     FollowMouse,
     MyCharacters,
     Update,
-    HomePage,
+    StartPage,
     Credits,
     History,
     Guide,
