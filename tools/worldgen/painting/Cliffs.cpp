@@ -27,6 +27,31 @@ void paintCliffFace(QImage& picture, const Landscape& land, QPoint foot, int tal
     }
 }
 
+// 1 between the peaks, fading on the way down from them; 0 in the open country.
+Field nearPeaks(const Landscape& land) {
+    constexpr float peakHeight = 0.40F;
+    constexpr double foot = 36; // pixels
+    Field away = land.cells;
+    for (int cell = 0; cell < away.count(); ++cell)
+        away[cell] = away[cell] > peakHeight ? 0 : 1;
+    away = distances(std::move(away));
+    for (int cell = 0; cell < away.count(); ++cell)
+        away[cell] = float(smoothStep(foot, foot / 3, away[cell] * cellSide));
+    return away;
+}
+
+// 0 on roads and in villages and a little around them, 1 elsewhere.
+Field offTaken(const Landscape& land, const QImage& taken) {
+    Field share(land.cells.width(), land.cells.height());
+    for (int y = 0; y < share.height(); ++y)
+        for (int x = 0; x < share.width(); ++x)
+            share.at(x, y) = taken.constScanLine(y * cellSide)[x * cellSide] > 0 ? 1 : 0;
+    share = blurred(share, 4);
+    for (int cell = 0; cell < share.count(); ++cell)
+        share[cell] = float(smoothStep(0.3, 0.02, share[cell]));
+    return share;
+}
+
 } // namespace
 
 void paintCliffs(QImage& picture, const Landscape& land) {
@@ -40,19 +65,23 @@ void paintCliffs(QImage& picture, const Landscape& land) {
         }
 }
 
-void paintCracks(QImage& picture, const Landscape& land) {
+void paintCracks(QImage& picture, const Landscape& land, const QImage& taken) {
     if (land.theme != Theme::Ash)
         return;
     const Noises& n = land.noises;
+    const Field peaks = nearPeaks(land);
+    const Field open = offTaken(land, taken);
     for (int y = 0; y < picture.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
         for (int x = 0; x < picture.width(); ++x) {
-            const double height = land.height.at(x, y);
-            if (height < 0.17 || land.toWater.at(x, y) < 30)
+            const double u = double(x) / cellSide;
+            const double v = double(y) / cellSide;
+            if (peaks.sampled(u, v) <= 0 || land.toWater.at(x, y) < 30)
                 continue;
-            const double where = smoothStep(0.10, 0.32, n.a.fbm(x / 140.0 + 9, y / 140.0, 2)) *
-                                 smoothStep(0.17, 0.26, height) *
-                                 smoothStep(0.24, 0.31, land.surroundAt(x, y)); // by a range
+            const double share = smoothStep(0.10, 0.32, n.a.fbm(x / 140.0 + 9, y / 140.0, 2)) *
+                                 peaks.sampled(u, v) * open.sampled(u, v) *
+                                 smoothStep(8, 22, land.riverDistance(x, y));
+            const double where = smoothStep(0.35, 0.75, share); // no dull ends
             if (where <= 0)
                 continue;
             const double crack = 1 - std::fabs(n.c.fbm(x / 52.0, y / 40.0, 3));

@@ -90,6 +90,18 @@ void paintRose(QPainter& painter, double radius) {
     painter.drawPath(north);
 }
 
+double roseRadius(double room) {
+    return std::min(room * 0.66, 84.0);
+}
+
+// What a rose covers, its N above it included, and a little more.
+QRect roseBox(QPoint middle, double radius) {
+    constexpr int gap = 16;
+    const int reach = int(radius) + gap;
+    const int up = int(radius * 1.45) + gap;
+    return {middle - QPoint(reach, up), QSize(2 * reach, up + reach)};
+}
+
 } // namespace
 
 void agePicture(QImage& picture, const Landscape& land) {
@@ -169,27 +181,28 @@ void paintTitle(QImage& picture, const QRect& box, const QString& title) {
     painter.drawPath(letters);
 }
 
-QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken) {
+QRect paintCompass(QImage& picture, const Landscape& land, const std::vector<QRect>& taken) {
     QPoint best;
     double widest = 0;
     for (int y = 90; y < picture.height() - 90; y += 8)
         for (int x = 90; x < picture.width() - 90; x += 8) {
             const int border = std::min(std::min(x, picture.width() - x), std::min(y, picture.height() - y));
             const double room = std::min<double>(land.toLand.at(x, y), border - 36);
-            if (room > widest && !taken.adjusted(-100, -140, 100, 140).contains(x, y)) {
+            const QRect box = roseBox({x, y}, roseRadius(room));
+            const bool clear = std::none_of(taken.begin(), taken.end(),
+                                            [&](const QRect& other) { return other.intersects(box); });
+            if (room > widest && clear) {
                 widest = room;
                 best = {x, y};
             }
         }
     if (widest < 62)
         return {};
-    const double radius = std::min(widest * 0.66, 84.0);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(best);
-    paintRose(painter, radius);
-    const int reach = int(radius * 1.4);
-    return {best - QPoint(reach, reach), QSize(2 * reach, 2 * reach)};
+    paintRose(painter, roseRadius(widest));
+    return roseBox(best, roseRadius(widest));
 }
 
 } // namespace worldgen

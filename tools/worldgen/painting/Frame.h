@@ -13,7 +13,7 @@ void paintFrame(QImage& picture);
 QRect titleBox(const Landscape& land, const std::vector<QPoint>& sites, const QString& title);
 void paintTitle(QImage& picture, const QRect& box, const QString& title);
 // A compass in the widest open water, clear of `taken`; none where there is no room. Returns its box.
-QRect paintCompass(QImage& picture, const Landscape& land, const QRect& taken);
+QRect paintCompass(QImage& picture, const Landscape& land, const std::vector<QRect>& taken);
 
 // Darkens the whole until its mean relative luminance is at most `mean`.
 void limitLuminance(QImage& picture, double mean);

@@ -94,7 +94,9 @@ Colour landColour(const Landscape& land, const GroundLayers& layers, int x, int 
     const double jitter = layers.jitter.sampled(x / 2.0, y / 2.0);
     colour = mixed(colour, p.rock, smoothStep(0.035, 0.085, slope) * 0.8);
     const double snow = land.height.at(x, y) + jitter * 1.2 - slope * 1.5;
-    colour = mixed(colour, p.snow.times(0.80), smoothStep(p.snowline - 0.16, p.snowline + 0.06, snow));
+    // In milder country the peaks alone wear it: scraps on the ground between them would shine.
+    const double lies = land.theme == Theme::Frost ? 1 : 0.25;
+    colour = mixed(colour, p.snow.times(0.80), lies * smoothStep(p.snowline - 0.16, p.snowline + 0.06, snow));
     colour = themed(land, layers, {x, y}, colour);
     const double shore = land.toWater.at(x, y) + jitter * 50 + 60 * std::max(0.0, slope - 0.02);
     colour = mixed(p.beach, colour, smoothStep(2, 12, shore));

@@ -17,9 +17,10 @@ QImage brushed(const QImage& picture, int radius, double strength);
 void paintCoast(QImage& picture, const Landscape& land);
 void paintRivers(QImage& picture, const Landscape& land);
 
-// Cliffs where steep land meets the sea, and glowing cracks in the heights of ash country.
+// Cliffs where steep land meets the sea, and glowing cracks in and at the foot of the ranges of ash country,
+// away from where `taken` is white.
 void paintCliffs(QImage& picture, const Landscape& land);
-void paintCracks(QImage& picture, const Landscape& land);
+void paintCracks(QImage& picture, const Landscape& land, const QImage& taken);
 
 // A ship or two as the campaign builds them, and a serpent or a whale, where the sea is wide; nothing inside
 // `taken`.

@@ -17,7 +17,7 @@ namespace {
 
 // Cream letters (luminance 0.84) need ground below 0.148 for a contrast of 4.5:1; the rest is for the
 // picture's compression.
-constexpr double quietLuminance = 0.108;
+constexpr double quietLuminance = 0.120;
 constexpr int shadeReach = 32; // pixels around a name
 
 std::array<double, 256> linearLight() {
@@ -52,7 +52,7 @@ Field letterShade(const QRect& box, QSize size, const QString& name) {
     QImage mask(size, QImage::Format_Grayscale8);
     mask.fill(0);
     QPainter painter(&mask);
-    painter.setPen(QPen(Qt::white, 17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Qt::white, 13, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::white);
     painter.drawPath(letters);
     painter.end();
@@ -60,7 +60,7 @@ Field letterShade(const QRect& box, QSize size, const QString& name) {
     for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)
             shade.at(x, y) = float(mask.constScanLine(y)[x]) / 255;
-    return blurred(blurred(blurred(shade, 6), 7), 8);
+    return blurred(blurred(blurred(shade, 5), 6), 7);
 }
 
 } // namespace
@@ -95,7 +95,7 @@ void shadeName(QImage& picture, const QRect& box, const QString& name) {
             const double strength = smoothStep(0, 0.62, shade.at(x - reach.left(), y - reach.top()));
             const double light = luminanceOf(line[x]);
             const double wanted =
-                std::min(light, quietLuminance * (0.62 + 0.38 * std::min(1.0, light / 0.4)));
+                std::min(light, quietLuminance * (0.72 + 0.28 * std::min(1.0, light / 0.4)));
             if (wanted >= light || strength <= 0)
                 continue;
             const double factor = powOf(wanted / light, 1 / 2.2);

@@ -2,6 +2,7 @@
 
 #include "Frame.h"
 #include "Ground.h"
+#include "Maths.h"
 #include "Roads.h"
 #include "Scene.h"
 #include "Settlements.h"
@@ -12,6 +13,20 @@ namespace worldgen {
 namespace {
 
 constexpr double meanLuminance = 0.13;
+
+// No two alike, and none round.
+QPolygonF clearing(const Landscape& land, QPoint middle, QSizeF room) {
+    constexpr int corners = 48;
+    QPolygonF outline;
+    for (int k = 0; k < corners; ++k) {
+        const double angle = k * 2 * pi / corners;
+        const QPointF way(cosineOf(angle), sineOf(angle));
+        const double out = 1 + 0.34 * land.noises.c.fbm(middle.x() / 90.0 + way.x() * 1.3,
+                                                        middle.y() / 90.0 + way.y() * 1.3, 3);
+        outline << QPointF(middle) + QPointF(way.x() * room.width(), way.y() * room.height()) * out;
+    }
+    return outline;
+}
 
 // White where roads and settlements keep nature away.
 QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe& recipe,
@@ -28,10 +43,21 @@ QImage takenGround(const Landscape& land, const RoadNet& net, const RegionRecipe
         const SiteWish& wish = recipe.sites[k];
         const bool cleared =
             wish.near == SiteNear::Open || wish.near == SiteNear::Pass || wish.landmark != Landmark::None;
-        const QSizeF room = cleared ? QSizeF(70, 44) : settlementRoom(wish.role);
-        painter.drawEllipse(QPointF(sites[k]), room.width(), room.height());
+        painter.drawPolygon(clearing(land, sites[k], cleared ? QSizeF(66, 40) : settlementRoom(wish.role)));
     }
     return taken;
+}
+
+// The region's name, and the names of its places with their markers.
+std::vector<QRect> writtenGround(const RegionRecipe& recipe, const SurveyedRegion& survey) {
+    std::vector<QRect> written{survey.title};
+    for (std::size_t k = 0; k < survey.sites.size(); ++k) {
+        const QPoint site = survey.sites[k];
+        const QRect marker(site - QPoint(34, 34), QSize(68, 68));
+        const QRect name = nameBox(site, recipe.sites[k], recipe.campaign);
+        written.push_back(recipe.sites[k].marked ? name | marker : name);
+    }
+    return written;
 }
 
 } // namespace
@@ -88,8 +114,10 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
             reachable.push_back(site);
     const RoadNet net = builtRoads(land, reachable);
 
+    const QImage taken = takenGround(land, net, recipe, survey.sites);
+
     QImage picture = paintedGround(land);
-    paintCracks(picture, land);
+    paintCracks(picture, land, taken);
     paintCoast(picture, land);
     paintCliffs(picture, land);
     paintRivers(picture, land);
@@ -98,7 +126,6 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
     for (std::size_t k = 0; k < survey.sites.size(); ++k)
         ploughFields(picture, land, survey.sites[k], recipe.sites[k].role, rng);
     paintRoads(picture, net, recipe.theme);
-    const QImage taken = takenGround(land, net, recipe, survey.sites);
     growNature(scene, land, {picture, taken}, recipe.seed);
     for (std::size_t k = 0; k < survey.sites.size(); ++k)
         settle(scene, land, {survey.sites[k], recipe.campaign, recipe.sites[k]}, rng);
@@ -110,8 +137,9 @@ QImage paintRegion(const RegionRecipe& recipe, const SurveyedRegion& survey) {
         shadeName(picture, nameBox(survey.sites[k], recipe.sites[k], recipe.campaign), recipe.sites[k].name);
     paintFrame(picture);
     paintTitle(picture, survey.title, recipe.title);
-    const QRect rose = paintCompass(picture, land, survey.title);
-    paintSeafarers(picture, land, recipe.campaign, {survey.title, rose});
+    std::vector<QRect> written = writtenGround(recipe, survey);
+    written.push_back(paintCompass(picture, land, written));
+    paintSeafarers(picture, land, recipe.campaign, written);
     return picture;
 }
 

@@ -159,7 +159,7 @@ void Builder::area() {
     if (place_.wish.near == SiteNear::Cliffs)
         cliffs();
     // Above the name, not under it.
-    const QPointF at = QPointF(place_.at) - QPointF(0, place_.wish.marked ? 22 : 13);
+    const QPointF at = QPointF(place_.at) - QPointF(0, place_.wish.marked ? 26 : 16);
     if (place_.wish.landmark != Landmark::None)
         return raise(place_.wish.landmark, at);
     constexpr std::array choices{Landmark::Ruin, Landmark::Obelisk, Landmark::Stones, Landmark::Windmill};
@@ -171,7 +171,7 @@ void Builder::raise(Landmark landmark, QPointF at) {
     if (landmark == Landmark::Stones) {
         for (int k = 0; k < 5; ++k)
             stand(paintedStandingStone(1.1, rng_),
-                  at + QPointF(cosineOf(k * 1.26 + 0.4) * 13, sineOf(k * 1.26 + 0.4) * 6));
+                  at + QPointF(cosineOf(k * 1.26 + 0.4) * 13, sineOf(k * 1.26 + 0.4) * 6 - 6));
         return;
     }
     if (landmark == Landmark::Palms) {
