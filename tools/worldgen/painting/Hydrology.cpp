@@ -108,6 +108,7 @@ Field settledLakes(Field& height, const Drainage& drainage, const RegionRecipe& 
 namespace {
 
 constexpr double meanderReach = 5;
+constexpr double wetCover = 0.45; // of a lake, where its water begins
 
 // Cells that must drain through a place before it carries a river.
 double riverThreshold(const Landscape& land) {
@@ -195,22 +196,115 @@ River riverAlong(const Landscape& land, const std::vector<int>& course, double t
         const double flow = std::max(1.0, land.drainage.flow[std::size_t(cell)] / threshold);
         river.widths.push_back(std::clamp(0.7 + 0.9 * log2Of(flow), 0.9, 6.5));
     }
-    for (std::size_t k = 0; k < std::min<std::size_t>(12, river.widths.size()); ++k)
-        river.widths[k] *= 0.4 + 0.05 * double(k);
     return river;
 }
 
-// Cells: a shorter one would be a hook at the side of another.
+// Points: a shorter one would be a hook at the side of another.
 constexpr std::size_t shortest = 60;
+
+double straightness(const std::vector<QPointF>& points, std::size_t from, std::size_t count) {
+    double along = 0;
+    for (std::size_t k = from + 1; k < from + count; ++k)
+        along += lengthOf(points[k].x() - points[k - 1].x(), points[k].y() - points[k - 1].y());
+    const QPointF chord = points[from + count - 1] - points[from];
+    return along > 0 ? lengthOf(chord.x(), chord.y()) / along : 0;
+}
+
+void cutOff(River& river, std::size_t head) {
+    river.points.erase(river.points.begin(), river.points.begin() + std::ptrdiff_t(head));
+    river.widths.erase(river.widths.begin(), river.widths.begin() + std::ptrdiff_t(head));
+}
+
+// A spring that curls up looks like a hook: the river begins where it has found its way.
+// Returns how many points it lost.
+std::size_t unhook(River& river) {
+    std::size_t head = 0;
+    while (head + shortest < river.points.size() &&
+           (straightness(river.points, head, 26) < 0.88 || straightness(river.points, head, shortest) < 0.76))
+        head += 4;
+    cutOff(river, head);
+    return head;
+}
+
+// From a thread to its full width.
+void thinSpring(River& river) {
+    constexpr std::size_t reach = 44;
+    for (std::size_t k = 0; k < std::min(reach, river.widths.size()); ++k)
+        river.widths[k] *= 0.25 + 0.75 * double(k) / reach;
+}
+
+// Cuts rivers into the stretches outside the lakes, each ending in the water. A loop that only follows a
+// lake's shore, or begins just beside it, is left out.
+class LakeCutter {
+  public:
+    explicit LakeCutter(const Field& lakes);
+    std::vector<River> dryStretches(const River& river) const;
+
+  private:
+    bool wet(QPointF p) const { return lakes_.sampled(p.x() / cellSide, p.y() / cellSide) > wetCover; }
+    int lakeAt(QPointF p) const;
+    bool isLoop(const River& stretch) const;
+
+    const Field& lakes_;
+    Field toLake_;
+    std::vector<int> numbers_; // of the lake that covers a cell
+};
+
+LakeCutter::LakeCutter(const Field& lakes)
+    : lakes_(lakes), toLake_(lakes), numbers_(std::size_t(lakes.count()), -1) {
+    std::vector<char> open(std::size_t(lakes.count()), 0);
+    for (int cell = 0; cell < lakes.count(); ++cell) {
+        open[std::size_t(cell)] = lakes[cell] > 0;
+        toLake_[cell] = lakes[cell] > wetCover ? 0 : 1;
+    }
+    toLake_ = distances(std::move(toLake_));
+    for (int cell = 0; cell < lakes.count(); ++cell)
+        if (open[std::size_t(cell)])
+            for (const int part : lakeFrom(lakes, cell, open))
+                numbers_[std::size_t(part)] = cell;
+}
+
+int LakeCutter::lakeAt(QPointF p) const {
+    const int x = std::clamp(int(p.x()) / cellSide, 0, lakes_.width() - 1);
+    const int y = std::clamp(int(p.y()) / cellSide, 0, lakes_.height() - 1);
+    return numbers_[std::size_t(y * lakes_.width() + x)];
+}
+
+bool LakeCutter::isLoop(const River& stretch) const {
+    constexpr float reach = 26; // cells
+    float farthest = 0;
+    for (const QPointF& p : stretch.points)
+        farthest = std::max(farthest, toLake_.clamped(int(p.x()) / cellSide, int(p.y()) / cellSide));
+    const int from = lakeAt(stretch.points.front());
+    return farthest < reach && (from < 0 || from == lakeAt(stretch.points.back()));
+}
+
+std::vector<River> LakeCutter::dryStretches(const River& river) const {
+    std::vector<River> stretches;
+    River stretch;
+    for (std::size_t k = 0; k < river.points.size(); ++k) {
+        stretch.points.push_back(river.points[k]);
+        stretch.widths.push_back(river.widths[k]);
+        const bool last = k + 1 == river.points.size();
+        if (!last && !wet(river.points[k]))
+            continue;
+        const bool dry = stretch.points.size() > 2 || (last && !wet(river.points[k]));
+        if (dry && !(wet(river.points[k]) && isLoop(stretch)))
+            stretches.push_back(stretch);
+        stretch = {{river.points[k]}, {river.widths[k]}};
+    }
+    return stretches;
+}
 
 } // namespace
 
 std::vector<River> tracedRivers(const Landscape& land) {
     const double threshold = riverThreshold(land);
+    const LakeCutter cutter(land.lakes);
     RiverBeds beds(land.cells);
     std::vector<River> rivers;
     for (const int spring : springs(land, threshold)) {
-        const std::vector<int> course = courseFrom(land, spring, beds);
+        std::vector<int> course = courseFrom(land, spring, beds);
         if (course.size() < shortest)
             continue;
         River river = riverAlong(land, course, threshold);
@@ -218,11 +312,16 @@ std::vector<River> tracedRivers(const Landscape& land) {
             river.points.push_back(pixelOf(land, mouth));
             river.widths.push_back(river.widths.back());
         }
+        smooth(river.points, 9);
+        course.erase(course.begin(), course.begin() + std::ptrdiff_t(unhook(river)));
+        if (course.size() < shortest)
+            continue;
         beds.add(course);
-        smooth(river.points, 6);
         for (QPointF& p : river.points)
             p += meander(land, p);
-        rivers.push_back(std::move(river));
+        thinSpring(river);
+        for (River& stretch : cutter.dryStretches(river))
+            rivers.push_back(std::move(stretch));
     }
     return rivers;
 }

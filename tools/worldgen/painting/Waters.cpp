@@ -55,7 +55,7 @@ using Stroke = void (*)(QPainter&, QPointF, QPointF, double);
 void strokeRiver(QPainter& painter, const Landscape& land, const River& river, Stroke stroke) {
     for (std::size_t k = 1; k < river.points.size(); ++k) {
         const QPointF p = river.points[k];
-        if (land.lakes.sampled(p.x() / cellSide, p.y() / cellSide) <= 0.3)
+        if (land.lakes.sampled(p.x() / cellSide, p.y() / cellSide) <= 0.4)
             stroke(painter, river.points[k - 1], p, river.widths[k]);
     }
 }
