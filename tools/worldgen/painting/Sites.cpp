@@ -11,6 +11,7 @@ namespace {
 constexpr int border = 84; // half of a long name, plus the frame
 constexpr double narrowest = 62;
 constexpr int frameGap = 26;
+constexpr int landmarkAbove = 26; // pixels from a name up to what is painted beside it
 
 // Markers of towns are large and names hang below them: both ends of that span, per campaign.
 struct Reach {
@@ -188,8 +189,11 @@ double Finder::suitability(QPoint p, const SiteWish& wish) const {
         return -1;
     if (land_.riverDistance(x, y) < (large ? 18 : 12))
         return -1;
+    if (wish.landmark != Landmark::None && land_.toWater.clamped(x, y - landmarkAbove) < 14)
+        return -1;
     if (wish.landmark != Landmark::None)
-        return 3 * smoothStep(60, 460, room(p));
+        return 3 * smoothStep(60, 460, room(p)) - (nameOnSnow(p) ? 1 : 0) +
+               (wish.near == SiteNear::Anything ? 0 : 2.4 * nearness(p, wish.near));
     const double flat = smoothStep(0.05, 0.01, land_.slope(x, y, 8));
     const double spacing = smoothStep(60, 260, room(p));
     return 2.2 * nearness(p, wish.near) + 0.8 * flat + 1.6 * spacing;

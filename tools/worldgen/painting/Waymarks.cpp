@@ -181,7 +181,7 @@ Sprite paintedLandmark(Landmark landmark, BuildingStyle style, const Palette& pa
     case Landmark::Barrow:
         return paintedBarrow(palette);
     case Landmark::Tree:
-        return paintedTree(palette.lowland == TreeStyle::Scrub ? TreeStyle::Broadleaf : palette.lowland,
+        return paintedTree(palette.lowland == TreeStyle::SnowConifer ? palette.lowland : TreeStyle::Broadleaf,
                            palette, 2.5, rng);
     case Landmark::Wreck:
         return paintedWreck();
