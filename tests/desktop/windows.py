@@ -97,6 +97,10 @@ def comes_back(folder):
         player.gone(dialog)
 
 
+def place_of(player, dialog):
+    return next((w.x, w.y, w.width, w.height) for w in windows(player.process.pid) if w.number == dialog.number)
+
+
 def goes_along(folder):
     """A dialog that is open goes with the program's own minimise button and comes back; it offers no button of that kind."""
     make_world(folder)
@@ -107,12 +111,14 @@ def goes_along(folder):
         dialog = player.dialog("Elite: Night Step")
         functions = int(run("xprop", "-id", str(dialog.number), "_MOTIF_WM_HINTS").split(",")[1], 16)
         assert not functions & (MOTIF_MINIMISE | MOTIF_MAXIMISE), "a dialog with buttons of a main window"
+        place = place_of(player, dialog)
         for _ in range(2):
             player.map.click(player.map.width - MINIMISE, 10)
             until("nothing left on the screen", lambda: not player.shown())
             run("xdotool", "windowactivate", str(player.button.number))
             until("the dialog back with both windows", lambda: dialog.number in player.shown() and len(player.shown()) == 3)
             steady("the keyboard back", lambda: has_focus(player.map) or has_focus(dialog))
+            assert place_of(player, dialog) == place, "the dialog came back elsewhere"
             stack = [int(n, 16) for n in re.findall("0x[0-9a-f]+", run("xprop", "-root", "_NET_CLIENT_LIST_STACKING"))]
             assert stack.index(dialog.number) > stack.index(player.map.number), "the dialog lies behind the map"
 

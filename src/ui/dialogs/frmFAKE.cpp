@@ -211,17 +211,17 @@ void frmFAKE::putDialogsAway() {
             if (window->windowType() == Qt::Popup)
                 window->close();
             else if (window->windowType() == Qt::Dialog)
-                dialogs_.emplace_back(window);
+                dialogs_.push_back({window, window->pos()});
         }
-    for (QWidget* dialog : dialogs_)
-        takeOffScreen(*dialog);
+    for (const PutAway& away : dialogs_)
+        takeOffScreen(*away.dialog);
 }
 
 void frmFAKE::bringDialogsBack() {
-    for (const QPointer<QWidget>& dialog : dialogs_)
-        if (dialog && dialog->isVisible()) {
-            bringToScreen(*dialog);
-            dialog->raise();
+    for (const PutAway& away : dialogs_)
+        if (away.dialog && away.dialog->isVisible()) {
+            bringToScreen(*away.dialog, away.place);
+            away.dialog->raise();
         }
     dialogs_.clear();
 }

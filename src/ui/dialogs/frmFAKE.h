@@ -56,6 +56,10 @@ class frmFAKE : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    struct PutAway {
+        QPointer<QWidget> dialog;
+        QPoint place; // of its frame
+    };
     // What is minimised is known for certain only when the window manager has done it.
     void awaitIcon();
     void lookForIcon();
@@ -87,9 +91,9 @@ class frmFAKE : public QWidget {
     int looks_ = 0;
     QTimer settling_; // runs while the windows that came back may still get the keyboard
     int settles_ = 0;
-    QPointer<QWidget> first_;                // of the windows that the window manager minimised
-    QPointer<QWidget> keyboard_;             // the program's window that was active last
-    std::vector<QPointer<QWidget>> dialogs_; // put away while minimised, the lowest first
+    QPointer<QWidget> first_;      // of the windows that the window manager minimised
+    QPointer<QWidget> keyboard_;   // the program's window that was active last
+    std::vector<PutAway> dialogs_; // while minimised, the lowest first
 };
 
 } // namespace orvinel

@@ -186,8 +186,7 @@ void takeOffScreen(QWidget& window) {
     xcb_flush(connection);
 }
 
-void bringToScreen(QWidget& window) {
-    const QPoint place = window.pos();
+void bringToScreen(QWidget& window, QPoint place) {
     if (window.isMinimized())
         window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     if (xcb_connection_t* connection = x11Connection()) {
@@ -233,7 +232,7 @@ void takeOffScreen(QWidget& window) {
     window.setWindowState(window.windowState() | Qt::WindowMinimized);
 }
 
-void bringToScreen(QWidget& window) {
+void bringToScreen(QWidget& window, QPoint) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
 }
 #endif

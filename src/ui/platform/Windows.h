@@ -76,10 +76,11 @@ void wantNoAttention(const QWidget& window);
 // The window manager has made the window, which is minimised, an icon; True also where nobody can be asked.
 bool isIconic(const QWidget& window);
 
-// Takes a window off the screen and brings it back to its place without hiding it, which would count as an
-// answer to a dialog. Some window managers refuse to minimise dialogs.
+// Takes a window off the screen and brings it back without hiding it, which would count as an answer to a
+// dialog. Some window managers refuse to minimise dialogs; some move one that was taken off, so the caller
+// keeps the place, that of its frame.
 void takeOffScreen(QWidget& window);
-void bringToScreen(QWidget& window);
+void bringToScreen(QWidget& window, QPoint place);
 
 // What makes a window one without a title bar.
 Qt::WindowFlags frameless();
