@@ -59,7 +59,7 @@ class Desktop(Player):
     def options(self, *way):
         self.panel.number = self.shown()[0]
         run("xdotool", "windowactivate", "--sync", str(self.panel.number))
-        menu = self.popup(lambda: keys("F10"))
+        menu = self.popup(lambda: keys("Alt_L"))  # xfwm4 4.20 keeps F10 for itself with newer keyboard tables
         keys("Right", *way, "Return")
         self.gone(menu)
 

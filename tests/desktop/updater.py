@@ -81,14 +81,18 @@ class Updater(Running):
 
     def __enter__(self):
         self.box = self.window("its window", lambda w: w.title == TITLE)
-        # The program, when it has just been started, gives the keyboard to its panel: a player would click.
-        until("the keyboard in the updater", lambda: has_focus(self.box) or run("xdotool", "windowactivate", str(self.box.number)))
+        self.in_front()
         return self
 
     def __exit__(self, *_):
         pass  # it ends by itself; what does not goes with the errand
 
+    def in_front(self):
+        """The program, when it has just been started, gives the keyboard to its panel and lies above: a player would click."""
+        until("the keyboard in the updater", lambda: has_focus(self.box) or run("xdotool", "windowactivate", str(self.box.number)))
+
     def begin(self):
+        self.in_front()
         self.box = self.window("its window", lambda w: w.title == TITLE)  # where it is once it shows what it asks
         self.box.click(self.box.width - 138, self.box.height - 23)
 

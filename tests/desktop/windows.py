@@ -293,7 +293,7 @@ def hasty_click(folder):
         for x, y in [(250, 95), (916, 200)] * 2:  # the panel's background, the map's right edge
             click(x, y)
             hover(900, 700)
-            menu = player.popup(lambda: keys("F10"))  # a key is heard after all of this
+            menu = player.popup(lambda: keys("Alt_L"))  # a key is heard after all of this
             keys("Escape")
             player.gone(menu)
             assert places(player) == stood, f"moved by a click at {x}, {y}: {places(player)}"
