@@ -85,6 +85,10 @@ void Program::makeWindows() {
     installTabAccessibility();
     panel_ = std::make_unique<frmMenu>(state_, desktop_);
     map_ = new frmMap({state_, files_.disk(), desktop_, panel_->MenuRightClickNeeded}, panel_.get());
+    dialogs_ = std::make_unique<ProgramDialogs>(
+        ProgramDialogs::Surroundings{state_, files_, desktop_, *panel_, *map_},
+        ProgramDialogs::Refilter{[this] { layers_->elites.FilterEliteSkills(true); },
+                                 [this] { layers_->treasures.FilterTreasures(true); }});
     makeLayers();
     legend_ = new frmLegenda(state_, map_);
     popupMenu_ = new frmPopupMenu(state_, panel_.get());
@@ -92,27 +96,29 @@ void Program::makeWindows() {
                                              WindowPlaces::Windows{*panel_, *map_, *legend_});
     wirePanel();
     wireMap();
-    wireMenus();
-    wireKeys();
+    menus_ = std::make_unique<ProgramMenus>(
+        ProgramMenus::Surroundings{desktop_, *panel_, *map_, *legend_, *popupMenu_, *places_}, menuActions());
+    keys_ = std::make_unique<ProgramKeys>(
+        ProgramKeys::Surroundings{*panel_, *map_, *legend_, *flashing_, *mapMenus_, *menus_});
 }
 
 void Program::makeLayers() {
     layers_ = std::make_unique<ProgramLayers>(
         state_, files_.disk(), desktop_, *panel_, *map_,
-        ProgramLayers::Actions{[this](int id, bool fromMap) { openCapture(id, fromMap); },
-                               [this](int index) { openTreasure(index); }});
+        ProgramLayers::Actions{[this](int id, bool fromMap) { dialogs_->openCapture(id, fromMap); },
+                               [this](int index) { dialogs_->openTreasure(index); }});
     flashing_ = std::make_unique<Flashing>(layers_->flashing(), *map_);
     connectMap(*map_, *layers_, *flashing_);
     mapMenus_ = std::make_unique<MapMenus>(
         MapMenus::Surroundings{state_, files_, desktop_, *map_},
         MapMenus::Actions{[this](int campaign, int region) { panel_->chooseRegion(campaign, region); },
-                          [this](const NoteRequest& request) { return editNote(request); },
+                          [this](const NoteRequest& request) { return dialogs_->editNote(request); },
                           [this] { layers_->notes.FilterNotes(true); }});
 }
 
 void Program::wirePanel() {
     PanelHooks hooks = panelHooks(*layers_, *map_, *flashing_);
-    hooks.openMenu = [this](int menu) { openMenu(menu); };
+    hooks.openMenu = [this](int menu) { menus_->open(menu); };
     hooks.quit = [this] { QuitProgram(); };
     hooks.maximised = [this] { return places_->MapMaximised; };
     panel_->setHooks(std::move(hooks));
@@ -137,13 +143,23 @@ void Program::wireMap() {
     connect(taskBar_.get(), &frmFAKE::shownAgain, places_.get(), &WindowPlaces::attachShownMap);
 }
 
+ProgramMenus::Actions Program::menuActions() {
+    return {{MenuAction::MyCharacters, [this] { dialogs_->OpenCharacterList(); }},
+            {MenuAction::Credits, [this] { dialogs_->openCredits(); }},
+            {MenuAction::About, [this] { dialogs_->openInformation(); }},
+            {MenuAction::Update, [this] { RunUpdater(); }},
+            {MenuAction::StartPage, [this] { showStartPage(); }},
+            {MenuAction::History, [this] { ShowHistory(); }},
+            {MenuAction::Guide, [this] { showGuide(); }}};
+}
+
 void Program::showWindows() {
     // The keyboard is the panel's, in whatever order the window manager gets to see the windows.
     for (QWidget* window : std::initializer_list<QWidget*>{map_, legend_, taskBar_.get()})
         window->setAttribute(Qt::WA_ShowWithoutActivating);
     if (!windowsCanBePlaced()) {
         joinWindows();
-        return applyAlwaysOnTop();
+        return menus_->applyAlwaysOnTop();
     }
     places_->unplaceable = [this] { QTimer::singleShot(0, this, &Program::joinWindows); };
     places_->RestoreWindowPlacement();
@@ -152,7 +168,7 @@ void Program::showWindows() {
     panel_->activateWindow(); // before the first paint, which shows where the keyboard is
     map_->show();
     legend_->setVisible(state_.AppOptions.Legend);
-    applyAlwaysOnTop();
+    menus_->applyAlwaysOnTop();
     desktop_.processPendingEvents();
     taskBar_->showOutside(desktop_.allScreens());
 }

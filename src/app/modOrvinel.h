@@ -1,29 +1,26 @@
 #pragma once
 
+#include "app/ProgramDialogs.h"
+#include "app/ProgramKeys.h"
 #include "app/ProgramLayers.h"
+#include "app/ProgramMenus.h"
 #include "app/ProgramState.h"
 #include "app/WindowPlaces.h"
 #include "base/Desktop.h"
 #include "base/PlayerFiles.h"
-#include "ui/dialogs/Dialog.h"
 #include "ui/dialogs/frmFAKE.h"
 #include "ui/dialogs/frmLegenda.h"
 #include "ui/map/Flashing.h"
 #include "ui/map/MapMenus.h"
 #include "ui/map/frmMap.h"
-#include "ui/panel/WindowKeys.h"
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
 #include "ui/platform/OneWindow.h"
-
-#include <QPointer>
 
 #include <functional>
 #include <memory>
 
 namespace orvinel {
-
-class frmMarkEliteAsCaptured;
 
 // The whole program: its state, its windows, and what connects them.
 class Program : public QObject {
@@ -65,38 +62,10 @@ class Program : public QObject {
     void makeLayers();
     void wirePanel();
     void wireMap();
+    ProgramMenus::Actions menuActions();
     void showWindows();
     void gatherOptions();
     bool saveOptions();
-
-    // The panel's menus (ProgramMenus.cpp).
-    void wireMenus();
-    void openMenu(int menu);
-    void openMenuByKey(int menu);
-    void OnMenuEntryClick(int menu, int entry);
-    // What the row shows in its box: 1 when it is on.
-    int menuValue(MenuAction action) const;
-    void act(MenuAction action);
-    void ToggleLegend();
-    void ToggleAlwaysOnTop();
-    void applyAlwaysOnTop();
-    void OpenCharacterList();
-    void openCredits();
-
-    // The keyboard (ProgramKeys.cpp).
-    void wireKeys();
-    void actOnSelected();
-    void insertNote();
-
-    // The dialogs that the map and the lists open (ProgramMenus.cpp).
-    DialogContext dialogContext();
-    // One window: what is asked for next takes its place.
-    void openCapture(int eliteId, bool fromMap);
-    void showCapture(frmMarkEliteAsCaptured& dialog, int eliteId, const QRect& asked);
-    void openTreasure(int index);
-    // What lies there, on the desktop.
-    QRect onMap(MapPoint place);
-    int editNote(const NoteRequest& request);
 
     ProgramState state_;
     PlayerFiles files_;
@@ -112,9 +81,10 @@ class Program : public QObject {
     std::unique_ptr<ProgramLayers> layers_;
     std::unique_ptr<MapMenus> mapMenus_;
     std::unique_ptr<Flashing> flashing_;
-    std::unique_ptr<WindowKeys> keys_;
-    QPointer<frmMarkEliteAsCaptured> capture_; // while it is open
-    std::unique_ptr<OneWindow> joined_;        // gives panel and map back when it ends
+    std::unique_ptr<ProgramDialogs> dialogs_;
+    std::unique_ptr<ProgramMenus> menus_;
+    std::unique_ptr<ProgramKeys> keys_;
+    std::unique_ptr<OneWindow> joined_; // gives panel and map back when it ends
 };
 
 } // namespace orvinel
