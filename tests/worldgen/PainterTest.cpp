@@ -1,5 +1,6 @@
 #include "Placement.h"
 #include "RegionPainter.h"
+#include "painting/Landscape.h"
 
 #include <QCryptographicHash>
 
@@ -94,6 +95,46 @@ TEST(Painter, KeepsPicturesDarkAndSitesApartInEveryTheme) {
                 EXPECT_GE(distance(site, region.sites[other]), 60) << k << ' ' << other;
             const QRect name(site + QPoint(-20, 19), QSize(40, 10));
             EXPECT_GE((creamLuminance + 0.05) / (meanLuminance(picture, name) + 0.05), 4.5) << k;
+        }
+    }
+}
+
+// Of the river whose number is `own`, whether its last point lies in water, at the border or on another
+// river.
+bool endsSomewhere(const Landscape& land, std::size_t own) {
+    const QPointF mouth = land.rivers[own].points.back();
+    if (!QRectF(8, 8, land.size.width() - 16, land.size.height() - 16).contains(mouth))
+        return true;
+    for (int y = -8; y <= 8; y += 4)
+        for (int x = -8; x <= 8; x += 4)
+            if (land.water(int(mouth.x()) + x, int(mouth.y()) + y))
+                return true;
+    for (std::size_t k = 0; k < land.rivers.size(); ++k)
+        for (const QPointF& p : land.rivers[k].points)
+            if (k != own && std::hypot(p.x() - mouth.x(), p.y() - mouth.y()) < 14)
+                return true;
+    return false;
+}
+
+TEST(Painter, LetsRiversFlowSomewhereAndNeverBeginWithAHook) {
+    for (const quint32 seed : {6U, 13U, 17U}) {
+        RegionRecipe recipe{seed, QSize(760, 560), Theme::Temperate, 1, {}, {}};
+        recipe.landform = seed == 6 ? Landform::Fens : Landform::Hills;
+        const Landscape land(recipe);
+        EXPECT_FALSE(land.rivers.empty()) << seed;
+        for (std::size_t k = 0; k < land.rivers.size(); ++k) {
+            const std::vector<QPointF>& points = land.rivers[k].points;
+            EXPECT_TRUE(endsSomewhere(land, k))
+                << seed << ": " << points.back().x() << ' ' << points.back().y();
+            if (land.rivers[k].widths.front() > 0.8)
+                continue; // flows out of a lake
+            double along = 0;
+            const std::size_t head = std::min<std::size_t>(60, points.size());
+            for (std::size_t j = 1; j < head; ++j)
+                along += std::hypot(points[j].x() - points[j - 1].x(), points[j].y() - points[j - 1].y());
+            const QPointF chord = points[head - 1] - points.front();
+            EXPECT_GT(std::hypot(chord.x(), chord.y()), 0.66 * along)
+                << seed << ": " << points.front().x() << ' ' << points.front().y();
         }
     }
 }

@@ -6,11 +6,19 @@ namespace worldgen {
 
 namespace {
 
-// Height in pixels of the cliff above a shore that looks south; 0: a beach.
+// How much the land rises behind a shore that looks south.
+double riseBehind(const Landscape& land, int x, int y) {
+    return land.height.clamped(x, y - 16) + land.height.clamped(x, y - 34);
+}
+
+// Height in pixels of the cliff above such a shore; 0: a beach. Where the land rises for a few steps only
+// there is none: it would lie on the beach like a log.
 int cliffAt(const Landscape& land, int x, int y) {
-    const double rise = land.height.clamped(x, y - 16) + land.height.clamped(x, y - 34);
+    constexpr int beside = 13;
+    const double rise =
+        std::min({riseBehind(land, x - beside, y), riseBehind(land, x, y), riseBehind(land, x + beside, y)});
     const double steep = rise + 0.16 * land.noises.c.fbm(x / 70.0, y / 70.0, 3);
-    return int(13 * smoothStep(0.20, 0.34, steep) + 2 * land.noises.a.at(x / 7.0, y / 40.0));
+    return int(13 * smoothStep(0.18, 0.32, steep) + 2 * land.noises.a.at(x / 7.0, y / 40.0));
 }
 
 void paintCliffFace(QImage& picture, const Landscape& land, QPoint foot, int tall) {

@@ -239,6 +239,8 @@ class LakeCutter {
   public:
     explicit LakeCutter(const Field& lakes);
     std::vector<River> dryStretches(const River& river) const;
+    // Leads a river that ends just before a lake into it.
+    void lead(River& river) const;
 
   private:
     bool wet(QPointF p) const { return lakes_.sampled(p.x() / cellSide, p.y() / cellSide) > wetCover; }
@@ -275,8 +277,27 @@ bool LakeCutter::isLoop(const River& stretch) const {
     float farthest = 0;
     for (const QPointF& p : stretch.points)
         farthest = std::max(farthest, toLake_.clamped(int(p.x()) / cellSide, int(p.y()) / cellSide));
-    const int from = lakeAt(stretch.points.front());
+    const int from = wet(stretch.points.front()) ? lakeAt(stretch.points.front()) : -1;
     return farthest < reach && (from < 0 || from == lakeAt(stretch.points.back()));
+}
+
+void LakeCutter::lead(River& river) const {
+    constexpr float reach = 20; // cells
+    int cell =
+        int(river.points.back().y()) / cellSide * lakes_.width() + int(river.points.back().x()) / cellSide;
+    if (cell < 0 || cell >= lakes_.count() || toLake_[cell] > reach)
+        return;
+    while (toLake_[cell] > 0) {
+        int nearest = cell;
+        forNeighbours(toLake_, cell,
+                      [&](int next) { nearest = toLake_[next] < toLake_[nearest] ? next : nearest; });
+        if (nearest == cell)
+            return;
+        cell = nearest;
+        river.points.emplace_back((cell % lakes_.width() + 0.5) * cellSide,
+                                  (cell / lakes_.width() + 0.5) * cellSide);
+        river.widths.push_back(river.widths.back());
+    }
 }
 
 std::vector<River> LakeCutter::dryStretches(const River& river) const {
@@ -294,6 +315,16 @@ std::vector<River> LakeCutter::dryStretches(const River& river) const {
         stretch = {{river.points[k]}, {river.widths[k]}};
     }
     return stretches;
+}
+
+bool joins(const std::vector<River>& rivers, std::size_t own) {
+    constexpr double reach = 12; // pixels
+    const QPointF mouth = rivers[own].points.back();
+    for (std::size_t k = 0; k < rivers.size(); ++k)
+        for (const QPointF& p : rivers[k].points)
+            if (k != own && lengthOf(p.x() - mouth.x(), p.y() - mouth.y()) < reach)
+                return true;
+    return false;
 }
 
 } // namespace
@@ -323,6 +354,10 @@ std::vector<River> tracedRivers(const Landscape& land) {
         for (River& stretch : cutter.dryStretches(river))
             rivers.push_back(std::move(stretch));
     }
+    // What flowed into a loop that was left out has lost its mouth.
+    for (std::size_t k = 0; k < rivers.size(); ++k)
+        if (!joins(rivers, k))
+            cutter.lead(rivers[k]);
     return rivers;
 }
 
