@@ -74,6 +74,19 @@ TEST_F(MapTest, aMoveWithoutTheLeftButtonEndsADrag) {
     EXPECT_EQ(before, scroll());
 }
 
+TEST_F(MapTest, onlyTheOutermostPixelOfThePictureBelongsToTheWindowsEdge) {
+    startOnFjord();
+    const QSize size = map->size();
+    press({1, 200});
+    EXPECT_TRUE(map->dragging());
+    release({1, 200});
+    press({0, 200});
+    EXPECT_FALSE(map->dragging());
+    hover({-30, 200});
+    release({-30, 200});
+    EXPECT_EQ(QSize(size.width() + 30, size.height()), map->size());
+}
+
 TEST_F(MapTest, aPictureSmallerThanTheViewIsNotDragged) {
     start();
     showOnMap(*map, state, {3, 2, 10, 10});

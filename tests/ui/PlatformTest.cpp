@@ -4,6 +4,7 @@
 #include "ui/platform/EndSignals.h"
 #include "ui/platform/Fonts.h"
 #include "ui/platform/Label.h"
+#include "ui/platform/QtDesktop.h"
 #include "ui/platform/SmallCheckBox.h"
 #include "ui/platform/TextRun.h"
 #include "ui/platform/Windows.h"
@@ -13,9 +14,14 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
+#include <QProxyStyle>
+#include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 
 #include <array>
@@ -162,6 +168,42 @@ TEST(Drawing, boxesCoverTheirCornersInclusive) {
     EXPECT_EQ(0xFFFF0000u, image.pixel(3, 4));
     EXPECT_EQ(0xFFFF0000u, image.pixel(13, 14));
     EXPECT_EQ(0xFFFFFFFFu, image.pixel(15, 15));
+}
+
+// As on desktops whose theme has pictures for buttons.
+struct PicturesOnButtons : QProxyStyle {
+    PicturesOnButtons() : QProxyStyle(u"fusion"_s) {}
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+TEST(QtDesktop, aBoxHasTheArrowInFrontOfAnHourglassAndNoPicturesOnItsButtons) {
+    QApplication::setStyle(new PicturesOnButtons);
+    const auto restored = qScopeGuard([] { applyAppearance(*qApp); });
+    QtDesktop desktop{QString()};
+    desktop.setHourglass(true);
+    const auto pointer = [] { return QApplication::overrideCursor()->shape(); };
+    Qt::CursorShape seen = Qt::WaitCursor;
+    int pictures = -1;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        const auto buttons = box->buttons();
+        pictures =
+            int(std::count_if(buttons.begin(), buttons.end(), [](auto* b) { return !b->icon().isNull(); }));
+        seen = pointer();
+        box->reject();
+    });
+    EXPECT_FALSE(desktop.ask(MessageIcon::Question, u"Orvinel"_s, u"<b>Sure?</b>"_s));
+    EXPECT_EQ(Qt::ArrowCursor, seen);
+    EXPECT_EQ(0, pictures);
+    EXPECT_EQ(Qt::WaitCursor, pointer()) << "the start goes on";
+    desktop.setHourglass(false);
+    EXPECT_EQ(nullptr, QApplication::overrideCursor());
 }
 
 TEST(EndSignals, areToldFromTheEventLoop) {
