@@ -58,6 +58,7 @@ bool Program::start() {
         ended_ = true;
         return false;
     }
+    desktop_.setLanguage(state_.text(Caption::LanguageCode));
     PictureAhead remembered(files_.disk(), rememberedPicture(state_.AppPath, files_.disk()),
                             MapSurface::rowsNeededFor(desktop_.workArea().height()));
     LoadAll(state_, files_, desktop_);

@@ -40,6 +40,9 @@ class Desktop {
     // Paints, timers and posted events, never the player's input; does nothing when already running.
     virtual void processPendingEvents() = 0;
     virtual void setHourglass(bool on) = 0;
+    // Of the texts that are not the program's own: buttons of boxes, menus of fields. As in "de"; empty
+    // leaves the system's language.
+    virtual void setLanguage(const QString& code) = 0;
     // Without moving, hiding or activating the window.
     virtual void setAlwaysOnTop(QWidget& window, bool on) = 0;
 };

@@ -17,6 +17,7 @@ class RecordingDesktop : public Desktop {
     QRect work{0, 0, 1280, 1000};
     QSize screens{1280, 1024};
     QDate now{2026, 3, 7};
+    QString language;
     std::function<void()> pending = [] {}; // what waits to be processed
     QString dateFormat = QStringLiteral("dd/MM/yyyy");
 
@@ -32,6 +33,7 @@ class RecordingDesktop : public Desktop {
     void wait(int milliseconds) override;
     void processPendingEvents() override { pending(); }
     void setHourglass(bool on) override;
+    void setLanguage(const QString& code) override { language = code; }
     void setAlwaysOnTop(QWidget& window, bool on) override;
 };
 

@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
 #include <QProxyStyle>
@@ -204,6 +205,18 @@ TEST(QtDesktop, aBoxHasTheArrowInFrontOfAnHourglassAndNoPicturesOnItsButtons) {
     EXPECT_EQ(Qt::WaitCursor, pointer()) << "the start goes on";
     desktop.setHourglass(false);
     EXPECT_EQ(nullptr, QApplication::overrideCursor());
+}
+
+TEST(QtDesktop, buttonsOfBoxesSpeakTheLanguageOfTheTexts) {
+    const auto restored = qScopeGuard([] { translateControls(QLocale()); });
+    QtDesktop desktop{QString()};
+    const std::pair<const char*, QString> words[] = {
+        {"de", u"&Ja"_s}, {"it", u"&Sì"_s}, {"", u"&Sì"_s}, {"en", u"&Yes"_s}};
+    for (const auto& [code, word] : words) {
+        desktop.setLanguage(QLatin1String(code));
+        const QMessageBox box(QMessageBox::NoIcon, {}, {}, QMessageBox::Yes | QMessageBox::No);
+        EXPECT_EQ(word, box.button(QMessageBox::Yes)->text()) << code;
+    }
 }
 
 TEST(EndSignals, areToldFromTheEventLoop) {

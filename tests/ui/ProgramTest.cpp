@@ -47,6 +47,13 @@ TEST_F(ProgramTest, withoutALanguageFileItSaysSoAndEnds) {
     EXPECT_TRUE(disk.log.empty());
 }
 
+TEST_F(ProgramTest, boxesSpeakItsLanguageFromTheStart) {
+    disk.put(u"/o/Data/Language.txt"_s, disk.content(u"/o/Data/Language.txt"_s) + "301\tit\r\n");
+    disk.putFolder(u"/o/Campaign.05.Late"_s);
+    EXPECT_FALSE(start());
+    EXPECT_EQ(u"it"_s, desktop.language);
+}
+
 TEST_F(ProgramTest, anUnknownCampaignEndsIt) {
     disk.putFolder(u"/o/Campaign.05.Late"_s);
     EXPECT_FALSE(start());

@@ -2,6 +2,7 @@
 
 #include "ui/platform/DialogPlace.h"
 #include "ui/platform/SpokenRole.h"
+#include "ui/platform/Windows.h"
 #include "ui/platform/WorkArea.h"
 
 #include <QAbstractButton>
@@ -155,6 +156,11 @@ void QtDesktop::setHourglass(bool on) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void QtDesktop::setLanguage(const QString& code) {
+    if (!code.isEmpty())
+        translateControls(QLocale(code));
 }
 
 void QtDesktop::setAlwaysOnTop(QWidget& widget, bool on) {

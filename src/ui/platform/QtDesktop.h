@@ -22,6 +22,7 @@ class QtDesktop : public Desktop {
     void wait(int milliseconds) override;
     void processPendingEvents() override;
     void setHourglass(bool on) override;
+    void setLanguage(const QString& code) override;
     void setAlwaysOnTop(QWidget& window, bool on) override;
 
   private:

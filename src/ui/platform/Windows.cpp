@@ -184,8 +184,15 @@ void applyAppearance(QApplication& application) {
     bringFace(QCoreApplication::applicationDirPath() + u"/Fonts"_s);
     QApplication::setFont(arial(points8_25));
     QTimer::singleShot(iconDelayMs, &application, setProgramIcon);
-    auto* translator = new QTranslator(&application);
-    if (translator->load(QLocale(), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    translateControls(QLocale());
+}
+
+void translateControls(const QLocale& language) {
+    const QString name = u"controls"_s;
+    delete qApp->findChild<QTranslator*>(name); // which takes it out of use
+    auto* translator = new QTranslator(qApp);
+    translator->setObjectName(name);
+    if (translator->load(language, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(translator);
 }
 

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QApplication;
+class QLocale;
 
 namespace orvinel {
 
@@ -29,9 +30,12 @@ bool displayFound();
 // window managers that place windows as they like are known only by what they do.
 bool windowsCanBePlaced();
 
-// Light colours and the same widgets on every desktop, texts of the boxes in the player's language;
+// Light colours and the same widgets on every desktop, texts of the boxes in the system's language;
 // the program icon a moment later, since decoding its pictures takes longer than the windows' first paint.
 void applyAppearance(QApplication& application);
+
+// The texts of boxes and of the menus of fields, in place of those before; English where there are none.
+void translateControls(const QLocale& language);
 
 // Whether the system can be asked to move or resize a window with the mouse. Not under X11: a button that is
 // let go before the window manager has taken hold would leave the window hanging on the pointer.

@@ -27,10 +27,15 @@ struct Updater {
 
     explicit Updater(const QString& folder) : disk(folder), desktop(folder) { state.AppPath = folder; }
 
+    void loadLanguage() {
+        if (LoadLanguage(state, disk))
+            desktop.setLanguage(state.text(Caption::LanguageCode));
+    }
+
     // False, with a word to the player, when it could not be done.
     bool takeBack() {
         const DiskError error = putBack(disk, state.AppPath);
-        LoadLanguage(state, disk); // not before: it may be among what was replaced
+        loadLanguage(); // not before: it may be among what was replaced
         if (error)
             desktop.message(MessageIcon::Critical, programName(),
                             state.text(Caption::UpdateNotTakenBack).arg(*error));
@@ -54,7 +59,7 @@ struct Updater {
 
     // Where a package manager keeps the program there is nothing to be replaced.
     int leaveToSystem() {
-        LoadLanguage(state, disk);
+        loadLanguage();
         if (desktop.ask(MessageIcon::Question, state.text(Caption::UpdateTitle),
                         state.text(Caption::UpdateBySystem)))
             openAndTell(state, desktop, addressOf(Page::Guide, state, disk));
@@ -71,7 +76,7 @@ struct Updater {
             if (!takeBack())
                 return 1;
         }
-        LoadLanguage(state, disk);
+        loadLanguage();
         UpdateWindow window(state, disk, desktop);
         if (cutOff)
             window.tell(state.text(Caption::UpdateCutOff));
