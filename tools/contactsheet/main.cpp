@@ -27,7 +27,7 @@ constexpr int columns = 4;
 constexpr QSize cell(620, 560); // pixels, of the picture
 constexpr int title = 26;       // pixels above it
 constexpr int gap = 12;
-constexpr int quality = 82;
+constexpr int quality = 62;
 
 struct Shot {
     QString name;

@@ -2,6 +2,7 @@
 #include "Maths.h"
 
 #include <QPointF>
+#include <QRectF>
 
 #include <functional>
 #include <queue>
@@ -327,6 +328,13 @@ bool joins(const std::vector<River>& rivers, std::size_t own) {
     return false;
 }
 
+bool leavesTheLand(const Landscape& land, QPointF mouth) {
+    constexpr int border = 10; // pixels
+    const QRectF inner = QRectF(QPointF(), land.size).adjusted(border, border, -border, -border);
+    return !inner.contains(mouth) ||
+           land.cells.clamped(int(mouth.x()) / cellSide, int(mouth.y()) / cellSide) <= 0;
+}
+
 } // namespace
 
 std::vector<River> tracedRivers(const Landscape& land) {
@@ -356,7 +364,7 @@ std::vector<River> tracedRivers(const Landscape& land) {
     }
     // What flowed into a loop that was left out has lost its mouth.
     for (std::size_t k = 0; k < rivers.size(); ++k)
-        if (!joins(rivers, k))
+        if (!leavesTheLand(land, rivers[k].points.back()) && !joins(rivers, k))
             cutter.lead(rivers[k]);
     return rivers;
 }
