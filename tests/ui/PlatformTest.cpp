@@ -20,7 +20,9 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyleOptionSlider>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -154,6 +156,23 @@ TEST(Appearance, isLightOnADarkDesktop) {
         EXPECT_LT(colours.color(textOn(ground)).lightness(), 50) << ground;
     }
     EXPECT_LT(field.palette().color(QPalette::PlaceholderText).lightness(), 150);
+}
+
+TEST(Appearance, aScrollBarsHandleStandsOutFromItsGroove) {
+    QScrollBar bar(Qt::Vertical);
+    bar.resize(16, 300);
+    bar.setRange(0, 100);
+    bar.setPageStep(20);
+    QStyleOptionSlider parts;
+    parts.initFrom(&bar);
+    parts.orientation = Qt::Vertical;
+    parts.maximum = 100;
+    parts.pageStep = 20;
+    const QStyle& style = *QApplication::style();
+    const QRect handle = style.subControlRect(QStyle::CC_ScrollBar, &parts, QStyle::SC_ScrollBarSlider, &bar);
+    const QRect below = style.subControlRect(QStyle::CC_ScrollBar, &parts, QStyle::SC_ScrollBarAddPage, &bar);
+    const QImage seen = bar.grab().toImage();
+    EXPECT_GE(qGray(seen.pixel(handle.center())), qGray(seen.pixel(below.center())) + 20);
 }
 
 TEST(Drawing, boxesCoverTheirCornersInclusive) {
