@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include <utility>
+
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,6 +23,8 @@ constexpr int mostLooks = 15;
 // Some window managers give the keyboard to each window that appears, one after the other.
 constexpr int settleEveryMs = 100;
 constexpr int mostSettles = 3;
+// Some give it to the next window so shortly before they minimise the one that had it.
+constexpr int passedOnMs = 200;
 
 void takeMinimisedOff(QWidget& window) {
     if (window.windowState() & Qt::WindowMinimized)
@@ -90,10 +94,14 @@ bool frmFAKE::eventFilter(QObject* watched, QEvent* event) {
     if (following_ || icon_.isActive())
         return false;
     if (event->type() == QEvent::WindowActivate) {
-        if (!settling_.isActive())
-            keyboard_ = window;
+        if (!settling_.isActive() && keyboard_ != window) {
+            before_ = std::exchange(keyboard_, window);
+            passedOn_.start();
+        }
     } else if (window->isMinimized()) {
         first_ = window;
+        if (window == before_ && !passedOn_.hasExpired(passedOnMs))
+            keyboard_ = window;
         following_ = true;
         // Not while the window is still being told of it.
         QMetaObject::invokeMethod(this, &frmFAKE::minimise, Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -93,6 +94,8 @@ class frmFAKE : public QWidget {
     int settles_ = 0;
     QPointer<QWidget> first_;      // of the windows that the window manager minimised
     QPointer<QWidget> keyboard_;   // the program's window that was active last
+    QPointer<QWidget> before_;     // the one that was active before it
+    QElapsedTimer passedOn_;       // since the keyboard went from that one to this
     std::vector<PutAway> dialogs_; // while minimised, the lowest first
 };
 
