@@ -38,6 +38,11 @@ def is_iconic(window):
     return "Iconic" in run("xprop", "-id", str(window.number), "WM_STATE")
 
 
+def close(window):
+    """As the window manager's own shortcut does it, which is another program's on some desktops."""
+    run("wmctrl", "-i", "-c", str(window.number))
+
+
 def places(player):
     found = sorted((w for w in windows(player.process.pid) if w.width > 1), key=lambda w: w.width)
     return [(w.x, w.y, w.width, w.height) for w in found]

@@ -29,7 +29,7 @@ TITLE = (0, 0, 255)
 PASTURE = (700, 700)  # a place of the screen where the mouse changes nothing: on the map, far from its markers
 PLUGIN = "/usr/lib/*/qt6/plugins/platforms/libqwayland*.so"
 NOBODY = 65534
-SMALLEST = 2000  # pixels of what is looked for on the screen, a menu of three rows
+MENU, WINDOW = 5000, 20000  # pixels that at least change where one is shown
 SESSION_ENDS = 5  # seconds: a session may be left hanging by what it shows
 
 
@@ -128,8 +128,9 @@ class Kwin(Session):
         # The installed file may raise its own priority, which no container grants: a copy may not.
         program = shutil.copyfile(shutil.which("kwin_wayland"), self.folder / "kwin_wayland")
         program.chmod(0o755)
-        return ["env", "KWIN_COMPOSE=Q", "dbus-run-session", "--", str(program), "--x11-display", os.environ["DISPLAY"], "--xwayland", "--no-lockscreen",
-                "--width", str(self.size[0]), "--height", str(self.size[1]), "--socket", SOCKET, self.told()]
+        return ["env", "KWIN_COMPOSE=Q", "dbus-run-session", "--", str(program), "--x11-display", os.environ["DISPLAY"],
+                "--xwayland", "--no-lockscreen", "--width", str(self.size[0]), "--height", str(self.size[1]),
+                "--socket", SOCKET, self.told()]
 
 
 class Nested(Running):
@@ -158,21 +159,27 @@ class Nested(Running):
     def main_windows(self):
         return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
 
-    def appears_and_goes(self, what, come, go):
-        """Something is shown and taken away again; what is left of the change is a clock, the mouse, a frame of the focus."""
+    def appears_and_goes(self, what, least, come, go=None):
+        """Something of at least so many pixels is shown and taken away again, by Escape where nothing else is said. Less than
+        half of that may stay another: a clock, the mouse, the frame that tells where the keyboard is."""
         def shown():
             hover(*PASTURE)
             return int.from_bytes(pixels(0, 0, *SCREEN), "big")
 
         def changed():
-            """In bytes, three of a pixel."""
             size = 3 * SCREEN[0] * SCREEN[1]
-            return size - (shown() ^ before).to_bytes(size, "big").count(0)
+            return (size - (shown() ^ before).to_bytes(size, "big").count(0)) / 3
         before = shown()
         come()
-        there = until(what, lambda: (now := changed()) > 3 * SMALLEST and now)
-        go()
-        until(f"the end of {what}", lambda: changed() < there / 2)
+        until(what, lambda: changed() >= least)
+        if go:
+            go()
+
+        def gone():
+            if not go:
+                keys("Escape")  # again: what has just appeared may not have had the keyboard
+            return changed() < least / 2
+        until(f"the end of {what}", gone)
 
 
 def uses(player, x, y):
@@ -182,11 +189,11 @@ def uses(player, x, y):
         time.sleep(0.3)  # a menu hears keys once the session has given it the keyboard
         if way:
             keys(*way)
-    player.appears_and_goes("a menu", options, lambda: keys("Escape"))
-    player.appears_and_goes("the legend", lambda: options("Home", "Return"), lambda: options("Home", "Return"))
-    player.appears_and_goes("the characters", lambda: options("End", "Return"), lambda: keys("Escape"))
+    player.appears_and_goes("a menu", MENU, options)
+    player.appears_and_goes("the legend", WINDOW, lambda: options("Home", "Return"), lambda: options("Home", "Return"))
+    player.appears_and_goes("the characters", WINDOW, lambda: options("End", "Return"))
     boss = (x + journeys.PANEL_WIDTH + 2 + journeys.BOSS[0], y + 2 + journeys.BOSS[1])
-    player.appears_and_goes("the capture dialog", lambda: click(*boss, times=2), lambda: keys("Escape"))
+    player.appears_and_goes("the capture dialog", WINDOW, lambda: click(*boss, times=2))
 
 
 def beside(folder):
@@ -231,7 +238,7 @@ SESSIONS = {"weston": (Weston, [beside], "openbox"), "sway": (Sway, [placed.one_
 
 
 def main():
-    missing = [tool for tool in ("Xwayland", "xhost") if not shutil.which(tool)]
+    missing = [tool for tool in ("Xwayland", "xhost", "wmctrl") if not shutil.which(tool)]
     if not glob.glob(PLUGIN):
         missing.append("qt6-wayland")
     if missing:

@@ -14,7 +14,7 @@ import time
 
 import journeys
 from journeys import in_marsh, make_world
-from managed import BAR, MONITOR, Bar, Desktop, OneWindow, all_have, is_iconic, places, state, steady, two_monitors
+from managed import BAR, MONITOR, Bar, Desktop, OneWindow, all_have, close, is_iconic, places, state, steady, two_monitors
 from screen import click, colour, drag, has_focus, hover, keys, near, run, see, until, windows
 
 MANAGERS = ["openbox", "xfwm4", "kwin_x11", "marco"]
@@ -76,6 +76,7 @@ def comes_back(folder):
         manager = os.environ["ORVINEL_WINDOW_MANAGER"]
         for name, window in (("panel", player.panel), ("map", player.map)) * 2:
             run("xdotool", "windowactivate", "--sync", str(window.number))
+            keeps_keyboard(f"the keyboard in the {name}", window)
             if not minimised(player, window):
                 assert manager not in MINIMISING, f"{manager} did not minimise the {name}"
                 print(f"{manager} refuses to minimise the {name}")
@@ -210,7 +211,7 @@ def second_monitor(folder):
         until("the windows on the second monitor",
               lambda: places(player)[0][0] >= MONITOR and places(player)[1][0] == sum(places(player)[0][::2]))
         stood = places(player)
-        keys("alt+F4")
+        close(player.panel)
         assert player.end() == 0
     with Desktop(folder) as player:
         until(f"the windows at {stood}", lambda: places(player) == stood)
@@ -277,7 +278,7 @@ def dragged_past_the_edge(folder):
             steady("the map beside the panel again", lambda: beside(player))
             assert places(player)[0] != before, "nothing moved"
         stood = places(player)
-        keys("alt+F4")
+        close(player.panel)
         assert player.end() == 0
     with Desktop(folder) as player:
         steady(f"the windows at {stood}", lambda: places(player) == stood)
@@ -309,8 +310,9 @@ SPECIAL = {"none": [unmanaged], "i3": [one_window]}
 def main():
     if "ORVINEL_JOURNEYS" in os.environ:
         return journeys.main(__file__, SPECIAL.get(os.environ["ORVINEL_WINDOW_MANAGER"], ERRANDS))
-    if not shutil.which("xrandr"):
-        print("skipped, not installed: xrandr")
+    missing = [tool for tool in ("xrandr", "wmctrl") if not shutil.which(tool)]
+    if missing:
+        print("skipped, not installed:", ", ".join(missing))
         return 77
     missing = [manager for manager in [*MANAGERS, "i3"] if not shutil.which(manager)]
     if missing:
