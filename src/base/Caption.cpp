@@ -31,8 +31,7 @@ constexpr BuiltIn builtIn[] = {
     {Caption::TooMuchData, u"The data is larger than the program can hold. These files were left out:"},
     {Caption::ReadOnlyFolder,
      u"Nothing can be saved: you may not write to the folder %1.\n\nMove Orvinel to a folder of "
-     u"your own, "
-     "or install it there."},
+     u"your own, or install it there."},
     {Caption::NobodyLeft, u"No character is left who could capture this skill."},
     // Of the updater, which speaks also where the language file is among what was replaced.
     {Caption::UpdateTitle, u"Update Orvinel"},

@@ -7,8 +7,8 @@ namespace orvinel {
 // Colours that several windows share.
 inline constexpr Colour white = 0xFFFFFF;
 inline constexpr Colour darkGrey = 0x404040;
-inline constexpr Colour titleBlue =
-    0xFF0000;                               // behind the titles of panel and legend, and of chosen menu words
+// Behind the titles of panel and legend, and of chosen menu words.
+inline constexpr Colour titleBlue = 0xFF0000;
 inline constexpr Colour barBlue = 0xFF8080; // of the menu bar
 
 } // namespace orvinel
