@@ -4,6 +4,7 @@
 #include "app/Saving.h"
 #include "app/modData.h"
 #include "app/modLanguage.h"
+#include "ui/panel/PanelAccessibility.h"
 #include "world/modCampaigns.h"
 
 #include <QScopeGuard>
@@ -83,7 +84,7 @@ bool Program::refuseUnknownCampaign() {
 }
 
 void Program::makeWindows() {
-    installTabAccessibility();
+    installPanelAccessibility();
     panel_ = std::make_unique<frmMenu>(state_, desktop_);
     map_ = new frmMap({state_, files_.disk(), desktop_, panel_->MenuRightClickNeeded}, panel_.get());
     dialogs_ = std::make_unique<ProgramDialogs>(

@@ -1,5 +1,6 @@
 #include "support/ProgramFixture.h"
 #include "ui/map/CreditsList.h"
+#include "ui/panel/PanelAccessibility.h"
 #include "ui/panel/WindowKeys.h"
 
 #include <QAccessible>
@@ -14,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 // The panel and the map as somebody without a mouse finds them.
 struct KeyboardTest : ProgramFixture {
     void SetUp() override {
-        installTabAccessibility();
+        installPanelAccessibility();
         start();
         activate(*panel);
     }

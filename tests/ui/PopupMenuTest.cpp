@@ -1,6 +1,7 @@
 #include "app/ProgramState.h"
 #include "support/NumberedCaptions.h"
 #include "support/Printing.h"
+#include "ui/panel/PanelAccessibility.h"
 #include "ui/panel/frmPopupMenu.h"
 #include "ui/platform/SpokenRole.h"
 
@@ -33,6 +34,7 @@ struct PopupMenuTest : testing::Test {
     QSignalSpy closed{&menu, &frmPopupMenu::closed};
 
     PopupMenuTest() {
+        installPanelAccessibility();
         setSpokenRole(panel, QAccessible::Window);
         panel.setGeometry(100, 50, 217, 400);
         label.move(46, 18);

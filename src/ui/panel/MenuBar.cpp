@@ -22,7 +22,6 @@ constexpr std::array<QPoint, 3> wordPlaces = {QPoint(6, 1), QPoint(46, 1), QPoin
 } // namespace
 
 MenuBar::MenuBar(QWidget* panel) : QWidget(panel) {
-    installMenuAccessibility();
     setObjectName(u"Shape1"_s);
     setGeometry(barPlace);
     for (size_t i = 0; i < lblMenu.size(); ++i) {

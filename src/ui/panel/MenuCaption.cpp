@@ -1,90 +1,9 @@
 #include "ui/panel/MenuCaption.h"
 
-#include "ui/panel/MenuBar.h"
-#include "ui/panel/frmPopupMenu.h"
-
-#include <QAccessibleWidget>
-#include <QMetaObject>
-
 namespace orvinel {
-
-namespace {
-
-class AccessibleCaption : public QAccessibleWidget {
-  public:
-    explicit AccessibleCaption(MenuCaption& caption)
-        : QAccessibleWidget(&caption, QAccessible::MenuItem), caption_(caption) {}
-
-    QAccessible::Role role() const override {
-        return caption_.isCommand() ? QAccessible::MenuItem : QAccessible::StaticText;
-    }
-    // Of the texts only a heading is a row.
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.disabled = state.disabled || !caption_.isCommand();
-        return state;
-    }
-    QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? caption_.text() : QAccessibleWidget::text(kind);
-    }
-    QStringList actionNames() const override {
-        QStringList names = QAccessibleWidget::actionNames();
-        if (caption_.isCommand())
-            names.prepend(pressAction());
-        return names;
-    }
-    void doAction(const QString& name) override {
-        // Not at once: a screen reader gets its answer only then, and a command's window may stay open for
-        // long.
-        if (name == pressAction() && caption_.isCommand())
-            QMetaObject::invokeMethod(&caption_, &Label::clicked, Qt::QueuedConnection);
-        else
-            QAccessibleWidget::doAction(name);
-    }
-
-  private:
-    MenuCaption& caption_;
-};
-
-// Its rows are what can be chosen; the text beside a box is the box's name.
-class AccessibleMenu : public QAccessibleWidget {
-  public:
-    explicit AccessibleMenu(frmPopupMenu& menu)
-        : QAccessibleWidget(&menu, QAccessible::PopupMenu), menu_(menu) {}
-
-    QAccessibleInterface* parent() const override {
-        return QAccessible::queryAccessibleInterface(menu_.parentWidget());
-    }
-    int childCount() const override { return static_cast<int>(menu_.rows().size()); }
-    QAccessibleInterface* child(int index) const override {
-        return QAccessible::queryAccessibleInterface(menu_.rows().value(index));
-    }
-    int indexOfChild(const QAccessibleInterface* child) const override {
-        return static_cast<int>(menu_.rows().indexOf(child ? child->object() : nullptr));
-    }
-
-  private:
-    const frmPopupMenu& menu_;
-};
-
-QAccessibleInterface* accessibleMenuPart(const QString&, QObject* object) {
-    if (auto* caption = qobject_cast<MenuCaption*>(object))
-        return new AccessibleCaption(*caption);
-    if (auto* menu = qobject_cast<frmPopupMenu*>(object))
-        return new AccessibleMenu(*menu);
-    if (auto* bar = qobject_cast<MenuBar*>(object))
-        return new QAccessibleWidget(bar, QAccessible::MenuBar);
-    return nullptr;
-}
-
-} // namespace
 
 void MenuCaption::setCommand(bool command) {
     setFocusPolicy(command ? Qt::StrongFocus : Qt::NoFocus);
-}
-
-void installMenuAccessibility() {
-    QAccessible::installFactory(accessibleMenuPart);
 }
 
 } // namespace orvinel

@@ -15,8 +15,4 @@ class MenuCaption : public Label {
     bool isCommand() const { return focusPolicy() != Qt::NoFocus; }
 };
 
-// Makes screen readers take MenuCaption for a menu item, frmPopupMenu for a menu and MenuBar for a menu bar.
-// Once is enough, more do no harm.
-void installMenuAccessibility();
-
 } // namespace orvinel

@@ -6,48 +6,12 @@
 #include "ui/platform/Windows.h"
 
 #include <QAccessible>
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace orvinel {
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-class TabHeaderAccessible : public QAccessibleWidget {
-  public:
-    explicit TabHeaderAccessible(TabHeader* header) : QAccessibleWidget(header, QAccessible::PageTab) {}
-
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        const auto* header = static_cast<TabHeader*>(widget());
-        state.selectable = true;
-        state.selected = header->active();
-        return state;
-    }
-    QString text(QAccessible::Text kind) const override {
-        const auto* header = static_cast<TabHeader*>(widget());
-        return kind == QAccessible::Name ? header->text().trimmed() : QAccessibleWidget::text(kind);
-    }
-    QStringList actionNames() const override { return {pressAction()}; }
-    void doAction(const QString& action) override {
-        if (action == pressAction())
-            static_cast<TabHeader*>(widget())->click();
-    }
-};
-
-QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
-    auto* header = qobject_cast<TabHeader*>(object);
-    return header ? new TabHeaderAccessible(header) : nullptr;
-}
-
-} // namespace
-
-void installTabAccessibility() {
-    QAccessible::installFactory(makeAccessible);
-}
 
 TabHeader::TabHeader(Tab tab, const QString& caption, Colour textColour, QWidget* parent)
     : QAbstractButton(parent), textColour_(textColour) {

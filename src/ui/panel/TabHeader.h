@@ -31,7 +31,4 @@ class TabHeader : public QAbstractButton {
     bool active_ = false;
 };
 
-// Makes the headers known to screen readers; to be called once before the first is made.
-void installTabAccessibility();
-
 } // namespace orvinel

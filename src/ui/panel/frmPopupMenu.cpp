@@ -76,7 +76,6 @@ frmPopupMenu::frmPopupMenu(const ProgramState& state, QWidget* panel)
       shaSelection(outline(u"shaSelection"_s, highlightBlue, this)),
       shaBorder(outline(u"shaBorder"_s, darkGrey, this)),
       lblFalseHole(patch(u"lblFalseHole"_s, barBlue, this)) {
-    installMenuAccessibility();
     setObjectName(u"frmPopupMenu"_s);
     setCursor(programCursor(Pointer::Usual));
     setFont(arial(points8_25));
