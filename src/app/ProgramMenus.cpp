@@ -114,7 +114,7 @@ void ProgramMenus::ToggleAlwaysOnTop() {
 
 void ProgramMenus::applyAlwaysOnTop() {
     for (QWidget* window : std::initializer_list<QWidget*>{&with_.panel, &with_.map, &with_.legend})
-        with_.desktop.setAlwaysOnTop(*window, with_.panel.MenuAlwaysOnTop == 1);
+        setAlwaysOnTop(*window, with_.panel.MenuAlwaysOnTop == 1);
 }
 
 } // namespace orvinel

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "app/WindowPlaces.h"
-#include "base/Desktop.h"
 #include "ui/dialogs/frmLegenda.h"
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
+#include "ui/platform/Windows.h"
 
 #include <QObject>
 
@@ -21,7 +21,6 @@ class ProgramMenus : public QObject {
   public:
     // What the menus work on. All outlive them.
     struct Surroundings {
-        Desktop& desktop;
         frmMenu& panel;
         frmMap& map;
         frmLegenda& legend;

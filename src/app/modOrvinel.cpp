@@ -99,7 +99,7 @@ void Program::makeWindows() {
     wirePanel();
     wireMap();
     menus_ = std::make_unique<ProgramMenus>(
-        ProgramMenus::Surroundings{desktop_, *panel_, *map_, *legend_, *popupMenu_, *places_}, menuActions());
+        ProgramMenus::Surroundings{*panel_, *map_, *legend_, *popupMenu_, *places_}, menuActions());
     keys_ = std::make_unique<ProgramKeys>(
         ProgramKeys::Surroundings{*panel_, *map_, *legend_, *flashing_, *mapMenus_, *menus_});
 }

@@ -4,8 +4,6 @@
 #include <QRect>
 #include <QString>
 
-class QWidget;
-
 namespace orvinel {
 
 enum class MessageIcon { None, Question, Critical };
@@ -43,8 +41,6 @@ class Desktop {
     // Of the texts that are not the program's own: buttons of boxes, menus of fields. As in "de"; empty
     // leaves the system's language.
     virtual void setLanguage(const QString& code) = 0;
-    // Without moving, hiding or activating the window.
-    virtual void setAlwaysOnTop(QWidget& window, bool on) = 0;
 };
 
 // Twips of one screen pixel, the same on both axes: windows are measured in logical pixels of 1/96 inch.

@@ -43,8 +43,5 @@ void RecordingDesktop::wait(int milliseconds) {
 void RecordingDesktop::setHourglass(bool on) {
     log << u"hourglass %1"_s.arg(on);
 }
-void RecordingDesktop::setAlwaysOnTop(QWidget&, bool on) {
-    log << u"top %1"_s.arg(on);
-}
 
 } // namespace orvinel

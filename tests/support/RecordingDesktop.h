@@ -11,7 +11,7 @@ namespace orvinel {
 // A desktop that writes down what it is asked and answers as told.
 class RecordingDesktop : public Desktop {
   public:
-    QStringList log;    // "message Critical title|text", "ask ...", "open target", "wait 1000", "top 1", ...
+    QStringList log;    // "message Critical title|text", "ask ...", "open target", "wait 1000", ...
     bool answer = true; // to questions
     bool shellWorks = true;
     QRect work{0, 0, 1280, 1000};
@@ -34,7 +34,6 @@ class RecordingDesktop : public Desktop {
     void processPendingEvents() override { pending(); }
     void setHourglass(bool on) override;
     void setLanguage(const QString& code) override { language = code; }
-    void setAlwaysOnTop(QWidget& window, bool on) override;
 };
 
 } // namespace orvinel

@@ -99,7 +99,7 @@ void Dialog::showEvent(QShowEvent* event) {
         load();
         place();
     }
-    desktop().setAlwaysOnTop(*this, context_.alwaysOnTop == 1);
+    setAlwaysOnTop(*this, context_.alwaysOnTop == 1);
     keepOffTaskBar(*this);
     QDialog::showEvent(event);
 }

@@ -17,7 +17,6 @@
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -161,16 +160,6 @@ void QtDesktop::setHourglass(bool on) {
 void QtDesktop::setLanguage(const QString& code) {
     if (!code.isEmpty())
         translateControls(QLocale(code));
-}
-
-void QtDesktop::setAlwaysOnTop(QWidget& widget, bool on) {
-    QWidget& window = *widget.window();
-    // QWidget::setWindowFlag would hide and re-create the window.
-    Qt::WindowFlags flags = window.windowFlags();
-    flags.setFlag(Qt::WindowStaysOnTopHint, on);
-    window.overrideWindowFlags(flags);
-    if (QWindow* handle = window.windowHandle())
-        handle->setFlag(Qt::WindowStaysOnTopHint, on);
 }
 
 } // namespace orvinel

@@ -23,7 +23,6 @@ class QtDesktop : public Desktop {
     void processPendingEvents() override;
     void setHourglass(bool on) override;
     void setLanguage(const QString& code) override;
-    void setAlwaysOnTop(QWidget& window, bool on) override;
 
   private:
     QString folder_;

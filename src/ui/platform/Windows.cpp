@@ -233,4 +233,14 @@ void WindowDrag::move(QPoint global) {
         window_.move(global - grip_);
 }
 
+void setAlwaysOnTop(QWidget& widget, bool on) {
+    QWidget& window = *widget.window();
+    // QWidget::setWindowFlag would hide and re-create the window.
+    Qt::WindowFlags flags = window.windowFlags();
+    flags.setFlag(Qt::WindowStaysOnTopHint, on);
+    window.overrideWindowFlags(flags);
+    if (QWindow* handle = window.windowHandle())
+        handle->setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
 } // namespace orvinel

@@ -73,6 +73,9 @@ void moveShown(QWidget& window, QPoint to);
 // or while it is a part of another window.
 void keepOffTaskBar(QWidget& window);
 
+// The window that the widget is or lies in, without moving, hiding or activating it.
+void setAlwaysOnTop(QWidget& widget, bool on);
+
 // The window's button on the task bar is to be calm: some desktops have it flash for a window that appears
 // without becoming active.
 void wantNoAttention(const QWidget& window);
