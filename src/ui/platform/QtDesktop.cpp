@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QThread>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 
