@@ -126,7 +126,7 @@ void chooseFromMenus(int step) {
             const size_t entry = static_cast<size_t>(step / 3) % entries.size();
             const MenuAction action = entries[entry].Action;
             for (const MenuAction outside :
-                 {MenuAction::Update, MenuAction::HomePage, MenuAction::History, MenuAction::Guide})
+                 {MenuAction::Update, MenuAction::StartPage, MenuAction::History, MenuAction::Guide})
                 if (action == outside)
                     return;
             menus->OnMenuEntryClick(static_cast<int>(menu), static_cast<int>(entry));
