@@ -1,5 +1,7 @@
 #include "app/ProgramMenus.h"
 
+#include "ui/platform/Windows.h"
+
 #include <optional>
 #include <utility>
 #include <vector>

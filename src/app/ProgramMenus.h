@@ -5,7 +5,6 @@
 #include "ui/map/frmMap.h"
 #include "ui/panel/frmMenu.h"
 #include "ui/panel/frmPopupMenu.h"
-#include "ui/platform/Windows.h"
 
 #include <QObject>
 

@@ -97,7 +97,7 @@ void WindowPlaces::settle() {
         return;
     const QRect panel = shownPlace(windows_.panel);
     const QRect map = shownPlace(windows_.map);
-    if (refused(panel)) {
+    if (refused(panel.width())) {
         leavePair();
         return unplaceable();
     }
@@ -119,11 +119,10 @@ void WindowPlaces::settle() {
     settling_.start();
 }
 
-bool WindowPlaces::refused(const QRect& panelShown) {
+bool WindowPlaces::refused(int panelShown) {
     const WindowPair now{placeOnServer(windows_.panel), placeOnServer(windows_.map)};
     // Some that tile keep quiet about a move that they refuse; then the window is thought to have moved.
-    const int width = qRound(now.panel.width() / windows_.panel.devicePixelRatio());
-    tiled_ = isTiled(width, panelWidth()) || isTiled(panelShown.width(), panelWidth()) ? tiled_ + 1 : 0;
+    tiled_ = isTiled(now.panel.width(), panelWidth()) ? tiled_ + 1 : 0;
     if (tiled_ > 0)
         settling_.start();
     if (tiled_ > 0 || wereBeside_)
@@ -133,7 +132,7 @@ bool WindowPlaces::refused(const QRect& panelShown) {
     WindowPair pair = wanted();
     if (asked_) {
         pair.panel.moveTopLeft(*asked_);
-        pair.map.moveTopLeft(*asked_ + QPoint(panelShown.width(), 0));
+        pair.map.moveTopLeft(*asked_ + QPoint(panelShown, 0));
     }
     const bool granted = area.contains(pair.panel) && area.contains(pair.map);
     apart_ = granted && isLeftApart(before_.value_or(now), now) ? apart_ + 1 : 0;

@@ -59,7 +59,7 @@ class WindowPlaces : public QObject {
     // Looks where the windows really are, and puts them side by side.
     void settle();
     // The window manager has not done what no other one refuses.
-    bool refused(const QRect& panelShown);
+    bool refused(int panelShown);
     // The legend's place when none is remembered, or one that no screen shows any more: the map's lower left
     // corner.
     QPoint legendCorner() const;

@@ -16,8 +16,7 @@ import sys
 import journeys
 import updater
 from journeys import BOSS, EMPTY, Player, in_marsh, make_world
-from managed import steady
-from screen import click, has_focus, hover, keys, type_text, until
+from screen import click, has_focus, hover, keys, steady, type_text, until
 
 SYSTEM_PYTHON = "/usr/bin/python3"  # the one that the desktop's own packages are for
 LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
@@ -231,6 +230,7 @@ def legend_and_drawn_windows(folder):
                            (["Down", "Down"], ("Special thanks", "Lampwick"))):
             choose_from_menu(player, "Left", *way)
             becomes(f"the window with {texts[0]}", lambda t: all(t.shown(text) for text in texts))
+            assert not Tree().shown("Mail to"), "a mail link without an address"
             nothing_is_nameless(Tree())
             keys("Escape")
             becomes("its end", lambda t: not t.shown(texts[0]))

@@ -16,7 +16,7 @@ import tempfile
 import time
 from unittest import mock
 
-from screen import (Running, click, colour, drag, hover, keys, near, pixels, run, see, type_text, until)
+from screen import (Running, click, colour, drag, hover, keys, near, pixels, run, see, steady, type_text, until, windows)
 
 NEEDED = ["Xvfb", "openbox", "xdotool", "xwininfo", "xprop", "import", "convert"]
 PROGRAM = pathlib.Path(sys.argv[1]).resolve()
@@ -126,6 +126,21 @@ def selection_lasts(folder):
         player.ready()
         player.quit()
     holds(folder / "Data/Options.txt", before)
+
+
+def enlarged(folder):
+    """At twice the size panel and map are two windows side by side."""
+    make_world(folder)
+    options(folder, Campaign=2, Region=1, PosX=600, PosY=300, DimX=4500, DimY=3000)
+
+    def beside():
+        wide = sorted((w for w in windows(player.process.pid) if w.width > 2), key=lambda w: w.width)
+        places = [(w.x, w.y, w.width) for w in wide]
+        return places == [(80, 40, 2 * PANEL_WIDTH), (80 + 2 * PANEL_WIDTH, 40, 600)]
+    with mock.patch.dict(os.environ, QT_SCALE_FACTOR="2"), Running(folder) as player:
+        steady("panel and map side by side", beside)
+        click(80 + 2 * QUIT[0], 40 + 2 * QUIT[1])
+        assert player.end() == 0
 
 
 def capture(folder):
@@ -341,7 +356,7 @@ def no_display(folder):
         player.quit()
 
 
-ERRANDS = [selection_lasts, capture, notes, chest, only_once, no_language, unknown_campaign, shell,
+ERRANDS = [selection_lasts, enlarged, capture, notes, chest, only_once, no_language, unknown_campaign, shell,
            cannot_write, ends_by_signal, bad_pictures, no_display]
 
 

@@ -1,13 +1,11 @@
 """What the window manager says of the program's windows, a bar and a second monitor that it has to reckon with."""
 
 import ctypes
-import time
 
 import journeys
 from journeys import Player
-from screen import Running, keys, run, until, windows
+from screen import Running, keys, run, steady, until, windows
 
-CALM = 0.5  # seconds
 MONITOR = 1280  # pixels wide; there are two of them
 BAR = 40  # pixels high
 
@@ -15,16 +13,6 @@ BAR = 40  # pixels high
 def state(number):
     said = run("xprop", "-id", str(number), "_NET_WM_STATE")
     return {word.strip(" ,\n") for word in said.partition("=")[2].split("_NET_WM_STATE_")}
-
-
-def steady(what, holds):
-    """It comes true and stays so while whatever was set going comes to its end."""
-    seen = []
-
-    def look():
-        seen[:] = seen + [time.monotonic()] if holds() else []
-        return seen and seen[-1] - seen[0] > CALM
-    until(what, look)
 
 
 def all_have(player, wanted, unwanted=()):

@@ -6,6 +6,7 @@ import subprocess
 import time
 
 LIMIT = 10  # seconds until something that does not come counts as missing
+CALM = 0.5  # seconds that what is to stay is looked at
 ACTING = {"mousemove", "mousedown", "mouseup", "click", "key", "type"}  # what a player's hands do
 
 
@@ -27,6 +28,16 @@ def until(what, look, limit=None):
         if time.monotonic() > end:
             raise AssertionError(f"never seen: {what}")
         time.sleep(0.02)
+
+
+def steady(what, holds):
+    """It comes true and stays so while whatever was set going comes to its end."""
+    seen = []
+
+    def look():
+        seen[:] = seen + [time.monotonic()] if holds() else []
+        return seen and seen[-1] - seen[0] > CALM
+    until(what, look)
 
 
 def pixels(x, y, width=1, height=1):

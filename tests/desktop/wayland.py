@@ -20,7 +20,6 @@ from unittest import mock
 
 import journeys
 import windows as placed
-from managed import steady
 from screen import Running, click, colour, hover, keys, near, pixels, run, until, windows
 
 SOCKET = "orvinel-nested"
@@ -29,7 +28,7 @@ TITLE = (0, 0, 255)
 PASTURE = (700, 700)  # a place of the screen where the mouse changes nothing: on the map, far from its markers
 PLUGIN = "/usr/lib/*/qt6/plugins/platforms/libqwayland*.so"
 NOBODY = 65534
-MENU, WINDOW = 5000, 20000  # pixels that at least change where one is shown
+WINDOW = 20000  # pixels that at least change where one is shown
 SESSION_ENDS = 5  # seconds: a session may be left hanging by what it shows
 
 
@@ -37,26 +36,28 @@ class Session:
     """A desktop in a window on the screen. `socket` and `display` are what programs connect to; its files lie in a folder of
     its own, as it may have to run as somebody else."""
 
-    def __enter__(self):
-        self.folder = pathlib.Path(self.files.enter_context(tempfile.TemporaryDirectory()))
-        self.socket = self.folder / SOCKET
-        environment = {**os.environ, "XDG_RUNTIME_DIR": str(self.folder), "XDG_CONFIG_HOME": str(self.folder)}
-        self.process = subprocess.Popen(self.command(), env=environment,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
-        self.display = until("the nested session", self.ready)
-        self.take_pointer()
-        return self
+    @contextlib.contextmanager
+    def running(self):
+        with tempfile.TemporaryDirectory() as folder:
+            self.folder = pathlib.Path(folder)
+            self.socket = self.folder / SOCKET
+            environment = {**os.environ, "XDG_RUNTIME_DIR": folder, "XDG_CONFIG_HOME": folder}
+            self.process = subprocess.Popen(self.command(), env=environment, stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL, start_new_session=True)
+            try:
+                self.display = until("the nested session", self.ready)
+                self.take_pointer()
+                yield self
+            finally:
+                self.stop()
 
-    def __init__(self):
-        self.files = contextlib.ExitStack()
-
-    def __exit__(self, *_):
-        try:
+    def stop(self):
+        with contextlib.suppress(ProcessLookupError):
             os.killpg(self.process.pid, signal.SIGTERM)
-            until("the end of the session", self.ended, SESSION_ENDS)
-        except AssertionError:
-            os.killpg(self.process.pid, signal.SIGKILL)
-        self.files.close()
+            try:
+                until("the end of the session", self.ended, SESSION_ENDS)
+            except AssertionError:
+                os.killpg(self.process.pid, signal.SIGKILL)
 
     def ended(self):
         self.process.poll()  # takes notice of it
@@ -159,9 +160,9 @@ class Nested(Running):
     def main_windows(self):
         return [w for w in windows(self.process.pid) if w.title == "Orvinel"]
 
-    def appears_and_goes(self, what, least, come, go=None):
-        """Something of at least so many pixels is shown and taken away again, by Escape where nothing else is said. Less than
-        half of that may stay another: a clock, the mouse, the frame that tells where the keyboard is."""
+    def appears_and_goes(self, what, come, go=None):
+        """A window is shown and taken away again, by Escape where nothing else is said. Less than half as many pixels as it has
+        may stay others: a clock, the mouse, the frame that tells where the keyboard is."""
         def shown():
             hover(*PASTURE)
             return int.from_bytes(pixels(0, 0, *SCREEN), "big")
@@ -171,29 +172,36 @@ class Nested(Running):
             return (size - (shown() ^ before).to_bytes(size, "big").count(0)) / 3
         before = shown()
         come()
-        until(what, lambda: changed() >= least)
+        until(what, lambda: changed() >= WINDOW)
         if go:
             go()
 
         def gone():
             if not go:
                 keys("Escape")  # again: what has just appeared may not have had the keyboard
-            return changed() < least / 2
+            return changed() < WINDOW / 2
         until(f"the end of {what}", gone)
 
 
 def uses(player, x, y):
-    """Its menus, the legend and a dialog, as players come to them by mouse and keys."""
-    def options(*way):
+    """Its menus, the legend and dialogs, as players come to them by mouse and keys."""
+    below = (x + 88, y + 218)  # the page of bosses, where the menu is going to be
+    page = colour(*below)
+
+    def menu(wanted):
         click(x + journeys.OPTIONS_MENU[0], y + journeys.OPTIONS_MENU[1])
-        time.sleep(0.3)  # a menu hears keys once the session has given it the keyboard
-        if way:
-            keys(*way)
-    player.appears_and_goes("a menu", MENU, options)
-    player.appears_and_goes("the legend", WINDOW, lambda: options("Home", "Return"), lambda: options("Home", "Return"))
-    player.appears_and_goes("the characters", WINDOW, lambda: options("End", "Return"))
+        until(f"a menu: {wanted}", lambda: near(colour(*below), page) != wanted)
+
+    def choose(*way):
+        menu(True)
+        time.sleep(0.3)  # it hears keys once the session has given it the keyboard
+        keys(*way, "Return")
+    menu(True)
+    menu(False)
+    player.appears_and_goes("the legend", lambda: choose("Home"), lambda: choose("Home"))
+    player.appears_and_goes("the characters", lambda: choose("End"))
     boss = (x + journeys.PANEL_WIDTH + 2 + journeys.BOSS[0], y + 2 + journeys.BOSS[1])
-    player.appears_and_goes("the capture dialog", WINDOW, lambda: click(*boss, times=2))
+    player.appears_and_goes("the capture dialog", lambda: click(*boss, times=2))
 
 
 def beside(folder):
@@ -220,7 +228,7 @@ def nested(session, errand, x11):
     """The errand in a session of its own, through Xwayland or without an X display."""
     def played(folder):
         with contextlib.ExitStack() as during:
-            opened = during.enter_context(session())
+            opened = during.enter_context(session().running())
             launcher = ["env", "-u", "DISPLAY", f"WAYLAND_DISPLAY={opened.socket}", *([f"DISPLAY={opened.display}"] if x11 else [])]
             during.enter_context(mock.patch.object(Running, "launcher", launcher))
             if x11:

@@ -14,8 +14,8 @@ import time
 
 import journeys
 from journeys import in_marsh, make_world
-from managed import BAR, MONITOR, Bar, Desktop, OneWindow, all_have, close, is_iconic, places, state, steady, two_monitors
-from screen import click, colour, drag, has_focus, hover, keys, near, run, see, until, windows
+from managed import BAR, MONITOR, Bar, Desktop, OneWindow, all_have, close, is_iconic, places, state, two_monitors
+from screen import click, colour, drag, has_focus, hover, keys, near, run, see, steady, until, windows
 
 MANAGERS = ["openbox", "xfwm4", "kwin_x11", "marco"]
 MINIMISING = ["openbox"]  # they minimise any window that they are asked to
@@ -142,7 +142,8 @@ def one_window(folder):
     journeys.options(folder, Campaign=2, Region=1, PosX=1500, PosY=1500, DimX=9000, DimY=6000)
     for _ in range(2):
         with OneWindow(folder) as player:
-            assert player.whole.width > 0.9 * MONITOR, "the room is not used"
+            room = int(re.search(r"Width: (\d+)", run("xwininfo", "-root")).group(1))
+            assert player.whole.width > 0.9 * room, "the room is not used"
             see("the region beside the panel", *player.view((100, 100)), journeys.GROUND)
             see("the panel's title", player.whole.x + 150, player.whole.y + 3, (0, 0, 255))
             stood = player.place()

@@ -141,7 +141,11 @@ QRect placeOnServer(const QWidget& window) {
         xcb_get_geometry_reply(connection, size, nullptr));
     const std::unique_ptr<xcb_translate_coordinates_reply_t, Free> at(
         xcb_translate_coordinates_reply(connection, place, nullptr));
-    return is && at ? QRect(at->dst_x, at->dst_y, is->width, is->height) : shownPlace(window);
+    if (!is || !at)
+        return shownPlace(window);
+    const double scale = window.devicePixelRatio();
+    const auto logical = [scale](int length) { return qRound(length / scale); };
+    return {logical(at->dst_x), logical(at->dst_y), logical(is->width), logical(is->height)};
 }
 
 void wantNoAttention(const QWidget& window) {

@@ -63,7 +63,7 @@ class WindowDrag {
 // Where a window is on the screen, pixels; where it is to appear while it is not there yet. A window manager
 // may have put it elsewhere than where QWidget::pos() says.
 QRect shownPlace(const QWidget& window);
-// The same as the display knows it, pixels of the display: some window managers do not tell a window where
+// The same as the display knows it: some window managers do not tell a window where
 // they put it.
 QRect placeOnServer(const QWidget& window);
 // Moves it there, also when it believes to be there already.
@@ -73,7 +73,8 @@ void moveShown(QWidget& window, QPoint to);
 // or while it is a part of another window.
 void keepOffTaskBar(QWidget& window);
 
-// The window that the widget is or lies in, without moving, hiding or activating it.
+// Keeps the window that the widget is or lies in above all others, or no longer, without moving, hiding or
+// activating it.
 void setAlwaysOnTop(QWidget& widget, bool on);
 
 // The window's button on the task bar is to be calm: some desktops have it flash for a window that appears
