@@ -128,7 +128,7 @@ def selection_lasts(folder):
     holds(folder / "Data/Options.txt", before)
 
 
-def enlarged(folder):
+def stand_enlarged(folder):
     """At twice the size panel and map are two windows side by side."""
     make_world(folder)
     options(folder, Campaign=2, Region=1, PosX=600, PosY=300, DimX=4500, DimY=3000)
@@ -137,10 +137,15 @@ def enlarged(folder):
         wide = sorted((w for w in windows(player.process.pid) if w.width > 2), key=lambda w: w.width)
         places = [(w.x, w.y, w.width) for w in wide]
         return places == [(80, 40, 2 * PANEL_WIDTH), (80 + 2 * PANEL_WIDTH, 40, 600)]
-    with mock.patch.dict(os.environ, QT_SCALE_FACTOR="2"), Running(folder) as player:
+    with Running(folder) as player:
         steady("panel and map side by side", beside)
         click(80 + 2 * QUIT[0], 40 + 2 * QUIT[1])
         assert player.end() == 0
+
+
+def enlarged(folder):
+    with mock.patch.dict(os.environ, QT_SCALE_FACTOR="2"):
+        stand_enlarged(folder)
 
 
 def capture(folder):

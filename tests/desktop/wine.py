@@ -52,10 +52,25 @@ def ends_with_the_session(folder):
     assert written["quit"] and written["quit"] == written["logged out"], written
 
 
+def dots_per_inch(number):
+    subprocess.run(["wine", "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD",
+                    "/d", str(number), "/f"], check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    for how in "--kill", "--persistent":  # it reads them at its start
+        subprocess.run(["wineserver", how])
+
+
+def enlarged(folder):
+    dots_per_inch(192)
+    try:
+        journeys.stand_enlarged(folder)
+    finally:
+        dots_per_inch(96)
+
+
 # Wine itself could not live with a limit to the size of files, and hands documents to programs of its own. Signals that end a
-# program, and systems without a display, are not Windows' ways.
-ELSEWHERE = [journeys.cannot_write, journeys.shell, journeys.ends_by_signal, journeys.no_display]
-ERRANDS = [shipped, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE), ends_with_the_session]
+# program, systems without a display, and a scale in the environment are not Windows' ways.
+ELSEWHERE = [journeys.cannot_write, journeys.shell, journeys.ends_by_signal, journeys.no_display, journeys.enlarged]
+ERRANDS = [shipped, enlarged, *(errand for errand in journeys.ERRANDS if errand not in ELSEWHERE), ends_with_the_session]
 
 
 def main(script, errands):
