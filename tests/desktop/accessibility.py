@@ -16,7 +16,7 @@ import sys
 import journeys
 import updater
 from journeys import BOSS, EMPTY, Player, in_marsh, make_world
-from screen import click, has_focus, hover, keys, steady, type_text, until
+from screen import click, hover, keys, type_text, until
 
 SYSTEM_PYTHON = "/usr/bin/python3"  # the one that the desktop's own packages are for
 LAUNCHERS = ["/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher"]
@@ -272,26 +272,24 @@ def update_window(folder):
     home = updater.version(folder / "Orvinel", updater.OLD)
     archive = updater.package(folder / "Downloads", updater.NEW)
     (home / "Campaign.03.Sunhollow/Zones.txt").write_bytes(b"mine")
-    with updater.at_home(folder), updater.nothing_left(folder), Player(home) as player:
-        steady("the keyboard in the panel", lambda: has_focus(player.panel))  # it takes it at the end of its start
-        with updater.start(home) as window:
-            tree = becomes("what it asks", lambda t: any("Choose the package" in text for text in told(t)) and t, *UPDATER)
-            nothing_is_nameless(tree)
-            assert tree.one("text", "Package of Orvinel").queryText().getText(0, -1) == str(archive)
-            assert buttons(tree) == {"Browse...": True, "Start Orvinel": True, "Update": True, "Quit": True}, buttons(tree)
-            assert not bars(tree)
-            window.begin()
-            tree = becomes("that it waits", lambda t: any("still running" in text for text in told(t)) and t, *UPDATER)
-            nothing_is_nameless(tree)
-            assert buttons(tree) == {"Browse...": False, "Start Orvinel": False, "Update": False, "Cancel": True}, buttons(tree)
-            assert [(n.name, n.queryValue().currentValue > 0) for n in bars(tree)] == [(updater.TITLE, True)], bars(tree)
-            player.process.kill()
-            tree = becomes("what was kept", lambda t: any("\nCampaign.03.Sunhollow" in text for text in told(t)) and t, *UPDATER)
-            nothing_is_nameless(tree)
-            assert any(f"Version {updater.NEW} is installed." in text for text in told(tree)), told(tree)
-            assert buttons(tree) == {"Start Orvinel": True, "Quit": True} and not bars(tree), buttons(tree)
-            assert has(tree.one("push button", "Start Orvinel"), "FOCUSED")
-            keys("Escape")
+    with updater.at_home(folder), updater.nothing_left(folder), updater.Settled(home) as player, updater.start(home) as window:
+        tree = becomes("what it asks", lambda t: any("Choose the package" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert tree.one("text", "Package of Orvinel").queryText().getText(0, -1) == str(archive)
+        assert buttons(tree) == {"Browse...": True, "Start Orvinel": True, "Update": True, "Quit": True}, buttons(tree)
+        assert not bars(tree)
+        window.begin()
+        tree = becomes("that it waits", lambda t: any("still running" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert buttons(tree) == {"Browse...": False, "Start Orvinel": False, "Update": False, "Cancel": True}, buttons(tree)
+        assert [(n.name, n.queryValue().currentValue > 0) for n in bars(tree)] == [(updater.TITLE, True)], bars(tree)
+        player.process.kill()
+        tree = becomes("what was kept", lambda t: any("\nCampaign.03.Sunhollow" in text for text in told(t)) and t, *UPDATER)
+        nothing_is_nameless(tree)
+        assert any(f"Version {updater.NEW} is installed." in text for text in told(tree)), told(tree)
+        assert buttons(tree) == {"Start Orvinel": True, "Quit": True} and not bars(tree), buttons(tree)
+        assert has(tree.one("push button", "Start Orvinel"), "FOCUSED")
+        keys("Escape")
 
 
 def on_the_bus():

@@ -18,7 +18,7 @@ import time
 from unittest import mock
 
 from journeys import EMPTY, HELP_MENU, PROGRAM, UPDATE_ROW, Player, content, crlf, in_marsh, main, make_world, note_menu, write_note
-from screen import Running, has_focus, keys, run, type_text, until
+from screen import Running, has_focus, keys, run, steady, type_text, until
 
 UPDATER = PROGRAM.parent / "update.exe"
 TITLE = "Update Orvinel"
@@ -70,6 +70,15 @@ class StartedByOther(Player):
 
     def end(self):
         return self.process.wait()
+
+
+class Settled(Player):
+    """The program at the end of its start, when it takes the keyboard for its panel and lies above all else."""
+
+    def __enter__(self):
+        super().__enter__()
+        steady("the keyboard in the panel", lambda: has_focus(self.panel))
+        return self
 
 
 class Updater(Running):
@@ -218,8 +227,8 @@ def own_stays(folder):
     own.write_bytes(own.read_bytes() + b";mine\r\n")
     kept = own.read_bytes()
     with at_home(folder), nothing_left(folder):
-        with Player(home) as waited_for, start(home) as updater:
-            updater.begin()  # by mouse: a program that has just been started may take the keyboard back
+        with Settled(home) as waited_for, start(home) as updater:
+            updater.begin()
             time.sleep(1)  # nothing may happen while the program runs
             assert content(home / "Data/Version.txt") == (OLD + "\n").encode()
             waited_for.process.kill()
